@@ -1,0 +1,10 @@
+# `cmake --build … --target format` puts every source in the house's form; `format-check` only tells.
+find_program(CLANG_FORMAT clang-format)
+if(CLANG_FORMAT)
+  file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
+       "${PROJECT_SOURCE_DIR}/src/*.cpp" "${PROJECT_SOURCE_DIR}/src/*.h"
+       "${PROJECT_SOURCE_DIR}/tests/*.cpp" "${PROJECT_SOURCE_DIR}/tests/*.h"
+       "${PROJECT_SOURCE_DIR}/bench/*.cpp" "${PROJECT_SOURCE_DIR}/bench/*.h")
+  add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${formatted} VERBATIM)
+  add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${formatted} VERBATIM)
+endif()

@@ -1,0 +1,18 @@
+# tallywick_library(NAME SOURCES… LIBRARIES…): a static library of src/NAME, named tallywick_NAME, whose headers
+# are included as "NAME/header.h".
+function(tallywick_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;PRIVATE_LIBRARIES")
+  add_library(tallywick_${name} STATIC ${arg_SOURCES})
+  target_include_directories(tallywick_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(tallywick_${name} PUBLIC ${arg_LIBRARIES} PRIVATE tallywick_warnings ${arg_PRIVATE_LIBRARIES})
+endfunction()
+
+# tallywick_test(NAME SOURCES… LIBRARIES…): a test program NAME_test, each of its cases a test of ctest.
+function(tallywick_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  add_executable(${name}_test ${arg_SOURCES})
+  target_include_directories(${name}_test PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES} tallywick_warnings GTest::gtest GTest::gmock
+                                             GTest::gtest_main)
+  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+endfunction()

@@ -1,0 +1,10 @@
+# The one warnings target; every target of the project links it. Errors are switched on with
+# -DCMAKE_COMPILE_WARNING_AS_ERROR=ON, as the project's own CI does.
+add_library(tallywick_warnings INTERFACE)
+if(MSVC)
+  target_compile_options(tallywick_warnings INTERFACE /W4 /utf-8)
+else()
+  target_compile_options(tallywick_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wcast-align -Wduplicated-cond -Wlogical-op -Wnull-dereference -Wunused)
+endif()
