@@ -1,0 +1,39 @@
+// The data folder: where every path that a handler writes becomes a real file.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// The fixed install path under which absolute paths are written. It stands for the data folder.
+inline constexpr std::string_view installFolder = R"(C:\Program Files\Tallywick Software\Tallywick)";
+
+class DataFolder {
+ public:
+  explicit DataFolder(std::filesystem::path root);
+
+  const std::filesystem::path& root() const { return root_; }
+
+  /// The real file or folder below the data folder for a path as the handlers write it: `\` or `/`, either
+  /// letter case, relative or under the install path. Where nothing stands by that name in any case, the part
+  /// that is missing keeps the case in which it is written, so a file is never created a second time in
+  /// another case. A path that leaves the data folder raises error 76.
+  std::filesystem::path resolve(std::string_view written) const;
+
+  /// Whether a plain file stands there.
+  bool exists(std::string_view written) const;
+
+ private:
+  std::filesystem::path root_;
+};
+
+/// The entry of `folder` whose name is `name` in any letter case; `folder / name` where there is none. Of
+/// several it is the first in byte order, whatever case is asked for, so that all who ask share one file.
+std::filesystem::path entryInAnyCase(const std::filesystem::path& folder, std::string_view name);
+
+/// A file's name as text, whatever characters it holds.
+std::string nameOf(const std::filesystem::path& file);
+
+}  // namespace tallywick

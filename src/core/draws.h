@@ -1,0 +1,39 @@
+// Draw records and the texts that are built from them.
+#pragma once
+
+#include "core/sequential_reader.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// Month, day, year, five white balls, extra ball, and a field that the server defines.
+inline constexpr std::size_t drawFields = 10;
+/// Date, main draw, two fields, the Double Play draw's six numbers, a field.
+inline constexpr std::size_t doublePlayFields = 18;
+
+/// One draw as views into its record. Numbers stay text and are compared as text.
+struct Draw {
+  std::string_view month;
+  std::string_view day;
+  std::string_view year;
+  std::array<std::string_view, 5> white;
+  std::string_view extra;
+
+  /// MMDDYYYY: the key that finds a draw's amount.
+  std::string dateKey() const;
+  /// MM-DD-YYYY.
+  std::string displayDate() const;
+  /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball. With
+  /// two-digit numbers and a leading blank the numbers stand at 16, 19, 22, 25, 28 and 33.
+  std::string line() const;
+  void appendLine(std::string& to) const;
+};
+
+Draw drawOf(const Fields<drawFields>& record);
+Draw mainDrawOf(const Fields<doublePlayFields>& record);
+Draw doublePlayDrawOf(const Fields<doublePlayFields>& record);
+
+}  // namespace tallywick

@@ -1,0 +1,63 @@
+// Replacing files so that no kill, cut or full disk loses what was there before.
+#pragma once
+
+#include "core/os.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallywick {
+
+/// Names of the program's own in a game folder. A server that lists one of them is refused.
+inline constexpr std::string_view journalName = "TALLYWICK.JNL";
+inline constexpr std::string_view lockName = "TALLYWICK.LCK";
+inline constexpr std::string_view stagedSuffix = ".tw~";
+
+bool isOwnWorkName(std::string_view name);
+
+/// Replaces one file in one step: a work file beside it is written and synced, then takes its name. A failure
+/// leaves the file as it was.
+void replaceFile(const std::filesystem::path& file, std::string_view contents);
+
+/// The lock on a folder: Done, the maintenance, an update and the sort tool hold it while they change files.
+os::FileLock lockFolder(const std::filesystem::path& folder);
+
+/// A change of several files of one folder that happens as a whole or not at all. The new files are staged
+/// beside the old ones, a journal that names them is put in place in one step, and from then on the change is
+/// made: commit() takes over name by name and removes the journal, and where that is cut short finishCommit()
+/// goes on. The folder's lock is held from construction on, and what an earlier change left behind is
+/// finished first.
+class FileCommit {
+ public:
+  explicit FileCommit(std::filesystem::path folder);
+  /// Drops what was staged and not committed.
+  ~FileCommit();
+  FileCommit(const FileCommit&) = delete;
+  FileCommit& operator=(const FileCommit&) = delete;
+
+  /// Stages new contents for the file `name`, in whatever letter case it stands in the folder.
+  void stage(std::string_view name, std::string_view contents);
+
+  /// Where the caller itself is to write the new file `name`, which it closes and has synced before commit().
+  std::filesystem::path stageByCaller(std::string_view name);
+
+  /// Takes over the staged files in the order in which they were staged.
+  void commit();
+
+ private:
+  std::filesystem::path folder_;
+  os::FileLock lock_;
+  std::vector<std::string> names_;
+};
+
+/// Finishes a change of `folder` that was cut short after its journal was in place, and removes what an
+/// uncommitted one left behind. A folder that does not stand has nothing to finish. The caller holds the
+/// folder's lock.
+void finishCommit(const std::filesystem::path& folder);
+
+/// Takes the folder's lock and finishes what was cut short; for the start of the program.
+void recoverFolder(const std::filesystem::path& folder);
+
+}  // namespace tallywick

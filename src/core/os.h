@@ -1,0 +1,74 @@
+// What the operating system is asked for. One implementation file a platform; nothing else in the program
+// knows which platform it runs on.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tallywick::os {
+
+/// A file's bytes, read at once.
+class FileBytes {
+ public:
+  FileBytes() = default;
+  FileBytes(std::unique_ptr<char[]> bytes, std::size_t size) : bytes_(std::move(bytes)), size_(size) {}
+  std::string_view view() const { return {bytes_.get(), size_}; }
+
+ private:
+  std::unique_ptr<char[]> bytes_;
+  std::size_t size_ = 0;
+};
+
+/// Reads a whole file. Raises a RuntimeError (53, 70, 75, 76 …).
+FileBytes readFile(const std::filesystem::path& file);
+
+/// Creates or empties `file`, writes `contents` and waits until they are on the disk. Every step is checked:
+/// on a failure the file is removed and a RuntimeError (61, 70, 75 …) raised.
+void writeDurably(const std::filesystem::path& file, std::string_view contents);
+
+/// Waits until what was written to `file` by others (the transfer library) is on the disk.
+void syncFile(const std::filesystem::path& file);
+
+/// Gives `from` the name `to` in one step, whether or not `to` stands, and waits until the folder knows it.
+void takeName(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Removes `file` where it stands and waits until the folder knows it. A missing file is no error.
+void removeDurably(const std::filesystem::path& file);
+
+/// An exclusive lock on a lock file, released when it goes or when its holder dies.
+class FileLock {
+ public:
+  enum class Wait { no, yes };
+  /// Takes the lock, creating the lock file where there is none. Raises RuntimeError 70 where another program
+  /// holds it: at once with `Wait::no`, after two seconds with `Wait::yes`.
+  FileLock(const std::filesystem::path& lockFile, Wait wait);
+  ~FileLock();
+  FileLock(FileLock&& other) noexcept;
+  FileLock(const FileLock&) = delete;
+  FileLock& operator=(const FileLock&) = delete;
+  FileLock& operator=(FileLock&&) = delete;
+
+ private:
+  std::intptr_t handle_;
+};
+
+/// The platform's folder for this user's data of the program, for example ~/.local/share/tallywick.
+std::filesystem::path userDataFolder();
+
+/// The file of the running program itself.
+std::filesystem::path programFile();
+
+/// Whether the platform can start `program` as it stands.
+bool canRun(const std::filesystem::path& program);
+
+/// Starts `program` with `arguments` in `workingFolder` and does not wait for it. Raises RuntimeError 53
+/// where it cannot be started.
+void startProgram(const std::filesystem::path& program, const std::string& argument,
+                  const std::filesystem::path& workingFolder);
+
+}  // namespace tallywick::os

@@ -1,0 +1,175 @@
+// The platform file of Linux and other POSIX systems.
+#include "core/os.h"
+#include "core/runtime_error.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace tallywick::os {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(int error, const fs::path& file) {
+  throw runtimeErrorFrom(std::error_code(error, std::generic_category()), file);
+}
+
+/// An open file that is closed on every way out.
+class Descriptor {
+ public:
+  Descriptor(const fs::path& file, int flags) : file_(file), number_(::open(file.c_str(), flags, 0666)) {
+    if (number_ < 0) fail(errno, file_);
+  }
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  int number() const { return number_; }
+
+  void sync() const {
+    if (::fsync(number_) != 0) fail(errno, file_);
+  }
+
+  void close() {
+    const int closing = std::exchange(number_, -1);
+    if (::close(closing) != 0) fail(errno, file_);
+  }
+
+ private:
+  const fs::path& file_;
+  int number_;
+};
+
+void syncFolderOf(const fs::path& file) {
+  const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+  const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  // Some file systems cannot sync a folder and say so; there the rename itself is all there is.
+  if (::fsync(descriptor.number()) != 0 && errno != EINVAL && errno != ENOTSUP) fail(errno, folder);
+}
+
+}  // namespace
+
+FileBytes readFile(const fs::path& file) {
+  const Descriptor descriptor(file, O_RDONLY | O_CLOEXEC);
+  struct stat status {};
+  if (::fstat(descriptor.number(), &status) != 0) fail(errno, file);
+  if (!S_ISREG(status.st_mode)) fail(EISDIR, file);
+  const auto size = static_cast<std::size_t>(status.st_size);
+  auto bytes = std::make_unique_for_overwrite<char[]>(size);
+  std::size_t got = 0;
+  while (got < size) {
+    const ssize_t step = ::read(descriptor.number(), bytes.get() + got, size - got);
+    if (step < 0 && errno == EINTR) continue;
+    if (step < 0) fail(errno, file);
+    if (step == 0) break;
+    got += static_cast<std::size_t>(step);
+  }
+  return {std::move(bytes), got};
+}
+
+void writeDurably(const fs::path& file, std::string_view contents) {
+  try {
+    Descriptor descriptor(file, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+    while (!contents.empty()) {
+      const ssize_t step = ::write(descriptor.number(), contents.data(), contents.size());
+      if (step < 0 && errno == EINTR) continue;
+      if (step < 0) fail(errno, file);
+      contents.remove_prefix(static_cast<std::size_t>(step));
+    }
+    descriptor.sync();
+    descriptor.close();
+  } catch (const RuntimeError&) {
+    std::error_code ignored;
+    fs::remove(file, ignored);
+    throw;
+  }
+}
+
+void syncFile(const fs::path& file) {
+  Descriptor(file, O_RDWR | O_CLOEXEC).sync();
+}
+
+void takeName(const fs::path& from, const fs::path& to) {
+  if (::rename(from.c_str(), to.c_str()) != 0) fail(errno, to);
+  syncFolderOf(to);
+}
+
+void removeDurably(const fs::path& file) {
+  if (::unlink(file.c_str()) != 0) {
+    if (errno == ENOENT) return;
+    fail(errno, file);
+  }
+  syncFolderOf(file);
+}
+
+FileLock::FileLock(const fs::path& lockFile, Wait wait)
+    : handle_(::open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
+  if (handle_ < 0) fail(errno, lockFile);
+  using namespace std::chrono_literals;
+  const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
+  while (::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EINTR) continue;
+    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= until) {
+      const int error = errno == EWOULDBLOCK ? EACCES : errno;
+      ::close(static_cast<int>(handle_));
+      fail(error, lockFile);
+    }
+    std::this_thread::sleep_for(10ms);
+  }
+}
+
+FileLock::~FileLock() {
+  if (handle_ >= 0) ::close(static_cast<int>(handle_));
+}
+
+FileLock::FileLock(FileLock&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+
+fs::path userDataFolder() {
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {
+    return fs::path(data) / "tallywick";
+  }
+  const char* home = std::getenv("HOME");
+  return fs::path(home != nullptr ? home : ".") / ".local" / "share" / "tallywick";
+}
+
+fs::path programFile() {
+  std::error_code ignored;
+  return fs::read_symlink("/proc/self/exe", ignored);
+}
+
+bool canRun(const fs::path& program) {
+  std::error_code ignored;
+  return fs::is_regular_file(program, ignored) && ::access(program.c_str(), X_OK) == 0;
+}
+
+void startProgram(const fs::path& program, const std::string& argument, const fs::path& workingFolder) {
+  // Started by a child that ends at once, so that nobody has to wait for the program itself.
+  const pid_t child = ::fork();
+  if (child < 0) fail(errno, program);
+  if (child == 0) {
+    if (::fork() != 0) ::_exit(0);
+    if (::chdir(workingFolder.c_str()) != 0) ::_exit(127);
+    if (argument.empty()) {
+      ::execl(program.c_str(), program.c_str(), static_cast<char*>(nullptr));
+    } else {
+      ::execl(program.c_str(), program.c_str(), argument.c_str(), static_cast<char*>(nullptr));
+    }
+    ::_exit(127);
+  }
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+}
+
+}  // namespace tallywick::os

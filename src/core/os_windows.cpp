@@ -1,0 +1,160 @@
+// The platform file of Windows.
+#include "core/os.h"
+#include "core/runtime_error.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <string>
+#include <thread>
+#include <utility>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+namespace tallywick::os {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(DWORD error, const fs::path& file) {
+  throw runtimeErrorFrom(std::error_code(static_cast<int>(error), std::system_category()), file);
+}
+
+/// An open file that is closed on every way out.
+class Handle {
+ public:
+  Handle(const fs::path& file, DWORD access, DWORD disposition)
+      : file_(file),
+        handle_(::CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, disposition,
+                              FILE_ATTRIBUTE_NORMAL, nullptr)) {
+    if (handle_ == INVALID_HANDLE_VALUE) fail(::GetLastError(), file_);
+  }
+  ~Handle() {
+    if (handle_ != INVALID_HANDLE_VALUE) ::CloseHandle(handle_);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+
+  HANDLE get() const { return handle_; }
+  HANDLE release() { return std::exchange(handle_, INVALID_HANDLE_VALUE); }
+
+  void sync() const {
+    if (::FlushFileBuffers(handle_) == 0) fail(::GetLastError(), file_);
+  }
+
+ private:
+  const fs::path& file_;
+  HANDLE handle_;
+};
+
+constexpr DWORD largestStep = 1U << 30;
+
+}  // namespace
+
+FileBytes readFile(const fs::path& file) {
+  const Handle handle(file, GENERIC_READ, OPEN_EXISTING);
+  LARGE_INTEGER length;
+  if (::GetFileSizeEx(handle.get(), &length) == 0) fail(::GetLastError(), file);
+  const auto size = static_cast<std::size_t>(length.QuadPart);
+  auto bytes = std::make_unique_for_overwrite<char[]>(size);
+  std::size_t got = 0;
+  while (got < size) {
+    const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size - got, largestStep));
+    DWORD step = 0;
+    if (::ReadFile(handle.get(), bytes.get() + got, wanted, &step, nullptr) == 0)
+      fail(::GetLastError(), file);
+    if (step == 0) break;
+    got += step;
+  }
+  return {std::move(bytes), got};
+}
+
+void writeDurably(const fs::path& file, std::string_view contents) {
+  try {
+    const Handle handle(file, GENERIC_WRITE, CREATE_ALWAYS);
+    while (!contents.empty()) {
+      const auto wanted = static_cast<DWORD>(std::min<std::size_t>(contents.size(), largestStep));
+      DWORD step = 0;
+      if (::WriteFile(handle.get(), contents.data(), wanted, &step, nullptr) == 0)
+        fail(::GetLastError(), file);
+      contents.remove_prefix(step);
+    }
+    handle.sync();
+  } catch (const RuntimeError&) {
+    std::error_code ignored;
+    fs::remove(file, ignored);
+    throw;
+  }
+}
+
+void syncFile(const fs::path& file) {
+  Handle(file, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING).sync();
+}
+
+void takeName(const fs::path& from, const fs::path& to) {
+  if (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
+    fail(::GetLastError(), to);
+  }
+}
+
+void removeDurably(const fs::path& file) {
+  if (::DeleteFileW(file.c_str()) == 0) {
+    const DWORD error = ::GetLastError();
+    if (error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND) fail(error, file);
+  }
+}
+
+FileLock::FileLock(const fs::path& lockFile, Wait wait) {
+  Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
+  using namespace std::chrono_literals;
+  const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
+  OVERLAPPED place{};
+  while (::LockFileEx(handle.get(), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) ==
+         0) {
+    if (std::chrono::steady_clock::now() >= until) fail(ERROR_ACCESS_DENIED, lockFile);
+    std::this_thread::sleep_for(10ms);
+  }
+  handle_ = reinterpret_cast<std::intptr_t>(handle.release());
+}
+
+FileLock::~FileLock() {
+  if (handle_ != -1) ::CloseHandle(reinterpret_cast<HANDLE>(handle_));
+}
+
+FileLock::FileLock(FileLock&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+
+fs::path userDataFolder() {
+  const wchar_t* data = ::_wgetenv(L"LOCALAPPDATA");
+  return fs::path(data != nullptr ? data : L".") / L"tallywick";
+}
+
+fs::path programFile() {
+  std::wstring name(32768, L'\0');
+  name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+  return name;
+}
+
+bool canRun(const fs::path& program) {
+  DWORD kind = 0;
+  return ::GetBinaryTypeW(program.c_str(), &kind) != 0;
+}
+
+void startProgram(const fs::path& program, const std::string& argument, const fs::path& workingFolder) {
+  std::wstring command = L"\"" + program.wstring() + L"\"";
+  if (!argument.empty()) command += L" \"" + fs::path(argument).wstring() + L"\"";
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process{};
+  if (::CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                       workingFolder.c_str(), &startup, &process) == 0) {
+    fail(::GetLastError(), program);
+  }
+  ::CloseHandle(process.hThread);
+  ::CloseHandle(process.hProcess);
+}
+
+}  // namespace tallywick::os

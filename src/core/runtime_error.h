@@ -1,0 +1,55 @@
+// The numbered errors of the record book's runtime: what a handler raises and a binding shows.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace tallywick {
+
+/// Numbers of the errors that the program itself raises.
+enum class ErrorNumber : std::int32_t {
+  typeMismatch = 13,
+  deviceIoError = 57,
+  fileNotFound = 53,
+  fileAlreadyOpen = 55,
+  diskFull = 61,
+  inputPastEnd = 62,
+  permissionDenied = 70,
+  pathFileAccess = 75,
+  pathNotFound = 76,
+};
+
+/// An error with the runtime's number and text. `where` names the file, and the record where there is one; it
+/// is meant for standard error, not for the message box.
+class RuntimeError : public std::runtime_error {
+ public:
+  explicit RuntimeError(ErrorNumber number, std::string where = {});
+  /// An error raised by a class of the program with a number and text of its own (the transfer classes).
+  RuntimeError(std::int32_t number, std::string description, std::string where);
+
+  std::int32_t number() const { return number_; }
+  const std::string& description() const { return description_; }
+  const std::string& where() const { return where_; }
+  bool is(ErrorNumber number) const { return number_ == static_cast<std::int32_t>(number); }
+
+  /// `Run-time error '53':`, an empty line, the description; a negative number is followed by its hexadecimal
+  /// form.
+  std::string boxText() const;
+
+ private:
+  std::int32_t number_;
+  std::string description_;
+  std::string where_;
+};
+
+/// The runtime's text for a number, for example "File not found".
+std::string_view descriptionOf(ErrorNumber number);
+
+/// The runtime error that stands for an operating system error on `file`.
+RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file);
+
+}  // namespace tallywick

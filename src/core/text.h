@@ -1,0 +1,38 @@
+// Small text helpers that every layer shares.
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// The pieces one after the other.
+template <typename... Pieces>
+std::string join(const Pieces&... pieces) {
+  const std::initializer_list<std::string_view> views = {std::string_view(pieces)...};
+  std::size_t size = 0;
+  for (std::string_view view : views) size += view.size();
+  std::string text;
+  text.reserve(size);
+  for (std::string_view view : views) text += view;
+  return text;
+}
+
+/// `text` without blanks at either end.
+std::string_view trimmed(std::string_view text);
+
+/// `length` characters from the 1-based `position`; what lies beyond the end is left out.
+std::string_view cut(std::string_view text, std::size_t position, std::size_t length);
+
+/// Equal but for the case of the letters A to Z.
+bool equalIgnoringCase(std::string_view left, std::string_view right);
+
+/// A to Z made small.
+std::string lowered(std::string_view text);
+
+/// A number below 100 with two digits.
+std::string twoDigits(int number);
+
+}  // namespace tallywick

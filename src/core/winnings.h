@@ -1,0 +1,47 @@
+// The winnings files: the prize amount announced for each draw.
+#pragma once
+
+#include "core/games.h"
+#include "core/sequential_reader.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace tallywick {
+
+class DataFolder;
+
+/// Month, day, year, amount, mark count.
+inline constexpr std::size_t winningsFields = 5;
+
+/// One line a record for the amounts list: a blank, the display date, four blanks, the amount without outer
+/// blanks, and the mark "   * " after two blanks where the mark count is 1 or more. The file's last record is
+/// not listed. Error 13 where a mark count is no number.
+std::vector<std::string> listAmounts(const DataFolder& folder, const GameInfo& game);
+
+/// The amounts of a winnings file by draw.
+class AmountLookup {
+ public:
+  struct Amount {
+    std::string_view text;
+    /// " * " where the text is exactly the game's base amount, else three blanks.
+    std::string_view mark;
+  };
+
+  /// Reads the game's winnings file. An empty file is error 62.
+  AmountLookup(const DataFolder& folder, const GameInfo& game);
+
+  /// The trimmed amount of the last record with this date key, not looking at the file's last record. A draw
+  /// without a record gets the file's first amount, untrimmed.
+  Amount of(const std::string& dateKey) const;
+
+ private:
+  SequentialReader reader_;
+  std::string_view baseAmount_;
+  std::string_view firstAmount_;
+  std::unordered_map<std::string, std::string_view> amounts_;
+};
+
+}  // namespace tallywick
