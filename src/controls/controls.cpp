@@ -1,0 +1,74 @@
+#include "controls/controls.h"
+
+#include <utility>
+
+namespace tallywick {
+
+namespace {
+
+bool run(const std::function<void()>& handler) {
+  // A copy, since a handler may close the window that the control stands in.
+  const std::function<void()> running = handler;
+  if (running) running();
+  return true;
+}
+
+}  // namespace
+
+Control::Control(Form& form, std::string_view name, ControlType type)
+    : form_(form), name_(name), type_(type) {
+  form_.enter(*this);
+}
+
+void Control::touch() {
+  if (std::exchange(changed_, true)) return;
+  form_.noteChange(*this);
+}
+
+void ListBox::clear() {
+  items_.clear();
+  emphasis_.clear();
+  touch();
+}
+
+void ComboBox::clear() {
+  items_.clear();
+  text_.clear();
+  touch();
+}
+
+void Chart::clear() {
+  title_.clear();
+  bars_.clear();
+}
+
+void Chart::addBar(double value, std::string_view label, Color color) {
+  bars_.push_back({value, std::string(label), color});
+}
+
+void Image::load(std::string_view picture, std::string_view number) {
+  picture_ = picture;
+  number_ = number;
+  touch();
+}
+
+bool click(Control& control) {
+  switch (control.type()) {
+    case ControlType::button: {
+      const auto& button = static_cast<const Button&>(control);
+      return button.visible() && button.enabled() && run(button.onClick);
+    }
+    case ControlType::menu: {
+      const auto& entry = static_cast<const MenuEntry&>(control);
+      return entry.enabled() && run(entry.onClick);
+    }
+    case ControlType::option: {
+      const auto& option = static_cast<const OptionButton&>(control);
+      return option.visible() && run(option.onClick);
+    }
+    default:
+      return false;
+  }
+}
+
+}  // namespace tallywick
