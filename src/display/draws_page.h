@@ -1,0 +1,40 @@
+// The newest draws at a glance: the chart of the last hundred draws and the pictures of the played numbers.
+#pragma once
+
+#include "controls/button_row.h"
+#include "controls/controls.h"
+
+#include <array>
+
+namespace tallywick {
+
+class DataFolder;
+
+/// One draw as six pictures, the extra ball last.
+using ImageRow = std::array<Image, 6>;
+
+struct DrawsPage {
+  explicit DrawsPage(Form& form);
+
+  Chart Draw1;
+  Button Command52;
+  Button Command27;
+
+  Button Command3;
+  ImageRow powerBallImages;
+  ImageRow doublePlayImages;
+  ImageRow megaMillionsImages;
+};
+
+/// Charts how often the six numbers on `frequent` came up in the last hundred PowerBall draws. Fewer draws
+/// are error 62.
+void Command52_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
+/// The same for Double Play.
+void Command27_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
+/// At start-up: up to a hundred draws.
+void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
+
+/// Shows the newest draw of PowerBall, of Double Play and of Mega Millions.
+void Command3_Click(DrawsPage& page, const DataFolder& folder);
+
+}  // namespace tallywick

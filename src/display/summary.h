@@ -1,0 +1,78 @@
+// The summary of a game: its last fifteen draws and their amounts, the player's winning plays, the earlier
+// draws, and the numbers that recur.
+#pragma once
+
+#include "controls/button_row.h"
+#include "controls/controls.h"
+#include "core/games.h"
+
+#include <array>
+#include <string>
+
+namespace tallywick {
+
+class DataFolder;
+
+struct SummaryPage {
+  explicit SummaryPage(Form& form);
+
+  Label Label15;
+  Label Label16;
+  Label Label17;
+  Label Label18;
+  Label Label19;
+  Label Label20;
+  Label Label21;
+  Label Label22;
+  /// The Lucky Five section's five headings.
+  Label Label27;
+  Label Label28;
+  Label Label29;
+  Label Label30;
+  Label Label31;
+
+  /// The last fifteen draws and amounts.
+  ListBox List1;
+  /// The player's winning plays, or the Double Play draws.
+  ListBox List2;
+  /// The amounts.
+  ListBox List3;
+  /// The earlier draws.
+  ListBox List4;
+  /// The frequently played numbers.
+  ListBox List5;
+
+  /// Command9 to Command14: the newest draw, the extra ball last.
+  ButtonRow<6> frequent;
+};
+
+/// Label15 to Label22.
+void setSummaryHeadings(SummaryPage& page, const GameInfo& game);
+
+/// What List1 shows where the game has no winnings file.
+enum class MissingAmounts { raise, areBlank };
+
+/// List1: the first fifteen draws, fewer where the file is shorter.
+void fillLastFifteen(SummaryPage& page, const DataFolder& folder, const GameInfo& game,
+                     MissingAmounts missing);
+
+/// List2: the played plays that won in the draw of their own date. The play file's last record is not looked
+/// at.
+void fillWinningPlays(SummaryPage& page, const DataFolder& folder, const GameInfo& game);
+
+/// List3: the amounts; for Mega Millions the Lucky Five prize lines follow.
+void fillAmounts(SummaryPage& page, const DataFolder& folder, const GameInfo& game);
+
+/// List4: every record of the search draws but the last.
+void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameInfo& game);
+
+/// The captions and colours of Command9 to Command14, and List5. Fewer than fifteen draws are error 62. Gives
+/// the newest draw's six numbers.
+std::array<std::string, 6> fillFrequentNumbers(SummaryPage& page, const DataFolder& folder,
+                                               const GameInfo& game);
+
+/// The headings and lists of the Double Play display but for those of the search pages. Gives the newest
+/// Double Play draw's six numbers.
+std::array<std::string, 6> showDoublePlay(SummaryPage& page, const DataFolder& folder);
+
+}  // namespace tallywick

@@ -1,0 +1,58 @@
+// What the transfer classes need of an FTP client.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// One file's progress.
+struct TransferInfo {
+  std::string file;
+  std::uint64_t bytesDone = 0;
+  /// 0 where the server does not tell.
+  std::uint64_t bytesInAll = 0;
+};
+
+/// Receives a transfer's events.
+class TransferListener {
+ public:
+  virtual ~TransferListener() = default;
+  virtual void status(std::string_view text) = 0;
+  virtual void transferInfo(const TransferInfo& info) = 0;
+};
+
+/// An FTP client: set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
+/// what happened and never hold the login or the password.
+class TransferComponent {
+ public:
+  virtual ~TransferComponent() = default;
+
+  /// Back to an unused state.
+  virtual void prepare() = 0;
+  virtual void setUserName(std::string_view name) = 0;
+  virtual void setPassword(std::string_view password) = 0;
+  virtual void setHost(std::string_view host) = 0;
+  virtual void setPassive(bool passive) = 0;
+  virtual void setProgressWindow(bool shown) = 0;
+  virtual void setInactivityLifetime(int seconds) = 0;
+  virtual void setListener(TransferListener* listener) = 0;
+
+  virtual void openSession() = 0;
+  /// Copies all files of the server folder that match `wildcard`; the local folder changes as a whole or not
+  /// at all.
+  virtual void download(std::string_view serverFolder, std::string_view wildcard,
+                        std::string_view localFolder) = 0;
+  virtual void upload(std::string_view localFolder, std::string_view wildcard,
+                      std::string_view serverFolder) = 0;
+  virtual bool directoryExists(std::string_view serverFolder) = 0;
+  virtual void createDirectory(std::string_view serverFolder) = 0;
+};
+
+using TransferFactory = std::function<std::unique_ptr<TransferComponent>()>;
+
+}  // namespace tallywick

@@ -1,0 +1,21 @@
+// The controls of the update and of the play-file maintenance.
+#pragma once
+
+#include "controls/controls.h"
+
+namespace tallywick {
+
+struct UpdatePage {
+  explicit UpdatePage(Form& form);
+
+  /// Updates both games.
+  Button Command2;
+  ProgressBar ProgressBar1;
+  /// Panel 1: what the program is doing.
+  StatusBar StatusBar1;
+  /// The play-file maintenance of PowerBall and of Mega Millions.
+  Button Command1;
+  Button Command51;
+};
+
+}  // namespace tallywick

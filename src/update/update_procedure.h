@@ -1,0 +1,40 @@
+// The update procedure: both games, or one, from the update server.
+#pragma once
+
+#include "controls/controls.h"
+#include "controls/surroundings.h"
+#include "core/clock.h"
+#include "core/games.h"
+#include "update/transfer_component.h"
+#include "update/update_page.h"
+
+#include <functional>
+#include <string>
+
+namespace tallywick {
+
+class DataFolder;
+
+/// What an update works on and with.
+struct UpdateSurroundings {
+  UpdatePage& page;
+  MenuEntry& mnuPowerBall2;
+  MenuEntry& mnuMegaMillions2;
+  const DataFolder& folder;
+  const Clock& clock;
+  MessageBoxes& boxes;
+  Screen& screen;
+  ProgramStarter& programs;
+  /// Host and port of the update server, from the settings.
+  std::string server;
+  TransferFactory newTransfer;
+  /// Redraws the play-number pictures.
+  std::function<void()> refreshPictures;
+};
+
+/// Both games.
+void Command2_Click(UpdateSurroundings& update);
+void mnuPowerBall2_Click(UpdateSurroundings& update);
+void mnuMegaMillions2_Click(UpdateSurroundings& update);
+
+}  // namespace tallywick
