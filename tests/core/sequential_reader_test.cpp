@@ -1,0 +1,89 @@
+// The rules by which fields are cut out of a file, and what happens at its end.
+#include "core/sequential_reader.h"
+
+#include "core/runtime_error.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tallywick {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::string> allFields(std::string_view text) {
+  SequentialReader reader(text, "test");
+  std::vector<std::string> fields;
+  while (!reader.atEnd()) fields.emplace_back(reader.field());
+  return fields;
+}
+
+TEST(SequentialReader, CutsFieldsByTheRulesOfTheFormat) {
+  EXPECT_THAT(allFields("\"01\",\"a,b\",\"\"\r\n"), ElementsAre("01", "a,b", ""));
+  EXPECT_THAT(allFields("01,  02,\" 03 \"\n04"), ElementsAre("01", "02", " 03 ", "04"));
+  EXPECT_THAT(allFields("a ,\"b\" ,c\rd"), ElementsAre("a ", "b", "c", "d"));
+  EXPECT_THAT(allFields("a,\r\n\r\nb"), ElementsAre("a", "", "", "b"));
+  EXPECT_THAT(allFields("\"open,01\r\n02"), ElementsAre("open,01", "02"));
+}
+
+TEST(SequentialReader, RecordsRunOverLineEnds) {
+  SequentialReader reader("1,2\r\n3\r\n4,5,6\r\n", "test");
+  EXPECT_THAT(reader.record<3>(), ElementsAre("1", "2", "3"));
+  EXPECT_THAT(reader.record<3>(), ElementsAre("4", "5", "6"));
+  EXPECT_TRUE(reader.atEnd());
+}
+
+TEST(SequentialReader, TheEndInsideARecordIsError62AndTellsWhere) {
+  SequentialReader reader("1,2\n3,4\n5\n", "QZRNUM6.Dat");
+  reader.record<2>();
+  reader.record<2>();
+  try {
+    reader.record<2>();
+    FAIL() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_TRUE(error.is(ErrorNumber::inputPastEnd));
+    EXPECT_EQ(error.where(), "QZRNUM6.Dat, record 3: field 2 of 2 is beyond the end");
+  }
+}
+
+// Records of one shape are read without looking at every character; every record must read as if it were the
+// only one.
+TEST(SequentialReader, ARecordReadsAlikeWhateverStoodBeforeIt) {
+  const std::vector<std::string> lines = {"\"11\",\"18\",\"2026\",\"07\"\r\n",
+                                          "\"11\",\"14\",\"2026\",\"09\"\r\n",
+                                          "11,14,2026,09\r\n",
+                                          "11,14,2026,9\n",
+                                          "11,14,2026,\"9\"\n",
+                                          "11,1 4,2026,7\n",
+                                          "11,1\",2026,7\n",
+                                          "11,,2026,07\n",
+                                          "\"1\",\"1,\",\"2026\",\"07\"\r\n",
+                                          "11,14,2026,0x\r\n",
+                                          " 11,14,2026,09\n",
+                                          "11,14,2026,09\r"};
+  for (const std::string& before : lines) {
+    for (const std::string& line : lines) {
+      const std::string text = before + line + std::string(200, '0');
+      SequentialReader alone(line, "alone");
+      const auto expected = alone.record<4>();
+      SequentialReader reader(text, "both");
+      reader.record<4>();
+      EXPECT_EQ(reader.record<4>(), expected) << before << line;
+      EXPECT_EQ(reader.field(), std::string(200, '0')) << before << line;
+    }
+  }
+}
+
+TEST(SequentialReader, TheLastRecordIsLeftUnused) {
+  std::vector<std::string> used;
+  SequentialReader reader("1\n2\n3", "test");
+  forEachRecordButLast<1>(reader, [&](const Fields<1>& record) { used.emplace_back(record[0]); });
+  EXPECT_THAT(used, ElementsAre("1", "2"));
+  SequentialReader empty("", "test");
+  EXPECT_THROW(forEachRecordButLast<1>(empty, [](const Fields<1>&) {}), RuntimeError);
+}
+
+}  // namespace
+}  // namespace tallywick
