@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -40,7 +40,9 @@ class ScratchFolder {
   }
   std::string read(std::string_view written) const {
     std::ifstream file(folder_.resolve(written), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
   }
   bool exists(std::string_view written) const { return folder_.exists(written); }
 
