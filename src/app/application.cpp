@@ -1,0 +1,138 @@
+#include "app/application.h"
+
+#include "app/start_up.h"
+#include "core/file_commit.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallywick {
+
+namespace {
+
+/// What a crash cut short is finished before anything is read. Where it cannot be, the next action on the
+/// folder tries again and tells.
+void recover(const DataFolder& folder) {
+  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    try {
+      recoverFolder(folder.resolve(game->folder));
+    } catch (const std::exception&) {
+      continue;
+    }
+  }
+}
+
+}  // namespace
+
+Application::Application(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
+
+void Application::showSplash() {
+  open(std::make_unique<SplashForm>());
+}
+
+void Application::splashTimer() {
+  const Form* splash = find("frmSplash");
+  if (splash == nullptr) return;
+  if (main_ == nullptr) showMainWindow();
+  close(*splash);
+}
+
+void Application::showMainWindow() {
+  recover(surroundings_.folder);
+  auto form = std::make_unique<MainForm>();
+  startUp(*form, surroundings_.folder);
+  main_ = form.get();
+  wireMainWindow();
+  open(std::move(form));
+}
+
+std::vector<Form*> Application::windows() const {
+  std::vector<Form*> windows;
+  for (const auto& window : windows_) windows.push_back(window.get());
+  return windows;
+}
+
+Form* Application::find(std::string_view name) const {
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const auto& window) { return window->name() == name; });
+  return found == windows_.end() ? nullptr : found->get();
+}
+
+void Application::close(const Form& form) {
+  if (&form == main_) {
+    exit();
+    return;
+  }
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const auto& window) { return window.get() == &form; });
+  if (found == windows_.end()) return;
+  surroundings_.platform.closeWindow(**found);
+  closed_.push_back(std::move(*found));
+  windows_.erase(found);
+  if (windows_.empty()) surroundings_.platform.endProgram();
+}
+
+void Application::openSelection(const GameInfo& game) {
+  const Surroundings& around = surroundings_;
+  auto window = std::make_unique<SelectionForm>(
+      game, SelectionSurroundings{around.folder, around.clock, around.random, around.platform});
+  if (const Form* old = find(window->name())) close(*old);
+  window->load();
+  open(std::move(window));
+}
+
+void Application::exit() {
+  main_ = nullptr;
+  while (!windows_.empty()) {
+    surroundings_.platform.closeWindow(*windows_.back());
+    closed_.push_back(std::move(windows_.back()));
+    windows_.pop_back();
+  }
+  surroundings_.platform.endProgram();
+}
+
+template <typename Window>
+Window& Application::open(std::unique_ptr<Window> window) {
+  closed_.clear();
+  Window& opened = *window;
+  windows_.push_back(std::move(window));
+  surroundings_.platform.openWindow(opened);
+  return opened;
+}
+
+void Application::showAbout() {
+  if (const Form* old = find("frmAbout")) close(*old);
+  auto& about = open(std::make_unique<AboutForm>());
+  about.cmdOK.onClick = [this, &about] { close(about); };
+  about.cmdSysInfo.onClick = [this] { showSystemInformation(); };
+}
+
+void Application::showSystemInformation() {
+  Platform& platform = surroundings_.platform;
+  std::string program = platform.registryValue(R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)", "PATH");
+  if (program.empty()) {
+    const std::string folder =
+        platform.registryValue(R"(SOFTWARE\Microsoft\Shared Tools Location)", "MSINFO");
+    if (!folder.empty()) program = folder + R"(\MSINFO32.EXE)";
+    if (!platform.fileExists(program)) program.clear();
+  }
+  if (program.empty()) {
+    platform.show({"System Information Is Unavailable At This Time", std::string(programTitle)});
+    return;
+  }
+  platform.start(program, "");
+}
+
+void Application::openSettingPage(const std::string& address, std::string_view what) {
+  if (!address.empty()) {
+    surroundings_.platform.openPage(address);
+    return;
+  }
+  surroundings_.platform.show(
+      {join("The address of the ", what, " is not set. It stands in the settings, ", settingsFile, "."),
+       std::string(programTitle), MessageBox::Icon::information});
+}
+
+}  // namespace tallywick

@@ -1,0 +1,77 @@
+// The program: its windows, and what their controls lead to.
+#pragma once
+
+#include "app/main_form.h"
+#include "app/platform.h"
+#include "app/settings.h"
+#include "app/small_windows.h"
+#include "core/clock.h"
+#include "core/data_folder.h"
+#include "core/games.h"
+#include "core/random.h"
+#include "selection/selection_form.h"
+#include "update/update_procedure.h"
+
+#include <array>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace tallywick {
+
+/// What the program works with.
+struct Surroundings {
+  const DataFolder& folder;
+  Settings settings;
+  const Clock& clock;
+  RandomGenerator& random;
+  Platform& platform;
+  TransferFactory newTransfer;
+};
+
+class Application {
+ public:
+  explicit Application(Surroundings surroundings);
+
+  /// Shows the splash window; its timer is the binding's and calls splashTimer().
+  void showSplash();
+  /// Brings the main window where there is none yet, and closes the splash.
+  void splashTimer();
+  /// Finishes what a crash left behind in the game folders, then creates, fills and shows the main window.
+  void showMainWindow();
+
+  /// The open windows in the order in which they were opened.
+  std::vector<Form*> windows() const;
+  /// The open window of that name; null where none is open.
+  Form* find(std::string_view name) const;
+  /// What closing a window by its frame does: the main window ends the program.
+  void close(const Form& form);
+
+  void openSelection(const GameInfo& game);
+  /// Closes every window and ends the program.
+  void exit();
+
+  const Settings& settings() const { return surroundings_.settings; }
+  void setSettings(const Settings& settings) { surroundings_.settings = settings; }
+  const Surroundings& surroundings() const { return surroundings_; }
+
+ private:
+  template <typename Window>
+  Window& open(std::unique_ptr<Window> window);
+  void wireMainWindow();
+  void wireMenus();
+  void wireSearches();
+  void wireDisplays();
+  UpdateSurroundings updateSurroundings();
+  void openSettingPage(const std::string& address, std::string_view what);
+  void showAbout();
+  void showSystemInformation();
+
+  Surroundings surroundings_;
+  MainForm* main_ = nullptr;
+  std::vector<std::unique_ptr<Form>> windows_;
+  /// Closed windows live until the next one opens: a handler of their own may have closed them.
+  std::vector<std::unique_ptr<Form>> closed_;
+};
+
+}  // namespace tallywick

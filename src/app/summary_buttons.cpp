@@ -1,0 +1,109 @@
+#include "app/summary_buttons.h"
+
+#include "core/data_folder.h"
+#include "core/text.h"
+
+namespace tallywick {
+
+namespace {
+
+/// Shows what belongs to the game's pages. Every search and check control serves every game.
+void layOut(MainForm& form, const GameInfo& game) {
+  showGameFrame(form.frames, game.game == Game::powerBall ? form.frames.Frame4 : form.frames.Frame11);
+  form.frames.Frame12.setVisible(game.game == Game::megaMillions);
+  enableMenusOf(form.menu, game);
+  showFirstTabs(form.bar);
+  form.winnings.Combo10.clear();
+}
+
+void clearLists(MainForm& form) {
+  SummaryPage& summary = form.summary;
+  for (ListBox* list : {&summary.List1, &summary.List2, &summary.List3, &summary.List4, &summary.List5})
+    list->clear();
+  for (ListBox* list : {&form.winnings.List14, &form.winnings.List17}) list->clear();
+}
+
+void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game) {
+  setSummaryHeadings(form.summary, game);
+  const std::string selection = join(game.name, " Play Selection");
+  form.bar.Command48.setCaption(selection);
+  form.bar.Command48.setToolTip(selection);
+  clearLists(form);
+  fillAmounts(form.summary, folder, game);
+  fillPreviousDraws(form.summary, folder, game);
+  fillPlayLists(form.winnings, folder, game);
+  fillLastFifteen(form.summary, folder, game, MissingAmounts::raise);
+  fillWinningPlays(form.summary, folder, game);
+  fillDrawPickers(form.search, folder, game);
+  fillPlayPicker(form.search, folder, game);
+  setSearchCaptions(form.search, fillFrequentNumbers(form.summary, folder, game));
+}
+
+void showDoublePlayDisplay(MainForm& form, const DataFolder& folder) {
+  showGameFrame(form.frames, form.frames.Frame6);
+  const auto newest = showDoublePlay(form.summary, folder);
+  fillDoublePlayLists(form.search, folder);
+  setSearchCaptions(form.search, newest);
+}
+
+/// What the game menus do before the summary: the frames that the summary then sets right.
+void switchGame(MainForm& form) {
+  form.summary.Label21.show();
+  form.summary.Label22.show();
+  for (Button& number : form.summary.frequent) number.show();
+  form.summary.List5.show();
+  form.frames.Frame4.hide();
+  form.frames.Frame11.show();
+}
+
+}  // namespace
+
+void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes) {
+  layOut(form, powerBall);
+  if (form.updateHiddenByGameSwitch) form.update.Command2.show();
+  form.updateHiddenByGameSwitch = false;
+  const MessageBox question = {"Display PowerBall Double Play Information  ?", "TALLYWICK SOFTWARE",
+                               MessageBox::Icon::question, MessageBox::Buttons::yesNo};
+  if (boxes.show(question) == MessageBox::Answer::yes) {
+    showDoublePlayDisplay(form, folder);
+  } else {
+    showSummary(form, folder, powerBall);
+  }
+}
+
+void Command4_Click(MainForm& form, const DataFolder& folder) {
+  layOut(form, megaMillions);
+  showSummary(form, folder, megaMillions);
+}
+
+void mnuPowerBall_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes) {
+  switchGame(form);
+  Command7_Click(form, folder, boxes);
+}
+
+void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder) {
+  switchGame(form);
+  if (form.update.Command2.visible()) form.updateHiddenByGameSwitch = true;
+  form.update.Command2.hide();
+  Command4_Click(form, folder);
+}
+
+void showFirstTabs(NavigationBar& bar) {
+  for (TabStrip* tabs : {&bar.SSTab1, &bar.SSTab2, &bar.SSTab3}) tabs->setTab(0);
+}
+
+void showGameFrame(GameFrames& frames, const Frame& shown) {
+  for (Frame* frame : {&frames.Frame4, &frames.Frame5, &frames.Frame6, &frames.Frame11}) {
+    frame->setVisible(frame == &shown);
+  }
+}
+
+void enableMenusOf(MainMenu& menu, const GameInfo& game) {
+  const bool isPowerBall = game.game == Game::powerBall;
+  menu.mnuPowerBall3.setEnabled(isPowerBall);
+  menu.mnuPowerBall2.setEnabled(isPowerBall);
+  menu.mnuMegaMillions3.setEnabled(!isPowerBall);
+  menu.mnuMegaMillions2.setEnabled(!isPowerBall);
+}
+
+}  // namespace tallywick
