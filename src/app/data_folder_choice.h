@@ -1,0 +1,17 @@
+// Which folder is the data folder.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tallywick {
+
+/// The folder named on the command line, else the environment's TALLYWICK_FOLDER, else the working folder
+/// where it holds "QzrNumbers", else the platform's folder for this user's data. The folder may not stand
+/// yet.
+std::filesystem::path chooseDataFolder(const std::string& named);
+
+/// Whether `folder` holds a record book.
+bool isDataFolder(const std::filesystem::path& folder);
+
+}  // namespace tallywick
