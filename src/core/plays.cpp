@@ -7,19 +7,6 @@
 
 namespace tallywick {
 
-namespace {
-
-SequentialReader openOrEmpty(const DataFolder& folder, std::string_view written) {
-  try {
-    return SequentialReader(folder, written);
-  } catch (const RuntimeError& error) {
-    if (!error.is(ErrorNumber::fileNotFound)) throw;
-    return SequentialReader({}, std::string(written));
-  }
-}
-
-}  // namespace
-
 std::string Play::dateKey() const {
   return join(cut(date, 1, 2), cut(date, 4, 2), cut(date, 7, std::string::npos));
 }
@@ -46,8 +33,16 @@ void appendRecord(std::string& text, const Play& play) {
   text.append("\",\"").append(play.extra).append("\",\"").append(play.decades).append("\"\r\n");
 }
 
-PlayFile::PlayFile(const DataFolder& folder, std::string_view written)
-    : reader_(openOrEmpty(folder, written)) {
+SequentialReader openPlays(const DataFolder& folder, std::string_view written) {
+  try {
+    return SequentialReader(folder, written);
+  } catch (const RuntimeError& error) {
+    if (!error.is(ErrorNumber::fileNotFound) && !error.is(ErrorNumber::pathNotFound)) throw;
+    return SequentialReader({}, std::string(written));
+  }
+}
+
+PlayFile::PlayFile(const DataFolder& folder, std::string_view written) : reader_(openPlays(folder, written)) {
   forEachRecord<playFields>(reader_,
                             [&](const Fields<playFields>& record) { plays_.push_back(playOf(record)); });
 }

@@ -42,6 +42,9 @@ Play playOf(const Fields<playFields>& record);
 /// Adds `play` to `text` as the record book writes records: every field in double quotes, CR LF at the end.
 void appendRecord(std::string& text, const Play& play);
 
+/// Opens a play file for use record by record. A missing file reads as an empty one.
+SequentialReader openPlays(const DataFolder& folder, std::string_view written);
+
 /// A play file, read whole. A missing file holds no plays.
 class PlayFile {
  public:

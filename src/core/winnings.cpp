@@ -16,9 +16,11 @@ bool isMarked(std::string_view markCount, const SequentialReader& reader) {
   if (text.starts_with('+')) text.remove_prefix(1);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size()) {
+  // The conversion takes "inf" and "nan" for numbers.
+  const bool isDecimal = text.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+  if (!isDecimal || error != std::errc() || end != text.data() + text.size()) {
     throw RuntimeError(ErrorNumber::typeMismatch,
-                       join(reader.name(), ", near record ", std::to_string(reader.recordNumber()),
+                       join(reader.name(), ", record ", std::to_string(reader.recordNumber()),
                             ": mark count \"", markCount, "\" is no number"));
   }
   return value >= 1;
@@ -26,31 +28,30 @@ bool isMarked(std::string_view markCount, const SequentialReader& reader) {
 
 }  // namespace
 
-std::vector<std::string> listAmounts(const DataFolder& folder, const GameInfo& game) {
-  std::vector<std::string> lines;
+void listAmounts(const DataFolder& folder, const GameInfo& game,
+                 const std::function<void(std::string_view)>& add) {
   SequentialReader reader(folder, inFolder(game, game.winningsFile));
   forEachRecordButLast<winningsFields>(reader, [&](const Fields<winningsFields>& record) {
     const auto& [month, day, year, amount, markCount] = record;
     const std::string_view mark = isMarked(markCount, reader) ? "     * " : "        ";
-    lines.push_back(join(" ", month, "-", day, "-", year, "    ", trimmed(amount), mark));
+    add(join(" ", month, "-", day, "-", year, "    ", trimmed(amount), mark));
   });
-  return lines;
 }
 
-AmountLookup::AmountLookup(const DataFolder& folder, const GameInfo& game)
-    : reader_(folder, inFolder(game, game.winningsFile)), baseAmount_(game.baseAmount) {
-  Fields<winningsFields> inHand = reader_.record<winningsFields>();
+void AmountLookup::read(const DataFolder& folder) {
+  SequentialReader& reader = reader_.emplace(folder, inFolder(game_, game_.winningsFile));
+  Fields<winningsFields> inHand = reader.record<winningsFields>();
   firstAmount_ = inHand[3];
-  while (!reader_.atEnd()) {
+  while (!reader.atEnd()) {
     amounts_.insert_or_assign(join(inHand[0], inHand[1], inHand[2]), trimmed(inHand[3]));
-    inHand = reader_.record<winningsFields>();
+    inHand = reader.record<winningsFields>();
   }
 }
 
 AmountLookup::Amount AmountLookup::of(const std::string& dateKey) const {
   const auto found = amounts_.find(dateKey);
   const std::string_view text = found == amounts_.end() ? firstAmount_ : found->second;
-  return {text, text == baseAmount_ ? " * " : "   "};
+  return {text, text == game_.baseAmount ? " * " : "   "};
 }
 
 }  // namespace tallywick

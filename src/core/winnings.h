@@ -4,10 +4,11 @@
 #include "core/games.h"
 #include "core/sequential_reader.h"
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace tallywick {
 
@@ -18,10 +19,12 @@ inline constexpr std::size_t winningsFields = 5;
 
 /// One line a record for the amounts list: a blank, the display date, four blanks, the amount without outer
 /// blanks, and the mark "   * " after two blanks where the mark count is 1 or more. The file's last record is
-/// not listed. Error 13 where a mark count is no number.
-std::vector<std::string> listAmounts(const DataFolder& folder, const GameInfo& game);
+/// not listed. Error 13 where a mark count is no number, 62 where the file is empty; the lines before it have
+/// been given to `add`.
+void listAmounts(const DataFolder& folder, const GameInfo& game,
+                 const std::function<void(std::string_view)>& add);
 
-/// The amounts of a winnings file by draw.
+/// The amounts of a winnings file by draw. Before the file is read every draw has a blank amount.
 class AmountLookup {
  public:
   struct Amount {
@@ -30,16 +33,18 @@ class AmountLookup {
     std::string_view mark;
   };
 
-  /// Reads the game's winnings file. An empty file is error 62.
-  AmountLookup(const DataFolder& folder, const GameInfo& game);
+  explicit AmountLookup(const GameInfo& game) : game_(game) {}
+
+  /// Reads the game's winnings file. An empty file is error 62; what stands before an error has been taken.
+  void read(const DataFolder& folder);
 
   /// The trimmed amount of the last record with this date key, not looking at the file's last record. A draw
   /// without a record gets the file's first amount, untrimmed.
   Amount of(const std::string& dateKey) const;
 
  private:
-  SequentialReader reader_;
-  std::string_view baseAmount_;
+  GameInfo game_;
+  std::optional<SequentialReader> reader_;
   std::string_view firstAmount_;
   std::unordered_map<std::string, std::string_view> amounts_;
 };
