@@ -34,18 +34,36 @@ struct WinningsPage {
 int matchScore(const Play& play, const Draw& draw);
 inline constexpr int winningScore = 3;
 
-/// Runs the check that the options and the visible game frame ask for.
+/// The files of a check, as the handlers write them.
+struct TicketFiles {
+  std::string_view plays;
+  std::string_view draws;
+  /// Empty where the game has no Double Play.
+  std::string_view doublePlays;
+};
+inline constexpr TicketFiles powerBallTickets = {R"(QzrNumbers\QZR6PWR\QZR6PWR2.Ply)",
+                                                 R"(QzrNumbers\QZR6PWR\QZRNUM62.Dat)",
+                                                 R"(QzrNumbers\QZR6PWR\QZRNUM72.Dat)"};
+inline constexpr TicketFiles megaMillionsTickets = {R"(QzrNumbers\QZR6MEG\QZR6MEG2.Ply)",
+                                                    R"(QzrNumbers\QZR6MEG\QZRNUM62.Dat)", ""};
+/// A leftover state game that no control checks.
+inline constexpr TicketFiles hoosierTickets = {hoosierPlayedFile, R"(QzrNumbers\Qzr6Ind\QZRNUM62.Dat)", ""};
+
+/// Checks every play against the newest draw; then, where the game has it, the first play against the newest
+/// Double Play draw. An empty draw file is error 62.
+void checkAgainstLatestDraw(WinningsPage& page, const DataFolder& folder, const TicketFiles& files);
+
+/// Checks every play against the first draw of its own date; a play without one is passed over.
+void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles& files);
+
+/// Runs the check that the options and the visible game frame ask for; Double Play counts as PowerBall.
 void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFolder& folder);
 
-void checkPowerBallLatest(WinningsPage& page, const DataFolder& folder);
-void checkPowerBallByDate(WinningsPage& page, const DataFolder& folder);
-void checkMegaMillionsLatest(WinningsPage& page, const DataFolder& folder);
-void checkMegaMillionsByDate(WinningsPage& page, const DataFolder& folder);
-/// Two checks of a leftover state game that no control starts.
-void checkHoosierLatest(WinningsPage& page, const DataFolder& folder);
-void checkHoosierByDate(WinningsPage& page, const DataFolder& folder);
-
-/// List14 and List17: the played and the committed plays.
+/// List14.
+void fillPlayedPlays(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
+/// List17.
+void fillCommittedPlays(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
+/// Both.
 void fillPlayLists(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
 
 }  // namespace tallywick

@@ -1,0 +1,35 @@
+// Finds the draw of a date in a draw history.
+#pragma once
+
+#include "core/draws.h"
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace tallywick {
+
+class DataFolder;
+
+/// A draw history that answers as if it were searched from its start for every date, but is read once and
+/// only as far as the dates asked for need. The file is opened by the first search.
+class DrawIndex {
+ public:
+  /// How a draw's date is compared: Draw::dateKey or Draw::displayDate.
+  using DateText = std::string (Draw::*)() const;
+
+  DrawIndex(const DataFolder& folder, std::string file, DateText dateText)
+      : folder_(folder), file_(std::move(file)), dateText_(dateText) {}
+
+  /// The first draw of the file with this date; null where there is none. Valid as long as the index.
+  const Draw* find(const std::string& date);
+
+ private:
+  const DataFolder& folder_;
+  std::string file_;
+  DateText dateText_;
+  std::optional<SequentialReader> reader_;
+  std::unordered_map<std::string, Draw> draws_;
+};
+
+}  // namespace tallywick
