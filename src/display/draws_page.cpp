@@ -1,6 +1,113 @@
 #include "display/draws_page.h"
 
+#include "core/draws.h"
+#include "core/games.h"
+#include "core/runtime_error.h"
+#include "core/sequential_reader.h"
+#include "core/text.h"
+
+#include <algorithm>
+
 namespace tallywick {
+
+namespace {
+
+Draw nextDraw(SequentialReader& reader) {
+  return drawOf(reader.record<drawFields>());
+}
+Draw nextDoublePlay(SequentialReader& reader) {
+  return doublePlayDrawOf(reader.record<doublePlayFields>());
+}
+
+/// What the two charts differ in.
+struct ChartSource {
+  std::string_view title;
+  std::string_view file;
+  Draw (*next)(SequentialReader& reader);
+};
+
+constexpr ChartSource powerBallChart = {"Tallywick Last 100 Draws", searchDrawsFile, nextDraw};
+constexpr ChartSource doublePlayChart = {"Tallywick Double Play Last 100 Draws", doublePlayFile,
+                                         nextDoublePlay};
+constexpr std::size_t chartedDraws = 100;
+
+/// The bars' colours by those of the number buttons: strong enough to stand on a page.
+struct BarColor {
+  Color button;
+  Color bar;
+};
+constexpr std::array<BarColor, 5> barColors = {{{colors::red, Color::rgb(255, 0, 0)},
+                                                {colors::green, Color::rgb(0, 204, 0)},
+                                                {colors::lightBlue, Color::rgb(0, 102, 153)},
+                                                {colors::yellow, Color::rgb(255, 255, 0)},
+                                                {colors::lightCyan, Color::rgb(204, 255, 255)}}};
+constexpr Color otherBarColor = Color::rgb(153, 153, 153);
+
+Color barColorOf(const Button& button) {
+  for (const BarColor& color : barColors) {
+    if (color.button == button.backColor()) return color.bar;
+  }
+  return otherBarColor;
+}
+
+/// How often the number on each button came up; the last button's as the extra ball.
+class DrawCounts {
+ public:
+  explicit DrawCounts(const ButtonRow<6>& buttons) : buttons_(buttons) {}
+
+  void add(const Draw& draw) {
+    for (std::size_t i = 0; i < draw.white.size(); ++i) {
+      counts_[i] += std::count(draw.white.begin(), draw.white.end(), buttons_[i].caption());
+    }
+    counts_[5] += draw.extra == buttons_[5].caption() ? 1 : 0;
+  }
+
+  void draw(Chart& chart) const {
+    for (std::size_t i = 0; i < counts_.size(); ++i) {
+      chart.addBar(static_cast<double>(counts_[i]), buttons_[i].caption(), barColorOf(buttons_[i]));
+    }
+    chart.draw();
+  }
+
+ private:
+  const ButtonRow<6>& buttons_;
+  std::array<std::ptrdiff_t, 6> counts_{};
+};
+
+void startChart(Chart& chart, const ChartSource& source) {
+  chart.clear();
+  chart.setTitle(source.title);
+}
+
+void showLastHundred(Chart& chart, const ButtonRow<6>& buttons, const DataFolder& folder,
+                     const ChartSource& source) {
+  SequentialReader reader(folder, inFolder(powerBall, source.file));
+  DrawCounts counts(buttons);
+  for (std::size_t i = 0; i < chartedDraws; ++i) counts.add(source.next(reader));
+  startChart(chart, source);
+  counts.draw(chart);
+}
+
+bool hasPicture(std::string_view number) {
+  const auto isDigit = [](char letter) { return letter >= '0' && letter <= '9'; };
+  return number.size() == 2 && std::all_of(number.begin(), number.end(), isDigit) && number != "00";
+}
+
+void showBall(Image& image, std::string_view number) {
+  const std::string_view kind = image.isExtraBall() ? "%" : "#";
+  image.load(hasPicture(number) ? join(pictureFolder, kind, number, ".bmp") : "", number);
+}
+
+/// Shows the first draw of a draw history.
+void showNewest(ImageRow& row, const DataFolder& folder, std::string_view file,
+                Draw (*next)(SequentialReader& reader)) {
+  SequentialReader reader(folder, file);
+  const Draw newest = next(reader);
+  for (std::size_t i = 0; i < newest.white.size(); ++i) showBall(row[i], newest.white[i]);
+  showBall(row.back(), newest.extra);
+}
+
+}  // namespace
 
 DrawsPage::DrawsPage(Form& form)
     : Draw1(form, "Draw1"),
@@ -17,9 +124,31 @@ DrawsPage::DrawsPage(Form& form)
                          Image(form, "Image41", false), Image(form, "Image42", false),
                          Image(form, "Image43", false), Image(form, "Image38", true)} {}
 
-void Command52_Click(DrawsPage&, const ButtonRow<6>&, const DataFolder&) {}
-void Command27_Click(DrawsPage&, const ButtonRow<6>&, const DataFolder&) {}
-void drawStartUpChart(DrawsPage&, const ButtonRow<6>&, const DataFolder&) {}
-void Command3_Click(DrawsPage&, const DataFolder&) {}
+void Command52_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder) {
+  showLastHundred(page.Draw1, frequent, folder, powerBallChart);
+}
+
+void Command27_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder) {
+  showLastHundred(page.Draw1, frequent, folder, doublePlayChart);
+}
+
+void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder) {
+  startChart(page.Draw1, powerBallChart);
+  SequentialReader reader(folder, inFolder(powerBall, powerBallChart.file));
+  DrawCounts counts(frequent);
+  try {
+    for (std::size_t i = 0; i < chartedDraws && !reader.atEnd(); ++i) counts.add(powerBallChart.next(reader));
+  } catch (const RuntimeError&) {
+    counts.draw(page.Draw1);
+    throw;
+  }
+  counts.draw(page.Draw1);
+}
+
+void Command3_Click(DrawsPage& page, const DataFolder& folder) {
+  showNewest(page.powerBallImages, folder, inFolder(powerBall, drawsFile), nextDraw);
+  showNewest(page.doublePlayImages, folder, inFolder(powerBall, doublePlayFile), nextDoublePlay);
+  showNewest(page.megaMillionsImages, folder, inFolder(megaMillions, drawsFile), nextDraw);
+}
 
 }  // namespace tallywick
