@@ -1,6 +1,52 @@
 #include "display/summary.h"
 
+#include "core/draws.h"
+#include "core/plays.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "core/winnings.h"
+#include "display/draw_index.h"
+#include "display/recurring_numbers.h"
+#include "display/winning_tickets.h"
+
+#include <vector>
+
 namespace tallywick {
+
+namespace {
+
+/// What the headings of the two games differ in.
+struct Headings {
+  std::string_view lastFifteen;
+  std::string_view previousDraws;
+  std::string_view columns;
+  std::string_view recurring;
+};
+
+constexpr Headings powerBallHeadings = {
+    "Last 15 PowerBall Draws and Winning Amounts:", "Previous PowerBall Draws:",
+    "Date:              Number Played            PB:", "for the last fifteen PowerBall Draws"};
+constexpr Headings megaMillionsHeadings = {
+    "Last 15 Mega Millions Draws and Winning Amts:", "Previous Mega Millions Draw",
+    "Date:              Number Played         MM:", "for the last fifteen Mega Millions Draw"};
+
+/// The prizes of a leftover state game, in the amounts list of Mega Millions.
+constexpr std::array<std::string_view, 3> luckyFivePrizes = {" 5 of 5 Win:    $50,000",
+                                                             " 4 of 5 Win:    $200.00", " 3 of 5 Win:    $3"};
+
+std::string previousDrawLine(const Draw& draw) {
+  std::string text = join(draw.displayDate(), "    ");
+  for (std::string_view ball : draw.white) text.append(" ").append(ball);
+  return text.append("     ").append(draw.extra);
+}
+
+std::array<std::string, 6> captionsOf(const ButtonRow<6>& buttons) {
+  std::array<std::string, 6> captions;
+  for (std::size_t i = 0; i < captions.size(); ++i) captions[i] = buttons[i].caption();
+  return captions;
+}
+
+}  // namespace
 
 SummaryPage::SummaryPage(Form& form)
     : Label15(form, "Label15"),
@@ -23,16 +69,98 @@ SummaryPage::SummaryPage(Form& form)
       List5(form, "List5"),
       frequent(form, {"Command9", "Command10", "Command11", "Command12", "Command13", "Command14"}) {}
 
-void setSummaryHeadings(SummaryPage&, const GameInfo&) {}
-void fillLastFifteen(SummaryPage&, const DataFolder&, const GameInfo&, MissingAmounts) {}
-void fillWinningPlays(SummaryPage&, const DataFolder&, const GameInfo&) {}
-void fillAmounts(SummaryPage&, const DataFolder&, const GameInfo&) {}
-void fillPreviousDraws(SummaryPage&, const DataFolder&, const GameInfo&) {}
-std::array<std::string, 6> fillFrequentNumbers(SummaryPage&, const DataFolder&, const GameInfo&) {
-  return {};
+void setSummaryHeadings(SummaryPage& page, const GameInfo& game) {
+  const Headings& headings = game.game == Game::powerBall ? powerBallHeadings : megaMillionsHeadings;
+  page.Label15.setCaption(headings.lastFifteen);
+  page.Label16.setCaption("Your Play && Winning Lotto Ticket(s):");
+  page.Label17.setCaption("Previous Amount Draws:");
+  page.Label18.setCaption("     Dates:             Amounts:");
+  page.Label19.setCaption(headings.previousDraws);
+  page.Label20.setCaption(headings.columns);
+  page.Label21.setCaption("Frequently played numbers,");
+  page.Label22.setCaption(headings.recurring);
 }
-std::array<std::string, 6> showDoublePlay(SummaryPage&, const DataFolder&) {
-  return {};
+
+void fillLastFifteen(SummaryPage& page, const DataFolder& folder, const GameInfo& game,
+                     MissingAmounts missing) {
+  page.List1.clear();
+  SequentialReader reader(folder, inFolder(game, drawsFile));
+  AmountLookup amounts(game);
+  try {
+    amounts.read(folder);
+  } catch (const RuntimeError&) {
+    if (missing == MissingAmounts::raise) throw;
+  }
+  for (std::size_t i = 0; i < recentDraws && !reader.atEnd(); ++i) {
+    const Draw draw = drawOf(reader.record<drawFields>());
+    const auto [amount, mark] = amounts.of(draw.dateKey());
+    page.List1.add(join(" ", draw.line(), " ", mark, " ", amount));
+  }
+}
+
+void fillWinningPlays(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
+  page.List2.clear();
+  SequentialReader plays = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  if (plays.atEnd()) return;
+  DrawIndex draws(folder, inFolder(game, drawsFile), &Draw::dateKey);
+  forEachRecordButLast<playFields>(plays, [&](const Fields<playFields>& record) {
+    const Play play = playOf(record);
+    const Draw* const draw = play.isListed() ? draws.find(play.dateKey()) : nullptr;
+    if (draw != nullptr && matchScore(play, *draw) >= winningScore)
+      page.List2.add(join(" ", play.drawLine()));
+  });
+}
+
+void fillAmounts(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
+  page.List3.clear();
+  listAmounts(folder, game, [&](std::string_view line) { page.List3.add(line); });
+  if (game.game != Game::megaMillions) return;
+  for (std::string_view prize : luckyFivePrizes) page.List3.add(prize);
+}
+
+void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
+  page.List4.clear();
+  SequentialReader reader(folder, inFolder(game, searchDrawsFile));
+  forEachRecordButLast<drawFields>(
+      reader, [&](const Fields<drawFields>& record) { page.List4.add(previousDrawLine(drawOf(record))); });
+}
+
+std::array<std::string, 6> fillFrequentNumbers(SummaryPage& page, const DataFolder& folder,
+                                               const GameInfo& game) {
+  page.List5.clear();
+  SequentialReader reader(folder, inFolder(game, drawsFile));
+  std::vector<KeptDraw> kept;
+  try {
+    while (kept.size() < recentDraws) {
+      const auto record = reader.record<drawFields>();
+      kept.push_back({drawOf(record), record.back()});
+    }
+  } catch (const RuntimeError&) {
+    showRecurringNumbers(kept, page.frequent, page.List5);
+    throw;
+  }
+  showRecurringNumbers(kept, page.frequent, page.List5);
+  return captionsOf(page.frequent);
+}
+
+std::array<std::string, 6> showDoublePlay(SummaryPage& page, const DataFolder& folder) {
+  page.Label15.setCaption(powerBallHeadings.lastFifteen);
+  page.Label16.setCaption("PowerBall Double Play Display");
+  page.List2.clear();
+  SequentialReader reader(folder, inFolder(powerBall, doublePlayFile));
+  std::vector<KeptDraw> kept;
+  while (kept.size() < recentDraws) {
+    const auto record = reader.record<doublePlayFields>();
+    kept.push_back({doublePlayDrawOf(record), record.back()});
+    page.List2.add(join(" ", kept.back().draw.line()));
+  }
+  page.List4.clear();
+  for (const KeptDraw& draw : kept) page.List4.add(join(" ", draw.draw.line()));
+  forEachRecord<doublePlayFields>(reader, [&](const Fields<doublePlayFields>& record) {
+    page.List4.add(join(" ", doublePlayDrawOf(record).line()));
+  });
+  showRecurringNumbers(kept, page.frequent, page.List5);
+  return captionsOf(page.frequent);
 }
 
 }  // namespace tallywick
