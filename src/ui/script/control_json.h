@@ -1,0 +1,24 @@
+// What `show` and `print` tell of a control.
+#pragma once
+
+#include "controls/controls.h"
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+namespace tallywick::script {
+
+using Json = nlohmann::ordered_json;
+
+/// Name, type and all properties of that type, always the same keys in the same order.
+Json describe(const Control& control);
+Json describe(const Form& form);
+
+/// The control's text as lines for people, each with its line end: a caption, a drop-down's text, a list's
+/// items.
+std::string plainText(const Control& control);
+
+/// One line, whatever bytes the texts hold.
+std::string oneLine(const Json& json);
+
+}  // namespace tallywick::script

@@ -1,0 +1,93 @@
+#include "ui/script/script_platform.h"
+
+#include "app/program_start.h"
+#include "core/os.h"
+#include "core/text.h"
+#include "ui/script/control_json.h"
+
+#include <filesystem>
+#include <ostream>
+
+namespace tallywick::script {
+
+namespace {
+
+std::string_view nameOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::none:
+      return "none";
+    case MessageBox::Icon::exclamation:
+      return "exclamation";
+    case MessageBox::Icon::information:
+      return "information";
+    case MessageBox::Icon::question:
+      return "question";
+  }
+  return "none";
+}
+
+std::string_view nameOf(MessageBox::Answer answer) {
+  if (answer == MessageBox::Answer::ok) return "ok";
+  return answer == MessageBox::Answer::yes ? "yes" : "no";
+}
+
+/// Whether `text` has a digit wherever `form` has one and equals it elsewhere.
+bool hasForm(std::string_view text, std::string_view form) {
+  if (text.size() != form.size()) return false;
+  for (std::size_t i = 0; i < form.size(); ++i) {
+    const bool digit = text[i] >= '0' && text[i] <= '9';
+    if (form[i] == '0' ? !digit : text[i] != form[i]) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+MessageBox::Answer ScriptPlatform::show(const MessageBox& box) {
+  MessageBox::Answer answer = MessageBox::Answer::ok;
+  if (box.buttons == MessageBox::Buttons::yesNo) {
+    answer = MessageBox::Answer::no;
+    if (!answers_.empty()) {
+      answer = answers_.front();
+      answers_.pop_front();
+    }
+  }
+  Json json;
+  json["text"] = box.text;
+  json["title"] = box.title;
+  json["icon"] = nameOf(box.icon);
+  json["buttons"] = box.buttons == MessageBox::Buttons::ok ? "ok" : "yesNo";
+  json["answer"] = nameOf(answer);
+  out_ << oneLine({{"messageBox", json}}) << std::endl;
+  return answer;
+}
+
+void ScriptPlatform::start(std::string_view program, std::string_view workingFolder) {
+  Json json;
+  json["program"] = program;
+  json["workingFolder"] = workingFolder;
+  out_ << oneLine({{"started", json}}) << std::endl;
+  const ProgramStart really = programStart(folder_, program, workingFolder);
+  if (os::canRun(really.program)) os::startProgram(really.program, really.argument, really.workingFolder);
+}
+
+void ScriptPlatform::openPage(std::string_view address) {
+  out_ << oneLine({{"opened", address}}) << std::endl;
+}
+
+std::string ScriptPlatform::registryValue(std::string_view, std::string_view) {
+  return {};
+}
+
+bool ScriptPlatform::fileExists(std::string_view path) {
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(std::filesystem::path(path), ignored);
+}
+
+bool SettableClock::set(std::string_view text) {
+  if (!hasForm(text, "00-00-0000 00:00:00")) return false;
+  standing_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
+  return true;
+}
+
+}  // namespace tallywick::script
