@@ -46,10 +46,12 @@ void startUp(MainForm& form, const DataFolder& folder) {
   skipFailing([&] { fillWinningPlays(form.summary, folder, game); });
   skipFailing([&] { fillAmounts(form.summary, folder, game); });
   skipFailing([&] { fillPreviousDraws(form.summary, folder, game); });
-  skipFailing([&] { setSearchCaptions(form.search, fillFrequentNumbers(form.summary, folder, game)); });
+  skipFailing([&] { fillFrequentNumbers(form.summary, folder, game); });
+  setSearchCaptions(form.search, newestNumbers(form.summary));
   skipFailing([&] { fillDrawPickers(form.search, folder, game); });
   skipFailing([&] { fillPlayPicker(form.search, folder, game); });
-  skipFailing([&] { fillPlayLists(form.winnings, folder, game); });
+  skipFailing([&] { fillPlayedPlays(form.winnings, folder, game); });
+  skipFailing([&] { fillCommittedPlays(form.winnings, folder, game); });
   skipFailing([&] { drawStartUpChart(form.draws, form.summary.frequent, folder); });
 }
 

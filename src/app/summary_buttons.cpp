@@ -31,19 +31,21 @@ void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game)
   clearLists(form);
   fillAmounts(form.summary, folder, game);
   fillPreviousDraws(form.summary, folder, game);
-  fillPlayLists(form.winnings, folder, game);
+  fillPlayedPlays(form.winnings, folder, game);
+  fillCommittedPlays(form.winnings, folder, game);
   fillLastFifteen(form.summary, folder, game, MissingAmounts::raise);
   fillWinningPlays(form.summary, folder, game);
   fillDrawPickers(form.search, folder, game);
   fillPlayPicker(form.search, folder, game);
-  setSearchCaptions(form.search, fillFrequentNumbers(form.summary, folder, game));
+  fillFrequentNumbers(form.summary, folder, game);
+  setSearchCaptions(form.search, newestNumbers(form.summary));
 }
 
 void showDoublePlayDisplay(MainForm& form, const DataFolder& folder) {
   showGameFrame(form.frames, form.frames.Frame6);
-  const auto newest = showDoublePlay(form.summary, folder);
+  showDoublePlay(form.summary, folder);
   fillDoublePlayLists(form.search, folder);
-  setSearchCaptions(form.search, newest);
+  setSearchCaptions(form.search, newestNumbers(form.summary));
 }
 
 /// What the game menus do before the summary: the frames that the summary then sets right.

@@ -40,12 +40,6 @@ std::string previousDrawLine(const Draw& draw) {
   return text.append("     ").append(draw.extra);
 }
 
-std::array<std::string, 6> captionsOf(const ButtonRow<6>& buttons) {
-  std::array<std::string, 6> captions;
-  for (std::size_t i = 0; i < captions.size(); ++i) captions[i] = buttons[i].caption();
-  return captions;
-}
-
 }  // namespace
 
 SummaryPage::SummaryPage(Form& form)
@@ -125,8 +119,7 @@ void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameIn
       reader, [&](const Fields<drawFields>& record) { page.List4.add(previousDrawLine(drawOf(record))); });
 }
 
-std::array<std::string, 6> fillFrequentNumbers(SummaryPage& page, const DataFolder& folder,
-                                               const GameInfo& game) {
+void fillFrequentNumbers(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List5.clear();
   SequentialReader reader(folder, inFolder(game, drawsFile));
   std::vector<KeptDraw> kept;
@@ -140,10 +133,9 @@ std::array<std::string, 6> fillFrequentNumbers(SummaryPage& page, const DataFold
     throw;
   }
   showRecurringNumbers(kept, page.frequent, page.List5);
-  return captionsOf(page.frequent);
 }
 
-std::array<std::string, 6> showDoublePlay(SummaryPage& page, const DataFolder& folder) {
+void showDoublePlay(SummaryPage& page, const DataFolder& folder) {
   page.Label15.setCaption(powerBallHeadings.lastFifteen);
   page.Label16.setCaption("PowerBall Double Play Display");
   page.List2.clear();
@@ -160,7 +152,12 @@ std::array<std::string, 6> showDoublePlay(SummaryPage& page, const DataFolder& f
     page.List4.add(join(" ", doublePlayDrawOf(record).line()));
   });
   showRecurringNumbers(kept, page.frequent, page.List5);
-  return captionsOf(page.frequent);
+}
+
+std::array<std::string, 6> newestNumbers(const SummaryPage& page) {
+  std::array<std::string, 6> numbers;
+  for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = page.frequent[i].caption();
+  return numbers;
 }
 
 }  // namespace tallywick

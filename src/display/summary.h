@@ -66,13 +66,15 @@ void fillAmounts(SummaryPage& page, const DataFolder& folder, const GameInfo& ga
 /// List4: every record of the search draws but the last.
 void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameInfo& game);
 
-/// The captions and colours of Command9 to Command14, and List5. Fewer than fifteen draws are error 62. Gives
-/// the newest draw's six numbers.
-std::array<std::string, 6> fillFrequentNumbers(SummaryPage& page, const DataFolder& folder,
-                                               const GameInfo& game);
+/// The captions and colours of Command9 to Command14, and List5. Fewer than fifteen draws are error 62; what
+/// there is has been shown then.
+void fillFrequentNumbers(SummaryPage& page, const DataFolder& folder, const GameInfo& game);
 
-/// The headings and lists of the Double Play display but for those of the search pages. Gives the newest
-/// Double Play draw's six numbers.
-std::array<std::string, 6> showDoublePlay(SummaryPage& page, const DataFolder& folder);
+/// The headings and lists of the Double Play display but for those of the search pages. Fewer than fifteen
+/// draws are error 62.
+void showDoublePlay(SummaryPage& page, const DataFolder& folder);
+
+/// The newest draw's six numbers, as Command9 to Command14 show them.
+std::array<std::string, 6> newestNumbers(const SummaryPage& page);
 
 }  // namespace tallywick

@@ -150,9 +150,4 @@ void fillCommittedPlays(WinningsPage& page, const DataFolder& folder, const Game
   listPlays(page.List17, folder, game, PlaySlot::committed);
 }
 
-void fillPlayLists(WinningsPage& page, const DataFolder& folder, const GameInfo& game) {
-  fillPlayedPlays(page, folder, game);
-  fillCommittedPlays(page, folder, game);
-}
-
 }  // namespace tallywick

@@ -63,7 +63,5 @@ void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFol
 void fillPlayedPlays(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
 /// List17.
 void fillCommittedPlays(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
-/// Both.
-void fillPlayLists(WinningsPage& page, const DataFolder& folder, const GameInfo& game);
 
 }  // namespace tallywick
