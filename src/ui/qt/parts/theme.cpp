@@ -1,0 +1,82 @@
+#include "ui/qt/parts/theme.h"
+
+#include <QFontDatabase>
+#include <cmath>
+
+namespace tallywick::theme {
+
+namespace {
+
+double linear(float part) {
+  const double value = part;
+  return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color) {
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+}  // namespace
+
+QFont headingFont(const QFont& base) {
+  QFont font = base;
+  font.setBold(true);
+  return font;
+}
+
+QFont listFont(const QFont& base) {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  if (base.pointSizeF() > 0)
+    font.setPointSizeF(base.pointSizeF());
+  else
+    font.setPixelSize(base.pixelSize());
+  return font;
+}
+
+double contrast(const QColor& one, const QColor& other) {
+  const double first = luminance(one) + 0.05;
+  const double second = luminance(other) + 0.05;
+  return first > second ? first / second : second / first;
+}
+
+QColor readableOn(const QColor& ground) {
+  const QColor black(Qt::black);
+  const QColor white(Qt::white);
+  return contrast(black, ground) >= contrast(white, ground) ? black : white;
+}
+
+QColor mixed(const QColor& under, const QColor& over, double share) {
+  const auto part = [share](float from, float to) {
+    return static_cast<float>(from + (static_cast<double>(to) - from) * share);
+  };
+  return QColor::fromRgbF(part(under.redF(), over.redF()), part(under.greenF(), over.greenF()),
+                          part(under.blueF(), over.blueF()));
+}
+
+QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastContrast) {
+  constexpr int steps = 20;
+  const QColor target = readableOn(ground);
+  for (int step = 0; step < steps; ++step) {
+    const QColor color = mixed(wanted, target, static_cast<double>(step) / steps);
+    if (contrast(color, ground) >= leastContrast) return color;
+  }
+  return target;
+}
+
+bool isDark(const QPalette& palette) {
+  return luminance(palette.color(QPalette::Window)) < luminance(palette.color(QPalette::WindowText));
+}
+
+QColor toQColor(Color color, const QPalette& palette) {
+  switch (color.kind) {
+    case Color::Kind::buttonFace:
+      return palette.color(QPalette::Button);
+    case Color::Kind::threeDLight:
+      return palette.color(QPalette::Midlight);
+    case Color::Kind::rgb:
+      break;
+  }
+  return {color.red, color.green, color.blue};
+}
+
+}  // namespace tallywick::theme

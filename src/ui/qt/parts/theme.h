@@ -1,0 +1,39 @@
+// What all windows share in looks: the rhythm of their spacing, their faces, and colours that stay readable
+// on light and dark desktops.
+#pragma once
+
+#include "controls/color.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+namespace tallywick::theme {
+
+/// The rhythm of all spacing, in device-independent pixels.
+inline constexpr int gap = 8;
+inline constexpr int halfGap = gap / 2;
+inline constexpr int pageMargin = 2 * gap;
+
+/// Readable text on its ground, and a shape that is told from its surroundings.
+inline constexpr double textContrast = 4.5;
+inline constexpr double shapeContrast = 3.0;
+
+QFont headingFont(const QFont& base);
+/// A face whose digits and blanks have one width, in the size of `base`.
+QFont listFont(const QFont& base);
+
+/// Relative contrast of two opaque colours, 1 to 21.
+double contrast(const QColor& one, const QColor& other);
+/// Black or white, whichever reads better on `ground`: never below 4.5.
+QColor readableOn(const QColor& ground);
+/// So much of `over` (0 to 1) laid over `under`.
+QColor mixed(const QColor& under, const QColor& over, double share);
+/// `wanted`, moved towards black or white until it has at least that contrast with `ground`.
+QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastContrast);
+
+bool isDark(const QPalette& palette);
+/// A control's colour on this desktop; the system's colours come from the palette.
+QColor toQColor(Color color, const QPalette& palette);
+
+}  // namespace tallywick::theme
