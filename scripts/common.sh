@@ -1,0 +1,31 @@
+# Shared by the commands of this folder; to be sourced, not run.
+set -eu
+cd "$(dirname "$0")/.."
+
+say() { printf '\n== %s\n' "$*"; }
+
+# Installs what is missing of scripts/packages.txt, through sudo where the user is not root.
+install_packages() {
+  command -v dpkg-query > /dev/null || { say "No Debian system: install the like of scripts/packages.txt first"; return; }
+  local package missing=""
+  for package in $(grep -v '^#' scripts/packages.txt); do
+    dpkg-query -W -f '${Status}\n' "$package" 2> /dev/null | grep -q 'ok installed' || missing="$missing $package"
+  done
+  [ -n "$missing" ] || return 0
+  say "Installing$missing"
+  local root=""
+  [ "$(id -u)" = 0 ] || root="sudo"
+  $root apt-get update -q
+  # shellcheck disable=SC2086 # a list of words
+  $root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing
+}
+
+# build PRESET [CMAKE-OPTION…]: configures and builds build/PRESET.
+build() {
+  local preset="$1"
+  shift
+  say "Building the $preset preset"
+  if command -v ccache > /dev/null; then set -- -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"; fi
+  cmake --preset "$preset" "$@"
+  cmake --build --preset "$preset"
+}
