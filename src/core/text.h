@@ -26,6 +26,13 @@ std::string_view trimmed(std::string_view text);
 /// `length` characters from the 1-based `position`; what lies beyond the end is left out.
 std::string_view cut(std::string_view text, std::size_t position, std::size_t length);
 
+/// Whether two number texts are the same. Nearly all have two digits, and these cost no call.
+inline bool sameText(std::string_view left, std::string_view right) {
+  if (left.size() != right.size()) return false;
+  if (left.size() == 2) return left[0] == right[0] && left[1] == right[1];
+  return left == right;
+}
+
 /// Equal but for the case of the letters A to Z.
 bool equalIgnoringCase(std::string_view left, std::string_view right);
 
