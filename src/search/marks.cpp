@@ -1,5 +1,10 @@
 #include "search/marks.h"
 
+#include "core/text.h"
+
+#include <algorithm>
+#include <array>
+
 namespace tallywick {
 
 bool isMarked(const Button& button) {
@@ -12,6 +17,21 @@ void toggleMark(Button& button) {
   } else if (isMarked(button)) {
     button.setBackColor(colors::buttonFace);
   }
+}
+
+void unmarkAll(ButtonRow<6>& numbers) {
+  for (Button& number : numbers) number.setBackColor(colors::buttonFace);
+}
+
+std::string firstMarkedNumber(const ButtonRow<6>& numbers) {
+  const auto first = std::find_if(numbers.begin(), numbers.end(), isMarked);
+  return first == numbers.end() ? std::string() : first->caption();
+}
+
+void displayNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {
+  unmarkAll(numbers);
+  const std::array<std::size_t, 6> positions = {16, 19, 22, 25, 28, extraBallAt};
+  for (std::size_t i = 0; i < positions.size(); ++i) numbers[i].setCaption(cut(drawLine, positions[i], 2));
 }
 
 }  // namespace tallywick

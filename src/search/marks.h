@@ -1,13 +1,33 @@
-// The marks of the search pages' number buttons: cyan is marked, button face is not.
+// The number buttons of the search pages: their marks (cyan is marked, button face is not) and the numbers
+// that a draw line puts on them.
 #pragma once
 
+#include "controls/button_row.h"
 #include "controls/controls.h"
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 namespace tallywick {
+
+/// Where the extra ball of a draw line stands, from 1; the white balls stand at 16, 19, 22, 25 and 28.
+inline constexpr std::size_t extraBallPosition = 33;
+/// The same in the lines of the leftover state game.
+inline constexpr std::size_t hoosierExtraBallPosition = 31;
 
 bool isMarked(const Button& button);
 
 /// Button face becomes cyan, cyan button face; any other colour stays.
 void toggleMark(Button& button);
+
+void unmarkAll(ButtonRow<6>& numbers);
+
+/// The caption of the first marked button; empty where none is marked.
+std::string firstMarkedNumber(const ButtonRow<6>& numbers);
+
+/// Unmarks the buttons and gives them the numbers of `drawLine`, whatever stands there; what lies beyond the
+/// line's end is an empty caption.
+void displayNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt);
 
 }  // namespace tallywick

@@ -1,5 +1,17 @@
 #include "search/two_three_search.h"
 
+#include "core/draws.h"
+#include "core/games.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "search/combinations.h"
+#include "search/history_file.h"
+#include "search/marks.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
 namespace tallywick {
 
 TwoThreePage::TwoThreePage(Form& form)
@@ -13,11 +25,198 @@ TwoThreePage::TwoThreePage(Form& form)
       List8(form, "List8"),
       Label25(form, "Label25") {}
 
-void Command37_Click(TwoThreePage&) {}
-void Command38_Click(TwoThreePage&, const DataFolder&, MessageBoxes&) {}
-void Command25_Click(TwoThreePage&, const DataFolder&, MessageBoxes&) {}
-void Command26_Click(TwoThreePage&, const DataFolder&, MessageBoxes&) {}
-void SearchOneTwoThreeMega(TwoThreePage&, const DataFolder&, MessageBoxes&) {}
-void SearchOneTwoThreeHoosier(TwoThreePage&, const DataFolder&, MessageBoxes&) {}
+namespace {
+
+constexpr std::string_view twoOrThree = "Error !!!  Search for Two or Three Numbers,";
+constexpr std::string_view oneTwoOrThree = "Error !!!  Search for One, Two or Three Numbers,";
+
+/// What differs between the members of the family.
+struct Member {
+  std::string_view gameFolder;
+  std::string_view file;
+  std::string_view tooManyText;
+  std::string_view tooManyTitle;
+  /// Empty where a search without marks ends without a word.
+  std::string_view noneMarkedTitle = {};
+  bool fillsList = true;
+  /// Follows the draw in every line; otherwise the combination's own tail follows it in later lines.
+  LineTail everyLinesTail = LineTail::none;
+  /// Every match of this combination is taken for the first one.
+  Positions neverCounted = {};
+  /// Where the file ends inside a record the search ends there, without an error.
+  bool mayEndInsideRecord = false;
+};
+
+constexpr Member powerBallMember = {.gameFolder = powerBall.folder,
+                                    .file = searchDrawsFile,
+                                    .tooManyText = twoOrThree,
+                                    .tooManyTitle = "PowerBall Lottery Game",
+                                    .noneMarkedTitle = "PowerBall Lotto Search."};
+
+constexpr Member megaMillionsMember = {.gameFolder = megaMillions.folder,
+                                       .file = searchDrawsFile,
+                                       .tooManyText = twoOrThree,
+                                       .tooManyTitle = "Mega Million Lottery Game.",
+                                       .noneMarkedTitle = "Mega Million Lottery Game."};
+
+/// Deliberate: the file's records of eighteen fields are read in tens, and the matches of 2-3-6 are not
+/// counted.
+constexpr Member doublePlayMember = {.gameFolder = powerBall.folder,
+                                     .file = doublePlayFile,
+                                     .tooManyText = twoOrThree,
+                                     .tooManyTitle = "PowerBall Double Play Lotto Search.",
+                                     .noneMarkedTitle = "PowerBall Double Play Lotto Search.",
+                                     .neverCounted = {2, 3, 6},
+                                     .mayEndInsideRecord = true};
+
+/// Deliberate: PowerBall's title over the Mega Millions draws.
+constexpr Member oneTwoThreeMegaMember = {.gameFolder = megaMillions.folder,
+                                          .file = searchDrawsFile,
+                                          .tooManyText = oneTwoOrThree,
+                                          .tooManyTitle = "PowerBall Lottery Game",
+                                          .fillsList = false,
+                                          .everyLinesTail = LineTail::fieldTen};
+
+constexpr Member oneTwoThreeHoosierMember = {.gameFolder = hoosierFolder,
+                                             .file = searchDrawsFile,
+                                             .tooManyText = oneTwoOrThree,
+                                             .tooManyTitle = "Hoosier Lottery Game",
+                                             .fillsList = false,
+                                             .everyLinesTail = LineTail::fieldTen};
+
+using DrawRecord = Fields<drawFields>;
+
+/// Null where fewer than two positions are marked.
+const Combination* chosenCombination(const ButtonRow<6>& numbers) {
+  const auto chosen = std::find_if(combinations.begin(), combinations.end(), [&](const Combination& tried) {
+    return std::all_of(tried.positions.begin(), tried.positions.end(), [&](std::size_t position) {
+      return position == 0 || isMarked(numbers[position - 1]);
+    });
+  });
+  return chosen == combinations.end() ? nullptr : &*chosen;
+}
+
+std::vector<std::string> searchedNumbers(const Combination& combination, const ButtonRow<6>& numbers) {
+  std::vector<std::string> searched;
+  for (std::size_t i = 0; i < combination.size(); ++i) {
+    searched.push_back(numbers[combination.positions[i] - 1U].caption());
+  }
+  return searched;
+}
+
+bool holdsAll(const DrawRecord& record, std::size_t compared, const std::vector<std::string>& searched) {
+  const auto first = record.begin() + 3;
+  const auto last = first + static_cast<std::ptrdiff_t>(compared);
+  return std::all_of(searched.begin(), searched.end(), [&](std::string_view number) {
+    return std::any_of(first, last, [&](std::string_view drawn) { return sameText(drawn, number); });
+  });
+}
+
+void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
+  line = " ";
+  drawOf(record).appendLine(line);
+  if (tail != LineTail::none) line.append("     ");
+  if (tail == LineTail::fieldTen) line.append(record[9]);
+}
+
+std::string tally(const std::vector<std::string>& searched, std::size_t matches) {
+  std::string text = join(" ", searched[0], " && ", searched[1]);
+  text += searched.size() == 3 ? join(" && ", searched[2], "     ") : std::string(12, ' ');
+  return join(text, std::to_string(matches), "  Times.");
+}
+
+/// Puts matches into the result lists and counts them.
+class Results {
+ public:
+  Results(const Member& member, const Combination& combination, TwoThreePage& page)
+      : page_(page),
+        fillsList_(member.fillsList),
+        counts_(combination.positions != member.neverCounted),
+        tail_(member.everyLinesTail),
+        laterTail_(member.everyLinesTail == LineTail::none ? combination.laterTail : member.everyLinesTail) {}
+
+  void add(const DrawRecord& record) {
+    setLine(line_, record, tail_);
+    if (fillsList_) page_.List8.add(line_);
+    if (matches_ == 0) {
+      page_.Combo7.setText(line_);
+    } else if (laterTail_ != tail_) {
+      setLine(line_, record, laterTail_);
+    }
+    page_.Combo7.add(line_);
+    if (counts_) ++matches_;
+  }
+
+  std::size_t matches() const { return matches_; }
+
+ private:
+  TwoThreePage& page_;
+  bool fillsList_;
+  bool counts_;
+  LineTail tail_;
+  LineTail laterTail_;
+  std::string line_;
+  std::size_t matches_ = 0;
+};
+
+void addMatches(Results& results, SequentialReader& history, const Member& member,
+                const Combination& combination, const std::vector<std::string>& searched) {
+  try {
+    forEachRecord<drawFields>(history, [&](const DrawRecord& record) {
+      if (holdsAll(record, combination.compared, searched)) results.add(record);
+    });
+  } catch (const RuntimeError& error) {
+    if (!member.mayEndInsideRecord || !error.is(ErrorNumber::inputPastEnd)) throw;
+  }
+}
+
+void searchCombination(const Combination& combination, const Member& member, TwoThreePage& page,
+                       SequentialReader& history) {
+  const std::vector<std::string> searched = searchedNumbers(combination, page.numbers);
+  if (member.fillsList) {
+    page.List8.clear();
+    page.List8.setEmphasis(searched);
+  }
+  Results results(member, combination, page);
+  addMatches(results, history, member, combination, searched);
+  page.Label25.setCaption(tally(searched, results.matches()));
+}
+
+void search(const Member& member, TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  page.Combo7.clear();
+  std::optional<SequentialReader> history = openHistory(folder, join(member.gameFolder, member.file), boxes);
+  if (!history) return;
+  const auto marked = std::count_if(page.numbers.begin(), page.numbers.end(), isMarked);
+  if (marked == 0 && !member.noneMarkedTitle.empty()) {
+    boxes.show({"Minimum of Two Number Must Be Selected...", std::string(member.noneMarkedTitle)});
+  } else if (marked >= 4) {
+    boxes.show({join(member.tooManyText, "\r\nPlease Retry."), std::string(member.tooManyTitle),
+                MessageBox::Icon::exclamation});
+  } else if (const Combination* combination = chosenCombination(page.numbers)) {
+    searchCombination(*combination, member, page, *history);
+  }
+}
+
+}  // namespace
+
+void Command37_Click(TwoThreePage& page) {
+  displayNumbers(page.numbers, page.Combo4.text(), extraBallPosition);
+}
+
+void Command38_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  search(powerBallMember, page, folder, boxes);
+}
+void Command25_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  search(megaMillionsMember, page, folder, boxes);
+}
+void Command26_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  search(doublePlayMember, page, folder, boxes);
+}
+void SearchOneTwoThreeMega(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  search(oneTwoThreeMegaMember, page, folder, boxes);
+}
+void SearchOneTwoThreeHoosier(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
+  search(oneTwoThreeHoosierMember, page, folder, boxes);
+}
 
 }  // namespace tallywick

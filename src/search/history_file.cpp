@@ -1,0 +1,20 @@
+#include "search/history_file.h"
+
+#include "core/data_folder.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+
+namespace tallywick {
+
+std::optional<SequentialReader> openHistory(const DataFolder& folder, std::string_view written,
+                                            MessageBoxes& boxes) {
+  try {
+    return std::make_optional<SequentialReader>(folder, written);
+  } catch (const RuntimeError& error) {
+    boxes.show({join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
+                std::string(programTitle), MessageBox::Icon::exclamation});
+    return std::nullopt;
+  }
+}
+
+}  // namespace tallywick
