@@ -1,5 +1,16 @@
 #include "search/play_counts.h"
 
+#include "core/draws.h"
+#include "core/games.h"
+#include "core/text.h"
+#include "search/history_file.h"
+#include "search/marks.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+
 namespace tallywick {
 
 HavePlayedPage::HavePlayedPage(Form& form)
@@ -30,12 +41,147 @@ HavePlayedPlaysPage::HavePlayedPlaysPage(Form& form)
       List9(form, "List9"),
       Label26(form, "Label26") {}
 
-void Command22_Click(HavePlayedPage&, const GameFrames&) {}
-void havePlayedNumber_Click(HavePlayedPage&, Button&) {}
-void Command21_Click(HavePlayedPage&, const GameFrames&, const DataFolder&, MessageBoxes&) {}
-void Command29_Click(PlayedPage&, const GameFrames&) {}
-void Command30_Click(PlayedPage&, const GameFrames&, const DataFolder&, MessageBoxes&) {}
-void Command45_Click(HavePlayedPlaysPage&, const GameFrames&) {}
-void Command46_Click(HavePlayedPlaysPage&, ComboBox&, const GameFrames&, const DataFolder&, MessageBoxes&) {}
+namespace {
+
+/// The draw history that is counted while a game frame is visible.
+struct History {
+  Frame GameFrames::*frame;
+  std::string_view gameFolder;
+  std::string_view file;
+  bool isDoublePlay = false;
+};
+
+constexpr History powerBallHistory = {&GameFrames::Frame4, powerBall.folder, searchDrawsFile};
+constexpr History doublePlayHistory = {&GameFrames::Frame6, powerBall.folder, doublePlayFile, true};
+constexpr History hoosierHistory = {&GameFrames::Frame5, hoosierFolder, searchDrawsFile};
+constexpr History megaMillionsHistory = {&GameFrames::Frame11, megaMillions.folder, searchDrawsFile};
+
+/// In the order in which the frames are looked at.
+using Histories = std::array<History, 3>;
+constexpr Histories drawHistories = {powerBallHistory, doublePlayHistory, megaMillionsHistory};
+constexpr Histories playHistories = {powerBallHistory, hoosierHistory, megaMillionsHistory};
+
+/// Null where none of the frames is visible.
+const History* visibleHistory(const Histories& histories, const GameFrames& frames) {
+  const auto visible = std::find_if(histories.begin(), histories.end(), [&](const History& history) {
+    return (frames.*history.frame).visible();
+  });
+  return visible == histories.end() ? nullptr : visible;
+}
+
+/// Lists the draws that hold one number and counts them.
+class Count {
+ public:
+  Count(std::string_view number, ComboBox& results, ListBox* list)
+      : number_(number), results_(results), list_(list) {}
+
+  void operator()(const Draw& draw) {
+    const bool isWhite = std::any_of(draw.white.begin(), draw.white.end(),
+                                     [&](std::string_view ball) { return sameText(ball, number_); });
+    const bool isExtra = sameText(draw.extra, number_);
+    if (!isWhite && !isExtra) return;
+    line_ = " ";
+    draw.appendLine(line_);
+    // Deliberate: a draw with the number as extra ball counts as a first one, whatever was found before.
+    if (times_ == 0 || isExtra) results_.setText(line_);
+    results_.add(line_);
+    if (list_ != nullptr) list_->add(line_);
+    ++times_;
+  }
+
+  std::size_t times() const { return times_; }
+
+ private:
+  std::string_view number_;
+  ComboBox& results_;
+  ListBox* list_;
+  std::string line_;
+  std::size_t times_ = 0;
+};
+
+/// How often the number came up; nothing where the history cannot be read.
+std::optional<std::size_t> countDraws(Count count, const History& history, const DataFolder& folder,
+                                      MessageBoxes& boxes) {
+  std::optional<SequentialReader> reader = openHistory(folder, join(history.gameFolder, history.file), boxes);
+  if (!reader) return std::nullopt;
+  if (history.isDoublePlay) {
+    forEachRecord<doublePlayFields>(
+        *reader, [&](const Fields<doublePlayFields>& record) { count(doublePlayDrawOf(record)); });
+  } else {
+    forEachRecord<drawFields>(*reader, [&](const Fields<drawFields>& record) { count(drawOf(record)); });
+  }
+  return count.times();
+}
+
+std::string havePlayedTally(std::string_view number, std::size_t times) {
+  return join(" ", number, "  Have Played:  ", std::to_string(times), "   Times");
+}
+
+void displayDrawLine(ButtonRow<6>& numbers, const ComboBox& source, const GameFrames& frames) {
+  displayNumbers(numbers, source.text(),
+                 frames.Frame5.visible() ? hoosierExtraBallPosition : extraBallPosition);
+}
+
+}  // namespace
+
+void Command22_Click(HavePlayedPage& page, const GameFrames& frames) {
+  displayDrawLine(page.numbers, page.Combo2, frames);
+}
+
+void havePlayedNumber_Click(HavePlayedPage& page, Button& number) {
+  toggleMark(number);
+  page.Command21.setEnabled(true);
+}
+
+void Command21_Click(HavePlayedPage& page, const GameFrames& frames, const DataFolder& folder,
+                     MessageBoxes& boxes) {
+  page.Combo5.clear();
+  const History* history = visibleHistory(drawHistories, frames);
+  if (history == nullptr) return;
+  page.List6.clear();
+  const std::string number = firstMarkedNumber(page.numbers);
+  const auto times = countDraws(Count(number, page.Combo5, nullptr), *history, folder, boxes);
+  if (!times) return;
+  if (*times == 0) {
+    boxes.show({"One Number Must Be Selected...", "PowerBall Lotto Search."});
+    return;
+  }
+  page.Label23.setCaption(havePlayedTally(number, *times));
+  unmarkAll(page.numbers);
+  page.Command21.setEnabled(false);
+}
+
+void Command29_Click(PlayedPage& page, const GameFrames& frames) {
+  const bool hasGame = visibleHistory(drawHistories, frames) != nullptr;
+  page.Command23.setCaption(hasGame ? trimmed(cut(page.Combo3.text(), 16, 2)) : std::string_view());
+}
+
+void Command30_Click(PlayedPage& page, const GameFrames& frames, const DataFolder& folder,
+                     MessageBoxes& boxes) {
+  page.Combo6.clear();
+  page.List7.clear();
+  const History* history = visibleHistory(drawHistories, frames);
+  if (history == nullptr) return;
+  const std::string& number = page.Command23.caption();
+  const auto times = countDraws(Count(number, page.Combo6, &page.List7), *history, folder, boxes);
+  if (!times) return;
+  page.List7.setEmphasis({number});
+  page.Label24.setCaption(join(number, " Played: ", std::to_string(*times), " Times"));
+}
+
+void Command45_Click(HavePlayedPlaysPage& page, const GameFrames& frames) {
+  displayDrawLine(page.numbers, page.Combo8, frames);
+}
+
+void Command46_Click(HavePlayedPlaysPage& page, ComboBox& Combo5, const GameFrames& frames,
+                     const DataFolder& folder, MessageBoxes& boxes) {
+  Combo5.clear();
+  page.Combo9.clear();
+  const History* history = visibleHistory(playHistories, frames);
+  if (history == nullptr) return;
+  const std::string number = firstMarkedNumber(page.numbers);
+  const auto times = countDraws(Count(number, page.Combo9, nullptr), *history, folder, boxes);
+  if (times) page.Label26.setCaption(havePlayedTally(number, *times));
+}
 
 }  // namespace tallywick
