@@ -66,6 +66,11 @@ fs::path entryInAnyCase(const fs::path& folder, std::string_view name) {
     std::string candidate = nameOf(entry->path());
     if (equalIgnoringCase(candidate, name) && (best.empty() || candidate < best)) best = std::move(candidate);
   }
+  // A folder that cannot be listed may hold the name in another case: to take it as missing would make it
+  // twice.
+  if (error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory) {
+    throw runtimeErrorFrom(error, folder);
+  }
   return folder / fromText(best.empty() ? name : std::string_view(best));
 }
 
