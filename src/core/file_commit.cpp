@@ -14,26 +14,70 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view journalHead = "tallywick-journal 1\n";
+/// Closes a journal; no file has such a name.
+constexpr std::string_view journalEnd = "/\n";
 
 fs::path stagedPath(const fs::path& folder, std::string_view name) {
   return folder / fs::path(std::u8string(name.begin(), name.end())).concat(stagedSuffix);
 }
 
-/// The staged files of `folder` that an uncommitted change left behind go.
-void removeStaged(const fs::path& folder) {
-  std::vector<fs::path> leftovers;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    if (nameOf(entry.path()).ends_with(stagedSuffix)) leftovers.push_back(entry.path());
+bool stands(const fs::path& file) {
+  std::error_code error;
+  const bool found = fs::exists(file, error);
+  if (error) throw runtimeErrorFrom(error, file);
+  return found;
+}
+
+/// The files of `folder` with names of the program's own, but for the lock.
+std::vector<fs::path> workFiles(const fs::path& folder) {
+  std::vector<fs::path> found;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    const std::string name = nameOf(entry->path());
+    if (isOwnWorkName(name) && !equalIgnoringCase(name, lockName)) found.push_back(entry->path());
   }
-  for (const fs::path& leftover : leftovers) os::removeDurably(leftover);
+  if (error) throw runtimeErrorFrom(error, folder);
+  return found;
+}
+
+std::string journalOf(const std::vector<std::string>& names) {
+  std::string journal(journalHead);
+  for (const std::string& name : names) journal.append(name).append("\n");
+  return journal.append(journalEnd);
+}
+
+/// The names that a journal lists. A journal takes its name when all of it is on the disk, so one that is not
+/// whole was never acted upon and lists none.
+std::vector<std::string> namesIn(std::string_view journal) {
+  std::vector<std::string> names;
+  if (!journal.starts_with(journalHead) || !journal.ends_with(journalEnd)) return names;
+  journal.remove_prefix(journalHead.size());
+  journal.remove_suffix(journalEnd.size());
+  while (!journal.empty()) {
+    const std::size_t end = std::min(journal.find('\n'), journal.size() - 1);
+    names.emplace_back(journal.substr(0, end));
+    journal.remove_prefix(end + 1);
+  }
+  return names;
 }
 
 /// Takes over the staged files that still stand. Doing it twice changes nothing: a staged name is used once.
 void takeOver(const fs::path& folder, const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     const fs::path staged = stagedPath(folder, name);
-    if (fs::exists(staged)) os::takeName(staged, entryInAnyCase(folder, name));
+    if (stands(staged)) os::takeName(staged, entryInAnyCase(folder, name));
   }
+}
+
+/// Finishes a change that was cut short after its journal was in place, and removes what an uncommitted one
+/// left behind.
+void finishCommit(const fs::path& folder) {
+  const fs::path journal = folder / journalName;
+  if (stands(journal)) {
+    takeOver(folder, namesIn(os::readFile(journal).view()));
+    os::removeDurably(journal);
+  }
+  for (const fs::path& leftover : workFiles(folder)) os::removeDurably(leftover);
 }
 
 }  // namespace
@@ -56,12 +100,12 @@ void replaceFile(const fs::path& file, std::string_view contents) {
 }
 
 os::FileLock lockFolder(const fs::path& folder) {
-  return os::FileLock(folder / lockName, os::FileLock::Wait::yes);
+  os::FileLock lock(folder / lockName, os::FileLock::Wait::yes);
+  finishCommit(folder);
+  return lock;
 }
 
-FileCommit::FileCommit(fs::path folder) : folder_(std::move(folder)), lock_(lockFolder(folder_)) {
-  finishCommit(folder_);
-}
+FileCommit::FileCommit(fs::path folder) : folder_(std::move(folder)), lock_(lockFolder(folder_)) {}
 
 FileCommit::~FileCommit() {
   std::error_code ignored;
@@ -78,44 +122,41 @@ fs::path FileCommit::stageByCaller(std::string_view name) {
 }
 
 void FileCommit::commit() {
-  std::string journal(journalHead);
-  for (const std::string& name : names_) journal.append(name).append("\n");
-  replaceFile(folder_ / journalName, journal);
-  // From here on the change is made; whatever goes wrong now, the journal finishes it at the next occasion.
-  const std::vector<std::string> names = std::exchange(names_, {});
-  takeOver(folder_, names);
+  for (const std::string& name : names_) {
+    const fs::path staged = stagedPath(folder_, name);
+    if (!stands(staged)) throw RuntimeError(ErrorNumber::fileNotFound, staged.string());
+  }
+  try {
+    // The journal may name only what a cut of the power leaves standing.
+    os::syncFolder(folder_);
+    replaceFile(folder_ / journalName, journalOf(names_));
+    takeOver(folder_, names_);
+  } catch (...) {
+    takeBack();
+    throw;
+  }
+  names_.clear();
   os::removeDurably(folder_ / journalName);
 }
 
-void finishCommit(const fs::path& folder) {
+/// While every staged file still stands, nothing has been taken over and the journal can go. It goes first:
+/// as long as it may stand, the staged files are needed.
+void FileCommit::takeBack() noexcept {
   std::error_code ignored;
-  if (!fs::is_directory(folder, ignored)) return;
-  const fs::path journal = folder / journalName;
-  if (fs::exists(journal, ignored)) {
-    const os::FileBytes bytes = os::readFile(journal);
-    std::string_view rest = bytes.view();
-    if (!rest.starts_with(journalHead)) {
-      throw RuntimeError(ErrorNumber::pathFileAccess,
-                         join(journal.string(), " is no journal of this program"));
-    }
-    rest.remove_prefix(journalHead.size());
-    std::vector<std::string> names;
-    while (!rest.empty()) {
-      const std::size_t end = std::min(rest.find('\n'), rest.size());
-      names.emplace_back(rest.substr(0, end));
-      rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    takeOver(folder, names);
-    os::removeDurably(journal);
+  const bool untouched = std::all_of(names_.begin(), names_.end(), [&](const std::string& name) {
+    return fs::exists(stagedPath(folder_, name), ignored);
+  });
+  try {
+    if (untouched) os::removeDurably(folder_ / journalName);
+  } catch (const std::exception&) {
+    names_.clear();
   }
-  removeStaged(folder);
+  if (!untouched) names_.clear();
 }
 
 void recoverFolder(const fs::path& folder) {
-  std::error_code ignored;
-  if (!fs::is_directory(folder, ignored)) return;
+  if (!stands(folder) || workFiles(folder).empty()) return;
   const os::FileLock lock = lockFolder(folder);
-  finishCommit(folder);
 }
 
 }  // namespace tallywick

@@ -21,14 +21,14 @@ bool isOwnWorkName(std::string_view name);
 /// leaves the file as it was.
 void replaceFile(const std::filesystem::path& file, std::string_view contents);
 
-/// The lock on a folder: Done, the maintenance, an update and the sort tool hold it while they change files.
+/// Takes the lock on a folder and finishes what an earlier change of it left behind. Whatever changes play
+/// files holds it meanwhile: the selection window, the maintenance, an update and the sort tool.
 os::FileLock lockFolder(const std::filesystem::path& folder);
 
 /// A change of several files of one folder that happens as a whole or not at all. The new files are staged
 /// beside the old ones, a journal that names them is put in place in one step, and from then on the change is
-/// made: commit() takes over name by name and removes the journal, and where that is cut short finishCommit()
-/// goes on. The folder's lock is held from construction on, and what an earlier change left behind is
-/// finished first.
+/// made: commit() takes over name by name and removes the journal, and where that is cut short the next one
+/// who takes the folder's lock goes on. The lock is held from construction on.
 class FileCommit {
  public:
   explicit FileCommit(std::filesystem::path folder);
@@ -43,21 +43,20 @@ class FileCommit {
   /// Where the caller itself is to write the new file `name`, which it closes and has synced before commit().
   std::filesystem::path stageByCaller(std::string_view name);
 
-  /// Takes over the staged files in the order in which they were staged.
+  /// Takes over the staged files in the order in which they were staged. Where it fails, everything is as
+  /// before or, once a name has been taken over, finished by the next one who takes the folder's lock.
   void commit();
 
  private:
+  void takeBack() noexcept;
+
   std::filesystem::path folder_;
   os::FileLock lock_;
   std::vector<std::string> names_;
 };
 
-/// Finishes a change of `folder` that was cut short after its journal was in place, and removes what an
-/// uncommitted one left behind. A folder that does not stand has nothing to finish. The caller holds the
-/// folder's lock.
-void finishCommit(const std::filesystem::path& folder);
-
-/// Takes the folder's lock and finishes what was cut short; for the start of the program.
+/// Finishes what was cut short, for the start of the program. Where there is nothing to finish it takes no
+/// lock, so that a folder that cannot be written is no error.
 void recoverFolder(const std::filesystem::path& folder);
 
 }  // namespace tallywick

@@ -31,6 +31,9 @@ FileBytes readFile(const std::filesystem::path& file);
 /// on a failure the file is removed and a RuntimeError (61, 70, 75 …) raised.
 void writeDurably(const std::filesystem::path& file, std::string_view contents);
 
+/// Waits until the names of the files in `folder` are on the disk.
+void syncFolder(const std::filesystem::path& folder);
+
 /// Waits until what was written to `file` by others (the transfer library) is on the disk.
 void syncFile(const std::filesystem::path& file);
 

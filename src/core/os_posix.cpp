@@ -20,6 +20,8 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void fail(int error, const fs::path& file) {
+  // A used-up quota is a full disk to the one who meets it.
+  if (error == EDQUOT) error = ENOSPC;
   throw runtimeErrorFrom(std::error_code(error, std::generic_category()), file);
 }
 
@@ -52,10 +54,7 @@ class Descriptor {
 };
 
 void syncFolderOf(const fs::path& file) {
-  const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-  const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  // Some file systems cannot sync a folder and say so; there the rename itself is all there is.
-  if (::fsync(descriptor.number()) != 0 && errno != EINVAL && errno != ENOTSUP) fail(errno, folder);
+  syncFolder(file.has_parent_path() ? file.parent_path() : fs::path("."));
 }
 
 }  // namespace
@@ -94,6 +93,12 @@ void writeDurably(const fs::path& file, std::string_view contents) {
     fs::remove(file, ignored);
     throw;
   }
+}
+
+void syncFolder(const fs::path& folder) {
+  const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  // Some file systems cannot sync a folder and say so; there the rename itself is all there is.
+  if (::fsync(descriptor.number()) != 0 && errno != EINVAL && errno != ENOTSUP) fail(errno, folder);
 }
 
 void syncFile(const fs::path& file) {

@@ -27,10 +27,11 @@ namespace {
 /// An open file that is closed on every way out.
 class Handle {
  public:
-  Handle(const fs::path& file, DWORD access, DWORD disposition)
+  Handle(const fs::path& file, DWORD access, DWORD disposition,
+         DWORD shared = FILE_SHARE_READ | FILE_SHARE_DELETE)
       : file_(file),
-        handle_(::CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, disposition,
-                              FILE_ATTRIBUTE_NORMAL, nullptr)) {
+        handle_(::CreateFileW(file.c_str(), access, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
+                              nullptr)) {
     if (handle_ == INVALID_HANDLE_VALUE) fail(::GetLastError(), file_);
   }
   ~Handle() {
@@ -91,13 +92,22 @@ void writeDurably(const fs::path& file, std::string_view contents) {
   }
 }
 
+// The file system keeps the order in which names change, and takeName() writes through.
+void syncFolder(const fs::path&) {}
+
 void syncFile(const fs::path& file) {
   Handle(file, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING).sync();
 }
 
 void takeName(const fs::path& from, const fs::path& to) {
-  if (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-    fail(::GetLastError(), to);
+  // Virus scanners and search indexes hold a file open for a moment after it has been written.
+  using namespace std::chrono_literals;
+  const auto until = std::chrono::steady_clock::now() + 1s;
+  while (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
+    const DWORD error = ::GetLastError();
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (!mayPass || std::chrono::steady_clock::now() >= until) fail(error, to);
+    std::this_thread::sleep_for(10ms);
   }
 }
 
@@ -109,7 +119,8 @@ void removeDurably(const fs::path& file) {
 }
 
 FileLock::FileLock(const fs::path& lockFile, Wait wait) {
-  Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
+  // Everybody may open the lock file; only one may hold the lock on it.
+  Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_SHARE_READ | FILE_SHARE_WRITE);
   using namespace std::chrono_literals;
   const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
   OVERLAPPED place{};
