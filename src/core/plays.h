@@ -55,6 +55,8 @@ class PlayFile {
   /// All records in file order, those that are never listed among them.
   const std::vector<Play>& plays() const { return plays_; }
   bool empty() const { return plays_.empty(); }
+  /// The bytes of the file, as they stand.
+  std::string_view text() const { return reader_.text(); }
 
  private:
   SequentialReader reader_;

@@ -51,6 +51,8 @@ class SequentialReader {
   /// How many records have been begun.
   std::size_t recordNumber() const { return recordNumber_; }
   const std::string& name() const { return name_; }
+  /// The whole of what is read.
+  std::string_view text() const { return text_; }
 
  private:
   /// The shape of the record read last: where its separators stand and where its digits. The next record
