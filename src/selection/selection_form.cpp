@@ -1,12 +1,18 @@
 #include "selection/selection_form.h"
 
+#include "core/file_commit.h"
 #include "core/text.h"
+#include "selection/draw_count.h"
+#include "selection/marks.h"
+#include "selection/play_lists.h"
+#include "selection/selection_handlers.h"
 
 namespace tallywick {
 
 SelectionForm::SelectionForm(const GameInfo& gameInfo, SelectionSurroundings around)
-    : Form(gameInfo.game == Game::powerBall ? "Form3" : "Form5"),
+    : Form(std::string(selectionRulesOf(gameInfo.game).form)),
       game(gameInfo),
+      rules(selectionRulesOf(gameInfo.game)),
       surroundings(around),
       Command59(*this, "Command59", "Select"),
       Command9(*this, "Command9", "Quick Pick"),
@@ -16,7 +22,7 @@ SelectionForm::SelectionForm(const GameInfo& gameInfo, SelectionSurroundings aro
       Command1(*this, "Command1", "Draw"),
       Command4(*this, "Command4", "## PlaysDates"),
       Command7(*this, "Command7"),
-      Label1(*this, "Label1", "    "),
+      Label1(*this, "Label1", oneDraw),
       Label3(*this, "Label3", "Your Current Play Selection(s):"),
       Combo1(*this, "Combo1"),
       Label28(*this, "Label28", "Your Previous History Plays:"),
@@ -25,9 +31,53 @@ SelectionForm::SelectionForm(const GameInfo& gameInfo, SelectionSurroundings aro
       Combo8(*this, "Combo8"),
       List1(*this, "List1"),
       StatusBar1(*this, "StatusBar1", 3) {
-  setTitle(join("The Tallywick Software... Selection (", game.name, ")"));
+  setTitle(rules.title);
+  for (Button* action : {&Command59, &Command9, &Command5, &Command60, &Command84, &Command1, &Command4}) {
+    action->setToolTip(action->caption());
+  }
+  makeNumbers();
+  wire();
 }
 
-void SelectionForm::load() {}
+void SelectionForm::makeNumbers() {
+  for (int number = 1; number <= rules.numbers; ++number) {
+    const std::string caption = twoDigits(number);
+    auto button = std::make_unique<Button>(*this, numberButtonName(number), caption);
+    button->setBackColor(colors::threeDLight);
+    button->onClick = [this, number] { Number_Click(*this, number); };
+    addAlias(caption, *button);
+    numbers.push_back(std::move(button));
+  }
+}
+
+void SelectionForm::wire() {
+  Command59.onClick = [this] { Command59_Click(*this); };
+  Command9.onClick = [this] { Command9_Click(*this); };
+  Command5.onClick = [this] { Command5_Click(*this); };
+  Command60.onClick = [this] { Command60_Click(*this); };
+  Command84.onClick = [this] { Command84_Click(*this); };
+  Command1.onClick = [this] { Command1_Click(*this); };
+  Command4.onClick = [this] { Command4_Click(*this); };
+  Command7.onClick = [this] { Command7_Click(*this); };
+}
+
+void SelectionForm::load() {
+  unmarkAll(*this);
+  Command59.setBackColor(colors::threeDLight);
+  Command59.hide();
+  Command7.hide();
+  Label1.hide();
+  Label1.setCaption(oneDraw);
+  for (Button* action : {&Command59, &Command9, &Command5, &Command84, &Command7}) action->setEnabled(true);
+  for (Button* waiting : {&Command1, &Command4}) waiting->setEnabled(false);
+
+  emptyCurrentPlays(*this);
+  showNextPlays(*this);
+  const std::size_t played = showHistory(*this);
+  showSavedTexts(*this);
+  StatusBar1.setPanel(1, played == 0 ? "" : join(":    ", std::to_string(played)));
+  StatusBar1.setPanel(2, "");
+  StatusBar1.setPanel(3, "");
+}
 
 }  // namespace tallywick

@@ -1,13 +1,13 @@
 // The selection window of a game: a grid of numbers on which a player builds plays.
 #pragma once
 
-#include "controls/button_row.h"
 #include "controls/controls.h"
 #include "controls/surroundings.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/games.h"
 #include "core/random.h"
+#include "selection/selection_rules.h"
 
 #include <memory>
 #include <vector>
@@ -31,29 +31,50 @@ class SelectionForm : public Form {
   /// What opening the window does: empties the current selections and fills the lists.
   void load();
 
+  /// The button of a number, from 1.
+  Button& button(int number) { return *numbers[static_cast<std::size_t>(number - 1)]; }
+  const Button& button(int number) const { return *numbers[static_cast<std::size_t>(number - 1)]; }
+
   const GameInfo& game;
+  const SelectionRules& rules;
   SelectionSurroundings surroundings;
 
   /// One button a number, "01" first. A number is also an alias of its button.
   std::vector<std::unique_ptr<Button>> numbers;
 
+  /// Select.
   Button Command59;
+  /// Quick Pick.
   Button Command9;
+  /// Done.
   Button Command5;
+  /// Replay.
   Button Command60;
+  /// Clear.
   Button Command84;
+  /// Draw.
   Button Command1;
+  /// Steps the draw count.
   Button Command4;
   Button Command7;
+  /// The draw count: blank means one draw.
   Label Label1;
   Label Label3;
+  /// The plays selected since the window was opened.
   ComboBox Combo1;
   Label Label28;
+  /// The play history; Replay takes the play in its text.
   ComboBox Combo7;
   Label Label29;
+  /// The committed plays for the next draw date.
   ComboBox Combo8;
+  /// Saved play texts.
   ListBox List1;
   StatusBar StatusBar1;
+
+ private:
+  void makeNumbers();
+  void wire();
 };
 
 }  // namespace tallywick

@@ -1,0 +1,110 @@
+// Done: the current plays become the committed ones.
+#include "core/file_commit.h"
+#include "core/plays.h"
+#include "core/text.h"
+#include "selection/draw_count.h"
+#include "selection/draw_dates.h"
+#include "selection/play_lists.h"
+#include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
+
+#include <algorithm>
+
+namespace tallywick {
+
+namespace {
+
+/// What the status bar tells of the committed plays.
+struct Committed {
+  std::size_t plays = 0;
+  std::string firstDate;
+  std::size_t playsOfFirstDate = 0;
+};
+
+Committed summaryOf(const std::vector<Play>& plays) {
+  if (plays.empty()) return {};
+  const std::string_view first = plays.front().date;
+  const auto ofFirst =
+      std::count_if(plays.begin(), plays.end(), [&](const Play& play) { return play.date == first; });
+  return {plays.size(), std::string(first), static_cast<std::size_t>(ofFirst)};
+}
+
+/// Every play once for each date: all for the first date, then all for the second, and so on.
+std::vector<Play> repeated(const std::vector<Play>& plays, const std::vector<std::string>& dates) {
+  std::vector<Play> all;
+  all.reserve(plays.size() * dates.size());
+  for (const std::string& date : dates) {
+    for (Play play : plays) {
+      play.date = date;
+      all.push_back(play);
+    }
+  }
+  return all;
+}
+
+std::string textOf(const std::vector<Play>& plays) {
+  std::string text;
+  for (const Play& play : plays) appendRecord(text, play);
+  return text;
+}
+
+/// The dates of the draws for which the plays are entered: the first play's, and the draw days after it.
+std::vector<std::string> drawDates(const SelectionForm& form, const std::vector<Play>& plays, int draws) {
+  if (plays.empty()) return {};
+  return drawDatesFrom(form.surroundings.folder, form.rules.drawDays, plays.front().date, draws);
+}
+
+/// Replaces the committed plays, empties the current ones and keeps the copy, all three or none.
+Committed commit(const SelectionForm& form, int draws) {
+  const DataFolder& folder = form.surroundings.folder;
+  FileCommit files(gameFolder(form));
+  const PlayFile current(folder, playFilePath(form, PlaySlot::current));
+  std::vector<std::string> dates;
+  std::vector<Play> plays = current.plays();
+  if (draws > 1) {
+    dates = drawDates(form, plays, draws);
+    plays = repeated(plays, dates);
+  }
+  const std::string text = textOf(plays);
+  // Entered for one draw the current plays change their name only, and keep every byte.
+  files.stage(playFileName(form.game, PlaySlot::committed), draws > 1 ? text : current.text());
+  files.stage(playFileName(form.game, PlaySlot::current), {});
+  files.stage(saveFileName(form.game, PlaySlot::committed), text);
+  files.commit();
+  if (draws > 1) os::removeDurably(folder.resolve(playFilePath(form, PlaySlot::multiDraw)));
+  return summaryOf(plays);
+}
+
+void closeForPlays(SelectionForm& form) {
+  for (Button* button : {&form.Command1, &form.Command4, &form.Command5, &form.Command7, &form.Command9,
+                         &form.Command59, &form.Command84}) {
+    button->setEnabled(false);
+  }
+  form.Label1.setCaption(oneDraw);
+  form.Label1.hide();
+}
+
+void showCommitted(StatusBar& bar, const Committed& committed) {
+  bar.setPanel(1, join("Lotto Plays: ", std::to_string(committed.plays)));
+  bar.setPanel(2, "");
+  bar.setPanel(3, committed.plays == 0 ? ""
+                                       : join(committed.firstDate, "  for  ",
+                                              std::to_string(committed.playsOfFirstDate), "  Plays."));
+}
+
+}  // namespace
+
+void Command5_Click(SelectionForm& form) {
+  Committed committed;
+  try {
+    committed = commit(form, drawCountOf(form.Label1.caption()));
+  } catch (const CalendarGap& gap) {
+    showCalendarGap(form.surroundings.boxes, gap);
+    return;
+  }
+  closeForPlays(form);
+  showHistory(form);
+  showCommitted(form.StatusBar1, committed);
+}
+
+}  // namespace tallywick

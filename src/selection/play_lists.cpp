@@ -1,0 +1,61 @@
+#include "selection/play_lists.h"
+
+#include "core/file_commit.h"
+#include "core/plays.h"
+#include "core/text.h"
+#include "selection/selection_form.h"
+
+namespace tallywick {
+
+namespace {
+
+/// Adds a play, and shows the first one as the box's text.
+void list(ComboBox& box, const Play& play) {
+  const std::string item = play.itemText();
+  if (box.items().empty()) box.setText(item);
+  box.add(item);
+}
+
+}  // namespace
+
+std::string playFilePath(const SelectionForm& form, PlaySlot slot) {
+  return inFolder(form.game, playFileName(form.game, slot));
+}
+
+std::filesystem::path gameFolder(const SelectionForm& form) {
+  return form.surroundings.folder.resolve(form.game.folder);
+}
+
+void emptyCurrentPlays(SelectionForm& form) {
+  const os::FileLock lock = lockFolder(gameFolder(form));
+  replaceFile(form.surroundings.folder.resolve(playFilePath(form, PlaySlot::current)), {});
+  form.Combo1.clear();
+}
+
+void showNextPlays(SelectionForm& form) {
+  const PlayFile committed(form.surroundings.folder, playFilePath(form, PlaySlot::committed));
+  form.Combo8.clear();
+  for (const Play& play : committed.plays()) {
+    if (play.isListed() && play.date == committed.plays().front().date) list(form.Combo8, play);
+  }
+}
+
+std::size_t showHistory(SelectionForm& form) {
+  const PlayFile history(form.surroundings.folder, playFilePath(form, PlaySlot::played));
+  form.Combo7.clear();
+  for (const Play& play : history.plays()) {
+    if (play.isListed()) list(form.Combo7, play);
+  }
+  form.Command60.setEnabled(!history.empty());
+  return history.plays().size();
+}
+
+void showSavedTexts(SelectionForm& form) {
+  form.List1.clear();
+  const std::string file = inFolder(form.game, savedTextsFileName(form.game));
+  if (!form.surroundings.folder.exists(file)) return;
+  SequentialReader texts(form.surroundings.folder, file);
+  while (!texts.atEnd()) form.List1.add(join(" ", texts.field()));
+}
+
+}  // namespace tallywick

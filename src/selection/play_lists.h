@@ -1,0 +1,32 @@
+// The lists of a selection window and the play files behind them.
+#pragma once
+
+#include "core/games.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+namespace tallywick {
+
+class SelectionForm;
+
+/// A play file of the window's game, as the handlers write its path.
+std::string playFilePath(const SelectionForm& form, PlaySlot slot);
+
+/// The real folder of the window's game.
+std::filesystem::path gameFolder(const SelectionForm& form);
+
+/// Drops the plays that were selected and not committed.
+void emptyCurrentPlays(SelectionForm& form);
+
+/// Lists the committed plays of the first record's draw date.
+void showNextPlays(SelectionForm& form);
+
+/// Lists the play history and lets it be replayed where it has a record. Tells how many records it has, those
+/// that are never listed among them.
+std::size_t showHistory(SelectionForm& form);
+
+void showSavedTexts(SelectionForm& form);
+
+}  // namespace tallywick

@@ -1,0 +1,34 @@
+// Replay: marks a play of the history again.
+#include "core/text.h"
+#include "selection/marks.h"
+#include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tallywick {
+
+namespace {
+
+/// Where an item of a play list holds its numbers, the extra ball last.
+constexpr std::array<std::size_t, 6> places = {19, 23, 27, 31, 35, 39};
+
+}  // namespace
+
+void Command60_Click(SelectionForm& form) {
+  form.Command59.show();
+  std::array<std::string_view, 6> numbers;
+  std::transform(places.begin(), places.end(), numbers.begin(),
+                 [&](std::size_t place) { return cut(form.Combo7.text(), place, 2); });
+
+  unmarkAll(form);
+  for (int number = 1; number <= form.rules.replayMain; ++number) {
+    Button& button = form.button(number);
+    const bool isPlayed = std::find(numbers.begin(), numbers.end(), button.caption()) != numbers.end();
+    if (isPlayed) setMark(button, Mark::main);
+    if (number <= form.rules.replayExtra && button.caption() == numbers.back()) setMark(button, Mark::extra);
+  }
+}
+
+}  // namespace tallywick

@@ -1,0 +1,150 @@
+// Select: forms the play from the marks, checks it, dates it and adds it to the current plays.
+#include "core/file_commit.h"
+#include "core/plays.h"
+#include "core/text.h"
+#include "selection/draw_dates.h"
+#include "selection/marks.h"
+#include "selection/play_lists.h"
+#include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tallywick {
+
+namespace {
+
+/// The marks as a play: five main numbers and the extra ball.
+struct MarkedPlay {
+  /// 0 where a place is empty.
+  std::array<int, 6> places{};
+  int marked = 0;
+  int extras = 0;
+
+  void add(int number) {
+    if (marked < 6) places[static_cast<std::size_t>(marked)] = number;
+    ++marked;
+  }
+  bool isFull() const { return places.back() != 0; }
+};
+
+bool isExtra(const SelectionForm& form, int number) {
+  return markOf(form.button(number)) == Mark::extra;
+}
+
+/// All marked numbers ascending, the extra ball among them; what is beyond six is only counted.
+MarkedPlay collectMarks(const SelectionForm& form) {
+  MarkedPlay play;
+  for (int number = 1; number <= form.rules.numbers; ++number) {
+    if (markOf(form.button(number)) == Mark::none) continue;
+    play.add(number);
+    if (isExtra(form, number)) ++play.extras;
+  }
+  return play;
+}
+
+/// Puts the extra ball into the last place. With four main numbers and the extra it stands twice, among the
+/// main numbers and in the last place, and counts twice; that such a play passes is deliberate.
+void placeExtra(const SelectionForm& form, MarkedPlay& play) {
+  const auto extra = std::find_if(play.places.begin(), play.places.end(),
+                                  [&](int number) { return number != 0 && isExtra(form, number); });
+  if (play.isFull()) {
+    if (extra != play.places.end()) std::rotate(extra, extra + 1, play.places.end());
+    return;
+  }
+  for (int number = extrasThatFillUp.first; number <= extrasThatFillUp.last; ++number) {
+    if (!isExtra(form, number)) continue;
+    play.places.back() = number;
+    ++play.marked;
+  }
+}
+
+/// Takes the first refused extra mark off and tells the player.
+bool refuseExtra(SelectionForm& form) {
+  for (int number = refusedExtras.first; number <= refusedExtras.last; ++number) {
+    if (!isExtra(form, number)) continue;
+    form.surroundings.boxes.show({std::string(form.rules.invalidExtra),
+                                  std::string(form.rules.invalidExtraTitle), MessageBox::Icon::exclamation});
+    setMark(form.button(number), Mark::none);
+    return true;
+  }
+  return false;
+}
+
+/// What is wrong with the counts; empty where nothing is.
+std::string_view complaint(const SelectionRules& rules, const MarkedPlay& play) {
+  if (play.extras > 1) return rules.tooManyExtras;
+  if (play.extras != 1) return rules.noExtra;
+  if (play.marked != 6) return rules.notSixNumbers;
+  return {};
+}
+
+std::string decadePattern(const SelectionRules& rules, const MarkedPlay& play) {
+  std::string pattern(static_cast<std::size_t>(rules.decades()), '0');
+  for (std::size_t i = 0; i < 5; ++i) ++pattern[static_cast<std::size_t>(play.places[i] / 10)];
+  return pattern;
+}
+
+/// A play that owns its texts.
+struct DatedPlay {
+  std::string date;
+  std::array<std::string, 6> numbers;
+  std::string decades;
+
+  Play view() const {
+    return {date, {numbers[0], numbers[1], numbers[2], numbers[3], numbers[4]}, numbers[5], decades};
+  }
+};
+
+DatedPlay date(const SelectionForm& form, const MarkedPlay& play) {
+  const SelectionSurroundings& around = form.surroundings;
+  DatedPlay dated = {drawDateOfPlayMadeNow(around.folder, around.clock, form.rules.drawDays),
+                     {},
+                     decadePattern(form.rules, play)};
+  std::transform(play.places.begin(), play.places.end(), dated.numbers.begin(), twoDigits);
+  return dated;
+}
+
+/// Appends the play to the current plays, in one step: the file never holds a part of a record.
+void append(SelectionForm& form, const Play& play) {
+  const DataFolder& folder = form.surroundings.folder;
+  const std::string name = playFilePath(form, PlaySlot::current);
+  const os::FileLock lock = lockFolder(gameFolder(form));
+  const PlayFile current(folder, name);
+  std::string text(current.text());
+  if (!text.empty() && text.back() != '\n') text.append("\r\n");
+  appendRecord(text, play);
+  replaceFile(folder.resolve(name), text);
+
+  form.Combo1.clear();
+  for (const Play& earlier : current.plays()) {
+    if (earlier.isListed()) form.Combo1.add(earlier.itemText());
+  }
+  form.Combo1.setText(play.itemText());
+  form.Combo1.add(play.itemText());
+  form.StatusBar1.setPanel(2, std::to_string(current.plays().size() + 1));
+}
+
+}  // namespace
+
+void Command59_Click(SelectionForm& form) {
+  MarkedPlay play = collectMarks(form);
+  if (refuseExtra(form)) return;
+  placeExtra(form, play);
+  if (const std::string_view text = complaint(form.rules, play); !text.empty()) {
+    form.surroundings.boxes.show({std::string(text), std::string(form.rules.countTitle)});
+    unmarkAll(form);
+    return;
+  }
+  try {
+    append(form, date(form, play).view());
+  } catch (const CalendarGap& gap) {
+    showCalendarGap(form.surroundings.boxes, gap);
+    return;
+  }
+  form.Command1.setEnabled(true);
+  unmarkAll(form);
+}
+
+}  // namespace tallywick

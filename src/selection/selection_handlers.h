@@ -1,0 +1,35 @@
+// The handlers of the selection windows, each named after its event.
+#pragma once
+
+namespace tallywick {
+
+class SelectionForm;
+
+/// A press on a number button.
+void Number_Click(SelectionForm& form, int number);
+
+/// Select: checks the marked numbers and adds them to the current plays, dated for their draw.
+void Command59_Click(SelectionForm& form);
+
+/// Quick Pick: marks a random play.
+void Command9_Click(SelectionForm& form);
+
+/// Done: the current plays replace the committed ones, once for each draw of the draw count.
+void Command5_Click(SelectionForm& form);
+
+/// Replay: marks the play that the history list shows.
+void Command60_Click(SelectionForm& form);
+
+/// Clear: takes all marks off.
+void Command84_Click(SelectionForm& form);
+
+/// Draw: begins the entry of a draw count.
+void Command1_Click(SelectionForm& form);
+
+/// One step of the draw count.
+void Command4_Click(SelectionForm& form);
+
+/// Shows the draw count where it is hidden.
+void Command7_Click(SelectionForm& form);
+
+}  // namespace tallywick
