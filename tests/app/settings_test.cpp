@@ -1,0 +1,67 @@
+// The settings file: what is written is read again, and what cannot be understood is named.
+#include "app/settings.h"
+
+#include "app/data_folder_choice.h"
+#include "app/program_start.h"
+#include "support/scratch_folder.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace tallywick {
+namespace {
+
+using test::ScratchFolder;
+
+TEST(Settings, ComeBackAsTheyWereWritten) {
+  const ScratchFolder scratch;
+  EXPECT_EQ(readSettings(scratch.folder()), Settings{});
+  const Settings settings = {"127.0.0.1:2121", Settings::Tls::required, "https://example.org/?a=b&c=d#e", ""};
+  writeSettings(scratch.folder(), settings);
+  EXPECT_EQ(readSettings(scratch.folder()), settings);
+  scratch.write("TALLYWICK.INI", "; a remark\r\nserver = host\r\n");
+  EXPECT_EQ(readSettings(scratch.folder()).server, "host");
+}
+
+TEST(Settings, AMisspeltOneIsNamedRatherThanIgnored) {
+  const ScratchFolder scratch;
+  for (const auto& [text, complaint] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"tls=requird\n", "tallywick.ini: tls is \"requird\"; it can be off or required"},
+           {"servr=host\n", "tallywick.ini: there is no setting \"servr\""}}) {
+    scratch.write(settingsFile, text);
+    try {
+      readSettings(scratch.folder());
+      ADD_FAILURE() << text;
+    } catch (const std::invalid_argument& error) {
+      EXPECT_STREQ(error.what(), complaint);
+    }
+  }
+  EXPECT_THROW(writeSettings(scratch.folder(), {"a\"b", Settings::Tls::off, "", ""}), std::invalid_argument);
+}
+
+TEST(DataFolderChoice, TheCommandLineGoesBeforeTheEnvironment) {
+  ::setenv("TALLYWICK_FOLDER", "/from/environment", 1);
+  EXPECT_EQ(chooseDataFolder("/named"), "/named");
+  EXPECT_EQ(chooseDataFolder(""), "/from/environment");
+  ::unsetenv("TALLYWICK_FOLDER");
+}
+
+TEST(ProgramStart, ASortToolThatCannotRunHereIsReplacedAndNeverMadeRunnable) {
+  const ScratchFolder scratch;
+  constexpr const char* path =
+      R"(C:\Program Files\TALLYWICK SOFTWARE\TALLYWICK\QZRNUMBERS\QZR6PWR\QZRSRT3.EXE)";
+  scratch.write(path, "from the server");
+  const auto tool = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRSRT3.EXE";
+  ProgramStart start = programStart(scratch.folder(), path, R"(C:\)");
+  EXPECT_EQ(start.program.stem(), "qzrsrt3");
+  EXPECT_EQ(start.argument, tool.parent_path());
+  EXPECT_EQ(std::filesystem::status(tool).permissions() & std::filesystem::perms::owner_exec,
+            std::filesystem::perms::none);
+  std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
+  start = programStart(scratch.folder(), path, R"(C:\)");
+  EXPECT_EQ(start.program, tool);
+  EXPECT_EQ(start.argument, "");
+}
+
+}  // namespace
+}  // namespace tallywick

@@ -1,0 +1,78 @@
+// Every way of writing a path leads to one real file, and errors carry the runtime's numbers.
+#include "core/data_folder.h"
+
+#include "core/file_commit.h"
+#include "core/os.h"
+#include "core/runtime_error.h"
+#include "support/scratch_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace tallywick {
+namespace {
+
+using test::ScratchFolder;
+
+TEST(DataFolder, EveryWayOfWritingAPathLeadsToOneFile) {
+  const ScratchFolder scratch;
+  const auto file = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRNUM6.Dat";
+  scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", "x");
+  for (const char* written :
+       {R"(QzrNumbers\QZR6PWR\QZRNUM6.Dat)", "QZRNUMBERS/qzr6pwr/QZRNUM6.dat",
+        R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6PWR\QZRNUM6.Dat)",
+        R"(c:/PROGRAM FILES/TALLYWICK SOFTWARE/TALLYWICK/QZRNUMBERS\\.\QZR6PWR\QZRNUM6.DAT)"}) {
+    EXPECT_EQ(scratch.folder().resolve(written), file) << written;
+  }
+}
+
+TEST(DataFolder, AFileIsNeverCreatedInASecondCase) {
+  const ScratchFolder scratch;
+  replaceFile(scratch.folder().resolve(R"(QzrNumbers\QZR6PWR\QZR6PWR7.Ply)"), "1");
+  replaceFile(scratch.folder().resolve(R"(QZRNUMBERS\QZR6PWR\qzr6pwr7.ply)"), "2");
+  EXPECT_EQ(scratch.snapshot(),
+            (std::map<std::string, std::string>{{"QzrNumbers/QZR6PWR/QZR6PWR7.Ply", "2"}}));
+}
+
+TEST(DataFolder, TwoCasesSideBySideAreOneFileForAllWhoAsk) {
+  const ScratchFolder scratch;
+  const auto folder = scratch.root() / "QzrNumbers" / "QZR6PWR";
+  std::ofstream(folder / "qzrnum6.dat") << "small";
+  std::ofstream(folder / "QZRNUM6.Dat") << "large";
+  EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/qzrnum6.dat"), "large");
+}
+
+TEST(DataFolder, NoPathLeavesTheFolder) {
+  const ScratchFolder scratch;
+  for (const char* written : {R"(QzrNumbers\..\..\x)", "/etc/passwd", R"(\x)", R"(C:\Windows\x)",
+                              R"(C:\Program Files\Tallywick Software\Tallywick2\x)"}) {
+    EXPECT_THROW(scratch.folder().resolve(written), RuntimeError) << written;
+  }
+}
+
+TEST(RuntimeError, TheSystemsErrorsHaveTheRuntimesNumbers) {
+  const ScratchFolder scratch;
+  const auto numberOf = [](const std::filesystem::path& file) {
+    try {
+      os::readFile(file);
+    } catch (const RuntimeError& error) {
+      EXPECT_NE(error.where().find(file.string()), std::string::npos);
+      return error.number();
+    }
+    return 0;
+  };
+  EXPECT_EQ(numberOf(scratch.root() / "none"), 53);
+  EXPECT_EQ(numberOf(scratch.root() / "none" / "none"), 76);
+  EXPECT_EQ(numberOf(scratch.root() / "QzrNumbers"), 75);
+  EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::no_space_on_device), "f").number(), 61);
+  EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::read_only_file_system), "f").number(), 70);
+}
+
+TEST(RuntimeError, TheBoxTellsNumberAndText) {
+  EXPECT_EQ(RuntimeError(ErrorNumber::fileNotFound, "QZRNUM6.Dat").boxText(),
+            "Run-time error '53':\n\nFile not found");
+  EXPECT_EQ(RuntimeError(-2147193504, "Text.", "").boxText(),
+            "Run-time error '-2147193504 (80046d60)':\n\nText.");
+}
+
+}  // namespace
+}  // namespace tallywick
