@@ -39,6 +39,8 @@ void listAmounts(const DataFolder& folder, const GameInfo& game,
 }
 
 void AmountLookup::read(const DataFolder& folder) {
+  amounts_.clear();
+  firstAmount_ = {};
   SequentialReader& reader = reader_.emplace(folder, inFolder(game_, game_.winningsFile));
   Fields<winningsFields> inHand = reader.record<winningsFields>();
   firstAmount_ = inHand[3];
