@@ -16,6 +16,13 @@ void layOut(MainForm& form, const GameInfo& game) {
   form.winnings.Combo10.clear();
 }
 
+/// The selection button tells which game's window it opens.
+void nameSelection(Button& Command48, const GameInfo& game) {
+  const std::string caption = join(game.name, " Play Selection");
+  Command48.setCaption(caption);
+  Command48.setToolTip(caption);
+}
+
 void clearLists(MainForm& form) {
   SummaryPage& summary = form.summary;
   for (ListBox* list : {&summary.List1, &summary.List2, &summary.List3, &summary.List4, &summary.List5})
@@ -25,9 +32,7 @@ void clearLists(MainForm& form) {
 
 void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game) {
   setSummaryHeadings(form.summary, game);
-  const std::string selection = join(game.name, " Play Selection");
-  form.bar.Command48.setCaption(selection);
-  form.bar.Command48.setToolTip(selection);
+  nameSelection(form.bar.Command48, game);
   clearLists(form);
   fillAmounts(form.summary, folder, game);
   fillPreviousDraws(form.summary, folder, game);
@@ -43,6 +48,7 @@ void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game)
 
 void showDoublePlayDisplay(MainForm& form, const DataFolder& folder) {
   showGameFrame(form.frames, form.frames.Frame6);
+  nameSelection(form.bar.Command48, powerBall);
   showDoublePlay(form.summary, folder);
   fillDoublePlayLists(form.search, folder);
   setSearchCaptions(form.search, newestNumbers(form.summary));
