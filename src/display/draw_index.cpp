@@ -7,8 +7,8 @@ const Draw* DrawIndex::find(const std::string& date) {
   if (!reader_) reader_.emplace(folder_, file_);
   while (!reader_->atEnd()) {
     const Draw draw = drawOf(reader_->record<drawFields>());
-    const auto [entered, isFirst] = draws_.try_emplace((draw.*dateText_)(), draw);
-    if (isFirst && entered->first == date) return &entered->second;
+    const auto entered = draws_.try_emplace((draw.*dateText_)(), draw).first;
+    if (entered->first == date) return &entered->second;
   }
   return nullptr;
 }

@@ -118,7 +118,7 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
   std::vector<std::string> winners;
   forEachRecord<playFields>(plays, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
-    const Draw* const draw = play.isListed() ? draws.find(std::string(play.date)) : nullptr;
+    const Draw* const draw = draws.find(std::string(play.date));
     if (draw != nullptr && wins(play, *draw)) {
       showWinnerOfItsDate(page, play);
       winners.push_back(play.itemText());

@@ -15,15 +15,15 @@ using test::records;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 struct Winnings : testing::Test {
   void write(std::string_view text, const GameInfo& game = powerBall) {
     folder.write(inFolder(game, game.winningsFile), text);
   }
-  std::vector<std::string> listed() {
-    std::vector<std::string> lines;
+  void list() {
+    lines.clear();
     listAmounts(folder.folder(), powerBall, [&](std::string_view line) { lines.emplace_back(line); });
-    return lines;
   }
   /// The amount and the mark of a draw, with a bar between.
   std::string amountOf(const std::string& dateKey, const GameInfo& game = powerBall) {
@@ -33,30 +33,32 @@ struct Winnings : testing::Test {
     return std::string(text) + "|" + std::string(mark);
   }
   test::ScratchFolder folder;
+  std::vector<std::string> lines;
 };
 
 TEST_F(Winnings, ListMarksACountOfOneOrMoreAndLeavesTheLastRecordOut) {
   write(records({"11,18,2026, 40 Million ,1", "11,16,2026,,0", "11,14,2026,30, 2 ", "11,11,2026,20,0.99",
                  "11,09,2026,10,-1", "11,07,2026,5,not looked at"}));
-  EXPECT_THAT(listed(), ElementsAre(" 11-18-2026    40 Million     * ", " 11-16-2026            ",
-                                    " 11-14-2026    30     * ", " 11-11-2026    20        ",
-                                    " 11-09-2026    10        "));
+  list();
+  EXPECT_THAT(lines, ElementsAre(" 11-18-2026    40 Million     * ", " 11-16-2026            ",
+                                 " 11-14-2026    30     * ", " 11-11-2026    20        ",
+                                 " 11-09-2026    10        "));
   write(records({"11,18,2026,40,1"}));
-  EXPECT_THAT(listed(), IsEmpty());
+  list();
+  EXPECT_THAT(lines, IsEmpty());
 }
 
 TEST_F(Winnings, AMarkCountThatIsNoNumberIsError13BehindTheLinesBeforeIt) {
   for (const std::string wrong : {"", "one", "1x", "nan", "inf", "0x1"}) {
     write(records({"11,18,2026,40,1", "11,16,2026,30," + wrong, "11,14,2026,20,0"}));
-    std::vector<std::string> lines;
     try {
-      listAmounts(folder.folder(), powerBall, [&](std::string_view line) { lines.emplace_back(line); });
+      list();
       ADD_FAILURE() << wrong;
     } catch (const RuntimeError& error) {
       EXPECT_TRUE(error.is(ErrorNumber::typeMismatch)) << wrong;
       EXPECT_THAT(error.where(), HasSubstr("QzrPwr.Win, record 2: mark count \"" + wrong + "\""));
     }
-    EXPECT_EQ(lines.size(), 1U) << wrong;
+    EXPECT_THAT(lines, SizeIs(1)) << wrong;
   }
 }
 

@@ -1,6 +1,7 @@
-// Draw files for the tests: records as lists of fields that a test can change before it writes them.
+// Draw files for the tests, as lists of fields that a test can change before it writes them.
 #pragma once
 
+#include "core/runtime_error.h"
 #include "core/text.h"
 
 #include <initializer_list>
@@ -43,6 +44,17 @@ inline Records distinctDoublePlays(int count) {
     record.insert(record.begin() + 3, mainDraw);
   }
   return records;
+}
+
+/// The number of the runtime error that `action` raises, 0 where it raises none.
+template <typename Action>
+int errorOf(Action action) {
+  try {
+    action();
+    return 0;
+  } catch (const RuntimeError& error) {
+    return error.number();
+  }
 }
 
 }  // namespace tallywick::test

@@ -87,8 +87,8 @@ bool isWinner(const Six& play, const Six& draw) {
 }
 
 bool wonOnItsDay(const Six& play, const std::vector<Six>& draws) {
-  return std::any_of(draws.begin(), draws.end(),
-                     [&](const Six& draw) { return draw.date() == play.date() && isWinner(play, draw); });
+  return std::ranges::any_of(
+      draws, [&](const Six& draw) { return draw.date() == play.date() && isWinner(play, draw); });
 }
 
 std::string textOf(const std::vector<Six>& rows, const char* dateSeparator) {
@@ -101,12 +101,7 @@ std::string textOf(const std::vector<Six>& rows, const char* dateSeparator) {
   return text;
 }
 
-struct RealDraws : testing::TestWithParam<const GameInfo*> {
-  test::ScratchFolder folder;
-  Form form{"Form1"};
-  WinningsPage page{form};
-  SummaryPage summary{form};
-};
+struct RealDraws : testing::TestWithParam<const GameInfo*> {};
 
 TEST_P(RealDraws, ChecksAgreeWithAnIndependentScoring) {
   const GameInfo& game = *GetParam();
@@ -114,6 +109,10 @@ TEST_P(RealDraws, ChecksAgreeWithAnIndependentScoring) {
   const auto draws = drawsOf(isPowerBall ? "powerball.csv" : "mega-millions.csv");
   if (draws.empty()) GTEST_SKIP() << "no real draws in " << TALLYWICK_REAL_DRAWS;
   const auto plays = playsFor(draws);
+  const test::ScratchFolder folder;
+  Form form("Form1");
+  WinningsPage page(form);
+  SummaryPage summary(form);
   const TicketFiles& files = isPowerBall ? powerBallTickets : megaMillionsTickets;
   folder.write(files.draws, textOf(draws, ","));
   folder.write(inFolder(game, drawsFile), textOf(draws, ","));
