@@ -1,0 +1,237 @@
+// Select and Done: what is accepted, for which draw, and what the files hold afterwards.
+#include "selection/selection_fixture.h"
+
+namespace tallywick::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST_F(Selection, SelectChecksTheMarksInItsOrder) {
+  struct Row {
+    const char* name;
+    const GameInfo& game;
+    const char* main;
+    const char* extra;
+    const char* outcome;
+    const char* marksLeft;
+  };
+  constexpr const char* powerBallTitle = "PowerBall Lotto Select to Play.|";
+  constexpr const char* megaTitle = "Mega Millions Lotto Select to Play.|";
+  const std::string six = "Six Numbers Must Be Selected...";
+  const Row rows[] = {
+      {"nothing", powerBall, "", "", "You haven't Selected a PowerBall Selection...", ""},
+      {"no extra", powerBall, "05 11 23 42 60", "", "You haven't Selected a PowerBall Selection...", ""},
+      {"no extra", megaMillions, "05 11 23 42 60 70", "", "You haven't Selected a Mega Millions Selection...",
+       ""},
+      {"seven", powerBall, "05 11 23 42 60 61", "07", six.c_str(), ""},
+      {"four", powerBall, "05 11 23", "07", six.c_str(), ""},
+      {"two extras", powerBall, "05 11 23 42 60 61", "07 08", "Only One PowerBall Selection Can Be Made...",
+       ""},
+      {"two extras", megaMillions, "05 11 23 42", "07 08", "Only One Mega Millions Selection Can Be Made...",
+       ""},
+      {"refused extra", powerBall, "05 11", "52 43",
+       "PowerBall Lottery Game|You've Selected an Invalid PowerBall Number.", "05 11 [52] "},
+      {"refused extra", megaMillions, "05 11", "52",
+       "MegaMillions Lottery Game|You've Selected an Invalid MegaMillions Number.", "05 11 "},
+      {"extra first", powerBall, "05 11 23 42 60", "01", "11-21-2026,05,11,23,42,60,01,1110101", ""},
+      {"extra between", powerBall, "05 11 23 42 60", "26", "11-21-2026,05,11,23,42,60,26,1110101", ""},
+      {"eight decades", megaMillions, "09 10 70 78 79", "25", "11-24-2026,09,10,70,78,79,25,11000003", ""},
+      {"beyond the refused ones", megaMillions, "05 11 23 44 60", "42",
+       "11-24-2026,05,11,23,44,60,42,11101010", ""},
+      {"four and an extra pass", powerBall, "05 11 42 60", "07", "11-21-2026,05,07,11,42,60,07,2100101", ""},
+  };
+  for (const Row& row : rows) {
+    open(row.game);
+    boxes.shown.clear();
+    select(row.main, row.extra);
+    const std::string outcome = row.outcome;
+    if (outcome.find("11-2") == 0) {
+      EXPECT_EQ(get("7.Ply"), records({outcome})) << row.name << " " << row.game.name;
+      EXPECT_TRUE(boxes.shown.empty());
+    } else {
+      const bool named = outcome.find('|') != std::string::npos;
+      const std::string title = &row.game == &powerBall ? powerBallTitle : megaTitle;
+      EXPECT_EQ(boxes.only(), named ? outcome : title + outcome) << row.name << " " << row.game.name;
+      EXPECT_EQ(boxes.shown.at(0).icon, named ? MessageBox::Icon::exclamation : MessageBox::Icon::none);
+      EXPECT_EQ(get("7.Ply"), "");
+    }
+    EXPECT_EQ(form->Command1.enabled(), boxes.shown.empty());
+    EXPECT_EQ(marks(), row.marksLeft) << row.name << " " << row.game.name;
+  }
+}
+
+TEST_F(Selection, SelectDatesThePlayForTheNextDraw) {
+  struct Row {
+    const GameInfo& game;
+    const char* date;
+    const char* time;
+    const char* draw;
+  };
+  for (const Row& row : {Row{powerBall, "11-21-2026", "18:00:00", "11-21-2026"},
+                         Row{powerBall, "11-21-2026", "18:00:01", "11-23-2026"},
+                         Row{powerBall, "11-22-2026", "09:00:00", "11-23-2026"},
+                         Row{powerBall, "11-24-2026", "23:59:59", "11-25-2026"},
+                         Row{megaMillions, "11-21-2026", "09:00:00", "11-24-2026"},
+                         Row{megaMillions, "11-24-2026", "18:00:01", "11-27-2026"},
+                         Row{megaMillions, "11-27-2026", "00:00:00", "11-27-2026"}}) {
+    open(row.game, row.date, row.time);
+    select("05 11 23 42 60", "07");
+    EXPECT_THAT(get("7.Ply"), HasSubstr(join("\"", row.draw, "\""))) << row.date << " " << row.time;
+  }
+}
+
+TEST_F(Selection, SelectAddsToTheCurrentPlaysAndListsThem) {
+  open();
+  scratch.write(path("7.Ply"), "11-21-2026,01,02,03,04,05,06,5000000");
+  select("05 11 23 42 60", "07");
+  EXPECT_EQ(get("7.Ply"),
+            "11-21-2026,01,02,03,04,05,06,5000000\r\n" + records({"11-21-2026,05,11,23,42,60,07,1110101"}));
+  EXPECT_THAT(itemsOf(form->Combo1), ElementsAre("  11-21-2026      01  02  03  04  05  06",
+                                                 "  11-21-2026      05  11  23  42  60  07"));
+  EXPECT_EQ(form->Combo1.text(), "  11-21-2026      05  11  23  42  60  07");
+  EXPECT_EQ(form->StatusBar1.panels()[1], "2");
+  EXPECT_TRUE(form->Command1.enabled());
+}
+
+TEST_F(Selection, TheDrawCountGoesRoundAfterDraw) {
+  open();
+  press("Command4");
+  EXPECT_EQ(form->Label1.caption(), "    ") << "disabled until Draw";
+  select("05 11 23 42 60", "07");
+  press("Command1");
+  EXPECT_TRUE(form->Label1.visible() && form->Command4.enabled() && form->Command5.enabled());
+  EXPECT_FALSE(form->Command1.enabled() || form->Command7.enabled());
+  std::vector<std::string> captions;
+  for (int i = 0; i < 10; ++i) {
+    press("Command4");
+    captions.push_back(form->Label1.caption());
+  }
+  EXPECT_THAT(captions,
+              ElementsAre("   2", "   3", "   4", "   5", "   6", "   7", "   8", "   9", "  10", "    "));
+  form->Label1.setCaption("odd");
+  press("Command4");
+  EXPECT_EQ(form->Label1.caption(), "   2");
+}
+
+TEST_F(Selection, TheHiddenDrawCountIsShownByItsButton) {
+  open();
+  form->Command7.show();
+  press("Command7");
+  EXPECT_TRUE(form->Label1.visible() && form->Command1.enabled());
+  EXPECT_FALSE(form->Command7.enabled());
+}
+
+TEST_F(Selection, DoneForOneDrawPutsTheCurrentPlaysInTheCommittedPlace) {
+  scratch.write(path("1.Ply"), records({"11-18-2026,01,02,03,04,05,06,5000000"}));
+  open();
+  // Bare fields keep their bytes; the copy is written anew.
+  const std::string bare = "11-21-2026,01,02,03,04,05,06,5000000\r\n11-23-2026,05,11,23,42,60,07,1110101";
+  scratch.write(path("7.Ply"), bare);
+  scratch.write(path("2.Ply"), records({"11-14-2026,10,20,30,40,50,06,0111110"}));
+  press("Command5");
+  EXPECT_EQ(get("1.Ply"), bare);
+  EXPECT_EQ(get("1.Sav"),
+            records({"11-21-2026,01,02,03,04,05,06,5000000", "11-23-2026,05,11,23,42,60,07,1110101"}));
+  EXPECT_TRUE(scratch.exists(path("7.Ply")) && get("7.Ply").empty());
+  EXPECT_EQ(scratch.snapshot().size(), 5U) << "a file was made twice or left behind";
+  EXPECT_THAT(form->StatusBar1.panels(), ElementsAre("Lotto Plays: 2", "", "11-21-2026  for  1  Plays."));
+  EXPECT_EQ(form->Combo7.items().size(), 1U);
+  EXPECT_TRUE(form->Command60.enabled());
+  for (const Button* button : {&form->Command1, &form->Command4, &form->Command5, &form->Command7,
+                               &form->Command9, &form->Command59, &form->Command84}) {
+    EXPECT_FALSE(button->enabled()) << button->name();
+  }
+  EXPECT_FALSE(form->Label1.visible());
+  open();
+  EXPECT_THAT(itemsOf(form->Combo8), ElementsAre("  11-21-2026      01  02  03  04  05  06"));
+  EXPECT_TRUE(form->Command5.enabled());
+}
+
+TEST_F(Selection, DoneForSeveralDrawsRepeatsThePlaysByDate) {
+  open(megaMillions);
+  scratch.write(path("5.Ply", megaMillions), "left behind");
+  scratch.write(path("7.Ply", megaMillions),
+                records({"11-24-2026,05,11,23,42,60,07,11101010", "11-27-2026,06,11,23,42,60,07,11101010"}));
+  form->Label1.setCaption("  10");
+  press("Command5");
+  std::string expected;
+  for (const char* date :
+       {"11-24", "11-27", "12-01", "12-04", "12-08", "12-11", "12-15", "12-18", "12-22", "12-25"}) {
+    expected += records(
+        {join(date, "-2026,05,11,23,42,60,07,11101010"), join(date, "-2026,06,11,23,42,60,07,11101010")});
+  }
+  EXPECT_EQ(get("1.Ply"), expected);
+  EXPECT_EQ(get("1.Sav"), expected);
+  EXPECT_TRUE(scratch.exists(path("7.Ply", megaMillions)) && get("7.Ply").empty());
+  EXPECT_FALSE(scratch.exists(path("5.Ply", megaMillions)));
+  EXPECT_THAT(form->StatusBar1.panels(), ElementsAre("Lotto Plays: 20", "", "11-24-2026  for  2  Plays."));
+}
+
+TEST_F(Selection, DoneWithoutPlaysEmptiesTheCommittedOnes) {
+  for (const char* count : {"    ", "   3"}) {
+    scratch.write(path("1.Ply"), records({"11-18-2026,01,02,03,04,05,06,5000000"}));
+    open().Label1.setCaption(count);
+    press("Command5");
+    EXPECT_TRUE(scratch.exists(path("1.Ply")) && get("1.Ply").empty());
+    EXPECT_THAT(form->StatusBar1.panels(), ElementsAre("Lotto Plays: 0", "", ""));
+  }
+}
+
+TEST_F(Selection, AGapInTheCalendarIsToldAndNothingIsWritten) {
+  struct Row {
+    const char* name;
+    const char* calendar;
+    const char* drawCount;  ///< of Done; empty for a Select
+  };
+  const Row rows[] = {
+      {"missing", nullptr, ""},
+      {"empty", "", ""},
+      {"without today", "11,20,2026,day,n,5\r\n11,22,2026,day,n,7\r\n11,23,2026,day,n,1\r\n", ""},
+      {"without a later draw day", "11,21,2026,day,n,5\r\n11,22,2026,day,n,7\r\n", ""},
+      {"cut short", "11,21,2026,day,n,5\r\n11,22,2026,", ""},
+      {"missing", nullptr, "   2"},
+      {"without the first date", "11,20,2026,day,n,5\r\n11,23,2026,day,n,1\r\n11,25,2026,day,n,3\r\n",
+       "   2"},
+      {"one draw day short", "11,21,2026,day,n,6\r\n11,23,2026,day,n,1\r\n", "   3"},
+  };
+  for (const Row& row : rows) {
+    open();
+    const bool isDone = *row.drawCount != '\0';
+    if (isDone) scratch.write(path("7.Ply"), records({"11-21-2026,05,11,23,42,60,07,1110101"}));
+    std::filesystem::remove(scratch.root() / "QZRNUM22.DTE");
+    if (row.calendar != nullptr) scratch.write("QZRNUM22.DTE", row.calendar);
+    if (isDone) form->Label1.setCaption(row.drawCount);
+    boxes.shown.clear();
+    const auto before = scratch.snapshot();
+    if (isDone) {
+      mark("05", Mark::main);
+      press("Command5");
+    } else {
+      select("05 11 23 42 60", "07");
+    }
+    EXPECT_THAT(boxes.only(),
+                testing::AllOf(HasSubstr("Tallywick Software|"), HasSubstr("\"QZRNUM22.DTE\"")));
+    EXPECT_EQ(boxes.shown.at(0).icon, MessageBox::Icon::exclamation);
+    EXPECT_EQ(scratch.snapshot(), before) << row.name;
+    EXPECT_NE(marks(), "") << row.name;
+    EXPECT_TRUE(form->Command5.enabled() && form->Command59.enabled());
+    EXPECT_EQ(form->Command1.enabled(), false);
+  }
+}
+
+TEST_F(Selection, WhatACrashLeftBehindIsFinishedBeforeThePlaysAreRead) {
+  open();
+  const std::string plays = records({"11-21-2026,05,11,23,42,60,07,1110101"});
+  scratch.write(path("7.Ply"), plays);
+  scratch.write(path("1.Ply.tw~"), plays);
+  scratch.write(path("7.Ply.tw~"), "");
+  scratch.write(join(powerBall.folder, "TALLYWICK.JNL"),
+                "tallywick-journal 1\nQZR6PWR1.Ply\nQZR6PWR7.Ply\n/\n");
+  select("06 11 23 42 60", "07");
+  EXPECT_EQ(get("1.Ply"), plays);
+  EXPECT_EQ(get("7.Ply"), records({"11-21-2026,06,11,23,42,60,07,1110101"}));
+}
+
+}  // namespace
+}  // namespace tallywick::test
