@@ -1,0 +1,168 @@
+#!/usr/bin/env python3
+"""Kills Select, Done and the opening of a selection window at every file-system call, and lets every call fail.
+
+Whatever happens, the next start of the program must find the game folder wholly as it was or wholly as the
+undisturbed action leaves it. Usage: killed_actions.py PROGRAM, where PROGRAM is selection_action. Exit code 77:
+this system has no strace, or does not let it trace.
+"""
+
+import collections
+import datetime
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+PROGRAM = sys.argv[1]
+ACTIONS = ["open", "select", "done-1", "done-10"]
+KILLED_AT = ["openat", "read", "write", "fsync", "flock", "getdents64", "rename", "unlink", "close"]
+# What a full disk, a folder without permission and a broken disk answer, and the runtime error it becomes.
+FAILURES = [("openat", "EACCES", "70"), ("openat", "ENOSPC", "61"), ("write", "ENOSPC", "61"),
+            ("write", "EDQUOT", "61"), ("fsync", "ENOSPC", "61"), ("fsync", "EIO", "57"), ("rename", "EACCES", "70"),
+            ("rename", "EROFS", "70"), ("unlink", "EIO", "57"), ("close", "EIO", "57"), ("getdents64", "EIO", "57")]
+ENVIRONMENT = dict(os.environ, ASAN_OPTIONS="detect_leaks=0")
+GAME = pathlib.Path("QzrNumbers", "QZR6PWR")
+
+scratch = pathlib.Path(tempfile.mkdtemp(prefix="tallywick-killed-"))
+folder = scratch / "data"
+
+
+def record(*fields):
+    return ",".join(f'"{field}"' for field in fields) + "\r\n"
+
+
+def play(date, first):
+    return record(date, first, "11", "23", "42", "60", "07", "1110101")
+
+
+def starting_files():
+    day = datetime.date(2026, 11, 1)
+    calendar = ""
+    for _ in range(90):
+        calendar += record(f"{day:%m}", f"{day:%d}", f"{day:%Y}", "day", "n", day.isoweekday())
+        day += datetime.timedelta(days=1)
+    return {
+        "QZRNUM22.DTE": calendar,
+        GAME / "QZR6PWR1.Ply": play("11-18-2026", "01") + play("11-18-2026", "02"),
+        GAME / "QZR6PWR1.Sav": play("11-16-2026", "03"),
+        GAME / "QZR6PWR2.Ply": play("11-11-1111", "00") + play("11-14-2026", "04"),
+        GAME / "QZR6PWR7.Ply": play("11-21-2026", "05") + play("11-23-2026", "06") + play("11-23-2026", "08"),
+    }
+
+
+def lay_out(files):
+    shutil.rmtree(folder, ignore_errors=True)
+    (folder / GAME).mkdir(parents=True)
+    for name, text in files.items():
+        (folder / name).write_bytes(text.encode() if isinstance(text, str) else text)
+
+
+def state():
+    return {file.relative_to(folder): file.read_bytes()
+            for file in folder.rglob("*") if file.is_file() and file.suffix != ".LCK"}
+
+
+def run(action, *tracing):
+    command = [*tracing, PROGRAM, str(folder), action]
+    return subprocess.run(command, env=ENVIRONMENT, capture_output=True, text=True)
+
+
+def run_disturbed(action, call, how, number):
+    return run(action, "strace", "-f", "-o", "/dev/null", "-e", f"trace={call}", "-e",
+               f"inject={call}:{how}:when={number}")
+
+
+def calls_of(action):
+    """How often the action makes each call."""
+    log = scratch / "log"
+    run(action, "strace", "-o", str(log))
+    return collections.Counter(re.findall(r"^(\w+)\(", log.read_text(), re.MULTILINE))
+
+
+def check(condition, what):
+    if not condition:
+        sys.exit(f"FAILED: {what}\nthe folder is left in {scratch}")
+
+
+def numbers_of(action, call, loading):
+    """The numbers of the calls that the action makes itself, after those of the program's loading."""
+    return range(loading[call] + 1, calls_of(action)[call] + 1)
+
+
+def kill_everywhere(action, start, outcomes, loading):
+    """Kills at each call, starts the program again, and compares; tells how many kills there were."""
+    kills = 0
+    for call in KILLED_AT:
+        lay_out(start)
+        for number in numbers_of(action, call, loading):
+            lay_out(start)
+            killed = run_disturbed(action, call, "signal=KILL", number).returncode != 0
+            check(killed, f"{action} was not killed at {call} {number}")
+            kills += 1
+            check(run("recover").returncode == 0, f"{action}, killed at {call} {number}: no recovery")
+            check(state() in outcomes, f"{action}, killed at {call} {number}")
+    return kills
+
+
+def fail_everywhere(action, start, after, loading):
+    failures = 0
+    for call, error, told in FAILURES:
+        lay_out(start)
+        for number in numbers_of(action, call, loading):
+            lay_out(start)
+            before = state()
+            ended = run_disturbed(action, call, f"error={error}", number)
+            what = f"{action}, {error} at {call} {number}"
+            if ended.returncode == 0:
+                check(state() == after, what + ": passed over, and not done")
+                continue
+            failures += 1
+            check(ended.stdout.strip() == told, f"{what}: told {ended.stdout!r}")
+            check(call != "write" or state() == before, what + ": something changed")
+            check(run("recover").returncode == 0, what + ": no recovery")
+            check(state() in (before, after), what + ": neither before nor after")
+    return failures
+
+
+def test_action(action, loading):
+    start = starting_files()
+    lay_out(start)
+    before = state()
+    check(run(action).returncode == 0, f"{action} fails undisturbed")
+    after = state()
+    check(before != after, f"{action} does nothing")
+    check(before[GAME / "QZR6PWR2.Ply"] == after[GAME / "QZR6PWR2.Ply"], f"{action} changes the history")
+    kills = kill_everywhere(action, start, (before, after), loading)
+    failures = fail_everywhere(action, start, after, loading)
+    check(kills > 30 and failures > 20, f"{action}: only {kills} kills and {failures} failures")
+    print(f"{action}: {kills} kills and {failures} failures, nothing lost")
+    return after
+
+
+def test_recovery(after, loading):
+    """Recovery can itself be killed anywhere: what Done left half made is finished by the one after."""
+    for number in (2, 3, 4):
+        lay_out(starting_files())
+        run_disturbed("done-10", "rename", "signal=KILL", number)
+        half_made = state()
+        check(half_made.keys() != after.keys(), "Done was not killed half-way")
+        kills = kill_everywhere("recover", half_made, (after,), loading)
+        print(f"recovery from rename {number}: {kills} kills, nothing lost")
+
+
+def main():
+    if shutil.which("strace") is None or run("nothing", "strace", "-o", "/dev/null").returncode != 0:
+        print("SKIPPED: no strace here, or it is not permitted to trace")
+        return 77
+    lay_out(starting_files())
+    loading = calls_of("nothing")
+    after = [test_action(action, loading) for action in ACTIONS]
+    test_recovery(after[-1], loading)
+    shutil.rmtree(scratch)
+    return 0
+
+
+sys.exit(main())

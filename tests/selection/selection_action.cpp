@@ -1,0 +1,50 @@
+// selection_action FOLDER ACTION: one action of the PowerBall selection window on a data folder, for the test
+// that kills it. A runtime error is told by its number on standard output and exit code 1.
+#include "core/file_commit.h"
+#include "core/runtime_error.h"
+#include "selection/marks.h"
+#include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
+#include "support/fakes.h"
+
+#include <iostream>
+
+using namespace tallywick;
+
+namespace {
+
+void done(SelectionForm& form, std::string_view drawCount) {
+  form.Label1.setCaption(drawCount);
+  Command5_Click(form);
+}
+
+void select(SelectionForm& form) {
+  for (int number : {5, 11, 23, 42, 60}) setMark(form.button(number), Mark::main);
+  setMark(form.button(7), Mark::extra);
+  Command59_Click(form);
+}
+
+void run(const DataFolder& folder, std::string_view action) {
+  const StandingClock clock("11-21-2026", "12:00:00");
+  MixingGenerator random(1);
+  test::RecordingBoxes boxes;
+  SelectionForm form(powerBall, {folder, clock, random, boxes});
+  if (action == "open") form.load();
+  if (action == "select") select(form);
+  if (action == "done-1") done(form, "    ");
+  if (action == "done-10") done(form, "  10");
+  if (action == "recover") recoverFolder(folder.resolve(powerBall.folder));
+  for (const MessageBox& box : boxes.shown) std::cout << box.text << "\n";
+}
+
+}  // namespace
+
+int main(int, char** arguments) {
+  try {
+    run(DataFolder(arguments[1]), arguments[2]);
+  } catch (const RuntimeError& error) {
+    std::cout << error.number() << "\n";
+    return 1;
+  }
+  return 0;
+}
