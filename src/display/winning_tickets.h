@@ -14,7 +14,7 @@ class DataFolder;
 struct WinningsPage {
   explicit WinningsPage(Form& form);
 
-  /// The played plays and the committed plays.
+  /// The played plays, of which a check emphasises the winners, and the committed plays.
   ListBox List14;
   ListBox List17;
 
