@@ -37,7 +37,7 @@ SequentialReader openPlays(const DataFolder& folder, std::string_view written) {
   try {
     return SequentialReader(folder, written);
   } catch (const RuntimeError& error) {
-    if (!error.is(ErrorNumber::fileNotFound) && !error.is(ErrorNumber::pathNotFound)) throw;
+    if (!error.is(ErrorNumber::fileNotFound)) throw;
     return SequentialReader({}, std::string(written));
   }
 }

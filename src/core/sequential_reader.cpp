@@ -15,11 +15,21 @@ bool endsLine(char letter) {
   return letter == '\n' || letter == '\r';
 }
 
+/// A file whose folder is missing is missing like any other.
+os::FileBytes readExisting(const std::filesystem::path& file) {
+  try {
+    return os::readFile(file);
+  } catch (const RuntimeError& error) {
+    if (!error.is(ErrorNumber::pathNotFound)) throw;
+    throw RuntimeError(ErrorNumber::fileNotFound, error.where());
+  }
+}
+
 }  // namespace
 
 SequentialReader::SequentialReader(const DataFolder& folder, std::string_view written) {
   const std::filesystem::path file = folder.resolve(written);
-  bytes_ = os::readFile(file);
+  bytes_ = readExisting(file);
   text_ = bytes_.view();
   name_ = file.string();
 }

@@ -27,7 +27,7 @@ using Fields = std::array<std::string_view, Count>;
 /// file is error 62.
 class SequentialReader {
  public:
-  /// Opens the file that `written` names. Raises error 53, 70, 75 or 76 where it cannot be read.
+  /// Opens the file that `written` names. Error 53 where it or its folder is missing, else 70 or 75.
   SequentialReader(const DataFolder& folder, std::string_view written);
   /// Reads from memory; `name` stands for the file in errors.
   SequentialReader(std::string_view text, std::string name);

@@ -112,6 +112,7 @@ TEST_F(Tickets, MissingAndEmptyFiles) {
   EXPECT_EQ(byDate(megaMillionsTickets), 0);
   EXPECT_EQ(page.Combo10.text(), noPlays);
   EXPECT_EQ(byDate(hoosierTickets), 0) << "not even the folder";
+  EXPECT_EQ(latest(hoosierTickets), 53) << "not even the folder";
 
   const std::string winner = records({"01-28-2026,01,02,03,04,05,06,0"});
   folder.write(megaMillionsTickets.plays, winner);
