@@ -1,4 +1,5 @@
 // The checks on real draws against a scoring that works with sets of integers and shares no code with theirs.
+#include "core/text.h"
 #include "display/summary.h"
 #include "display/winning_tickets.h"
 #include "support/fakes.h"
@@ -6,13 +7,12 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <iomanip>
 #include <random>
 #include <set>
 #include <sstream>
-#include <tuple>
 
 namespace tallywick {
 namespace {
@@ -20,86 +20,73 @@ namespace {
 using test::itemsOf;
 using testing::ElementsAreArray;
 
-struct Six {
-  int year;
-  int month;
-  int day;
-  std::vector<int> numbers;  // the extra ball last
-  /// A play only: whether its numbers have two digits.
-  bool padded = true;
+/// Month, day, year, five white balls, the extra ball.
+using Row = std::vector<int>;
 
-  auto date() const { return std::tie(year, month, day); }
-  std::string number(std::size_t index) const { return two(numbers[index], padded); }
-  std::string dateText(const char* separator) const {
-    return two(month, true) + separator + two(day, true) + separator + std::to_string(year);
-  }
-  static std::string two(int number, bool padded) {
-    std::ostringstream text;
-    text << std::setw(padded ? 2 : 1) << std::setfill('0') << number;
-    return text.str();
-  }
+struct TestPlay {
+  Row row;
+  /// Whether numbers below ten have a leading zero.
+  bool padded;
 };
 
-/// The rows of a public export, newest first: the date, then the first six numbers behind it.
-std::vector<Six> drawsOf(const std::string& csv) {
-  std::vector<Six> draws;
+std::string dateOf(const Row& row, const char* separator) {
+  return join(twoDigits(row[0]), separator, twoDigits(row[1]), separator, std::to_string(row[2]));
+}
+
+std::string recordOf(const Row& row, const char* dateSeparator, bool padded) {
+  std::string text = dateOf(row, dateSeparator);
+  for (auto number = row.begin() + 3; number != row.end(); ++number) {
+    text += "," + (padded ? twoDigits(*number) : std::to_string(*number));
+  }
+  return text + ",1\r\n";
+}
+
+/// The draws of a public export, newest first.
+std::vector<Row> drawsOf(const std::string& csv) {
+  std::vector<Row> draws;
   std::ifstream file(std::string(TALLYWICK_REAL_DRAWS) + "/" + csv);
   std::string line;
   std::getline(file, line);
   while (std::getline(file, line)) {
     for (char& letter : line) letter = letter >= '0' && letter <= '9' ? letter : ' ';
     std::istringstream text(line);
-    Six draw{0, 0, 0, std::vector<int>(6)};
-    text >> draw.month >> draw.day >> draw.year;
-    for (int& number : draw.numbers) text >> number;
-    draws.push_back(draw);
+    for (int& number : draws.emplace_back(9)) text >> number;
   }
-  std::sort(draws.begin(), draws.end(), [](const Six& a, const Six& b) { return a.date() > b.date(); });
+  const auto day = [](const Row& row) { return row[2] * 10000 + row[0] * 100 + row[1]; };
+  std::ranges::sort(draws, std::greater(), day);
   return draws;
 }
 
-/// Plays on the draws' days and the days after them, with up to six of the draw's numbers.
-std::vector<Six> playsFor(const std::vector<Six>& draws) {
+/// Plays on the draws' days and on other days, with some of the draw's numbers.
+std::vector<TestPlay> playsFor(const std::vector<Row>& draws) {
   std::mt19937 random(7);
-  std::vector<Six> plays;
-  for (const Six& draw : draws) {
-    Six play = draw;
-    play.padded = random() % 4 != 0;
-    if (random() % 5 == 0) play.day = play.day % 28 + 1;
-    for (int& number : play.numbers) {
-      if (random() % 2 == 0) number = static_cast<int>(random() % 60) + 1;
+  std::vector<TestPlay> plays;
+  for (const Row& draw : draws) {
+    TestPlay play = {draw, random() % 4 != 0};
+    if (random() % 5 == 0) play.row[1] = draw[1] % 28 + 1;
+    for (std::size_t i = 3; i < 9; ++i) {
+      if (random() % 2 == 0) play.row[i] = static_cast<int>(random() % 60) + 1;
     }
     plays.push_back(play);
   }
-  std::shuffle(plays.begin(), plays.end(), random);
+  std::ranges::shuffle(plays, random);
   return plays;
 }
 
-bool isWinner(const Six& play, const Six& draw) {
+bool isWinner(const TestPlay& play, const Row& draw) {
   // A number below ten that is written without its zero is another text.
   const auto comparable = [&](int number) { return play.padded || number > 9; };
   std::set<int> common;
-  for (std::size_t i = 0; i < 5; ++i) {
-    const int ball = play.numbers[i];
-    if (comparable(ball) && std::count(draw.numbers.begin(), draw.numbers.begin() + 5, ball) > 0)
-      common.insert(ball);
+  for (std::size_t i = 3; i < 8; ++i) {
+    if (comparable(draw[i]) && std::count(&play.row[3], &play.row[8], draw[i]) > 0) common.insert(draw[i]);
   }
-  return common.size() >= 3 || (comparable(play.numbers[5]) && play.numbers[5] == draw.numbers[5]);
+  return common.size() >= 3 || (comparable(draw[8]) && play.row[8] == draw[8]);
 }
 
-bool wonOnItsDay(const Six& play, const std::vector<Six>& draws) {
-  return std::ranges::any_of(
-      draws, [&](const Six& draw) { return draw.date() == play.date() && isWinner(play, draw); });
-}
-
-std::string textOf(const std::vector<Six>& rows, const char* dateSeparator) {
-  std::string text;
-  for (const Six& row : rows) {
-    text += row.dateText(dateSeparator);
-    for (std::size_t i = 0; i < 6; ++i) text += "," + row.number(i);
-    text += ",1\r\n";
-  }
-  return text;
+bool wonOnItsDay(const TestPlay& play, const std::vector<Row>& draws) {
+  return std::ranges::any_of(draws, [&](const Row& draw) {
+    return std::equal(draw.begin(), draw.begin() + 3, play.row.begin()) && isWinner(play, draw);
+  });
 }
 
 struct RealDraws : testing::TestWithParam<const GameInfo*> {};
@@ -115,19 +102,21 @@ TEST_P(RealDraws, ChecksAgreeWithAnIndependentScoring) {
   WinningsPage page(form);
   SummaryPage summary(form);
   const TicketFiles& files = isPowerBall ? powerBallTickets : megaMillionsTickets;
-  folder.write(files.draws, textOf(draws, ","));
-  folder.write(inFolder(game, drawsFile), textOf(draws, ","));
-  folder.write(files.plays, textOf(plays, "-"));
-  if (isPowerBall) folder.write(files.doublePlays, "1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1");
-
+  std::string history;
+  for (const Row& draw : draws) history += recordOf(draw, ",", true);
+  std::string played;
   std::vector<std::string> ordinals;
   std::vector<std::string> onTheirDay;
   for (std::size_t i = 0; i < plays.size(); ++i) {
-    const Six& play = plays[i];
-    const std::string heading = " " + play.dateText("-") + "   Winning Ticket... ";
-    if (isWinner(play, draws.front())) ordinals.push_back(heading + "Play Number " + std::to_string(i + 1));
-    if (wonOnItsDay(play, draws)) onTheirDay.push_back(heading);
+    played += recordOf(plays[i].row, "-", plays[i].padded);
+    const std::string heading = " " + dateOf(plays[i].row, "-") + "   Winning Ticket... ";
+    if (isWinner(plays[i], draws[0])) ordinals.push_back(heading + "Play Number " + std::to_string(i + 1));
+    if (wonOnItsDay(plays[i], draws)) onTheirDay.push_back(heading);
   }
+  folder.write(files.draws, history);
+  folder.write(inFolder(game, drawsFile), history);
+  folder.write(files.plays, played);
+  if (isPowerBall) folder.write(files.doublePlays, "1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1");
   EXPECT_GT(ordinals.size(), 10U);
   EXPECT_GT(onTheirDay.size(), plays.size() / 4);
   EXPECT_LT(onTheirDay.size(), plays.size());
