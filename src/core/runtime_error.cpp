@@ -25,11 +25,13 @@ std::string hexadecimal(std::uint32_t value) {
 RuntimeError::RuntimeError(ErrorNumber number, std::string where)
     : RuntimeError(static_cast<std::int32_t>(number), std::string(descriptionOf(number)), std::move(where)) {}
 
-RuntimeError::RuntimeError(std::int32_t number, std::string description, std::string where)
+RuntimeError::RuntimeError(std::int32_t number, std::string description, std::string where,
+                           std::string source)
     : std::runtime_error(inspection(description, where)),
       number_(number),
       description_(std::move(description)),
-      where_(std::move(where)) {}
+      where_(std::move(where)),
+      source_(std::move(source)) {}
 
 std::string RuntimeError::boxText() const {
   std::string number = std::to_string(number_);

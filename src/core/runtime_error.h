@@ -29,11 +29,13 @@ class RuntimeError : public std::runtime_error {
  public:
   explicit RuntimeError(ErrorNumber number, std::string where = {});
   /// An error raised by a class of the program with a number and text of its own (the transfer classes).
-  RuntimeError(std::int32_t number, std::string description, std::string where);
+  RuntimeError(std::int32_t number, std::string description, std::string where, std::string source = {});
 
   std::int32_t number() const { return number_; }
   const std::string& description() const { return description_; }
   const std::string& where() const { return where_; }
+  /// The class that raised it, for example "ftp.Download"; empty for the runtime's own errors.
+  const std::string& source() const { return source_; }
   bool is(ErrorNumber number) const { return number_ == static_cast<std::int32_t>(number); }
 
   /// `Run-time error '53':`, an empty line, the description; a negative number is followed by its hexadecimal
@@ -44,6 +46,7 @@ class RuntimeError : public std::runtime_error {
   std::int32_t number_;
   std::string description_;
   std::string where_;
+  std::string source_;
 };
 
 /// The runtime's text for a number, for example "File not found".
