@@ -26,6 +26,15 @@ class TransferListener {
   virtual void transferInfo(const TransferInfo& info) = 0;
 };
 
+/// The component's own progress window.
+class TransferWindow {
+ public:
+  virtual ~TransferWindow() = default;
+  /// Opens the window where it is not open, and shows the file in hand.
+  virtual void show(const TransferInfo& info) = 0;
+  virtual void close() = 0;
+};
+
 /// An FTP client: set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
 /// what happened and never hold the login or the password.
 class TransferComponent {
@@ -39,6 +48,7 @@ class TransferComponent {
   virtual void setHost(std::string_view host) = 0;
   virtual void setPassive(bool passive) = 0;
   virtual void setProgressWindow(bool shown) = 0;
+  /// How long the server may be silent; 0 for the component's own limits.
   virtual void setInactivityLifetime(int seconds) = 0;
   virtual void setListener(TransferListener* listener) = 0;
 

@@ -1,0 +1,80 @@
+#include "update/curl_errors.h"
+
+#include "core/text.h"
+#include "update/transfer_errors.h"
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+#include <utility>
+
+namespace tallywick {
+
+namespace {
+
+struct Meaning {
+  CURLcode result;
+  TransferFault fault;
+  std::string_view text;
+  /// Whether the text needs the subject to be understood.
+  bool namesSubject = false;
+};
+
+constexpr std::array meanings = {
+    Meaning{CURLE_URL_MALFORMAT, TransferFault::address, "the update server's address is none"},
+    Meaning{CURLE_COULDNT_RESOLVE_HOST, TransferFault::address, "the update server's address is not known"},
+    Meaning{CURLE_COULDNT_CONNECT, TransferFault::connection, "no connection to the update server"},
+    Meaning{CURLE_LOGIN_DENIED, TransferFault::login, "login denied"},
+    Meaning{CURLE_FTP_ACCEPT_TIMEOUT, TransferFault::timeOut, "timed out, the server did not call back"},
+    Meaning{CURLE_FTP_ACCEPT_FAILED, TransferFault::connection, "the server did not call back"},
+    Meaning{CURLE_USE_SSL_FAILED, TransferFault::tls, "the server offers no TLS, which the settings require"},
+    Meaning{CURLE_SSL_CONNECT_ERROR, TransferFault::tls, "no TLS connection to the update server"},
+    Meaning{CURLE_PEER_FAILED_VERIFICATION, TransferFault::tls, "the server's certificate is not trusted"},
+    Meaning{CURLE_SSL_CACERT_BADFILE, TransferFault::tls, "the file of trusted certificates cannot be read"},
+    Meaning{CURLE_REMOTE_ACCESS_DENIED, TransferFault::serverFolder, "the server refuses ", true},
+    Meaning{CURLE_REMOTE_FILE_NOT_FOUND, TransferFault::serverFile, "the server does not give ", true},
+    Meaning{CURLE_FTP_COULDNT_RETR_FILE, TransferFault::serverFile, "the server does not give ", true},
+    Meaning{CURLE_QUOTE_ERROR, TransferFault::serverFolder, "the server refuses ", true},
+    Meaning{CURLE_UPLOAD_FAILED, TransferFault::serverFile, "the server does not take ", true},
+    Meaning{CURLE_PARTIAL_FILE, TransferFault::interrupted, "interrupted in the middle of ", true},
+    Meaning{CURLE_RECV_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
+    Meaning{CURLE_SEND_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
+    Meaning{CURLE_GOT_NOTHING, TransferFault::interrupted, "connection lost, in hand was ", true},
+};
+
+std::string_view timedOutAt(const CurlOperation& operation) {
+  if (!operation.isConnected()) return "timed out while connecting";
+  return operation.bytesDone() == 0 ? "timed out while waiting for an answer, in hand was "
+                                    : "timed out, the transfer stalled in the middle of ";
+}
+
+bool wasRefused(const CurlOperation& operation) {
+  long number = 0;
+  curl_easy_getinfo(operation.handle(), CURLINFO_OS_ERRNO, &number);
+  return std::error_code(static_cast<int>(number), std::system_category()) == std::errc::connection_refused;
+}
+
+Meaning meaningOf(CURLcode result, const CurlOperation& operation) {
+  if (operation.isTooLong()) return {result, TransferFault::limit, "too large: ", true};
+  if (result == CURLE_OPERATION_TIMEDOUT) {
+    return {result, TransferFault::timeOut, timedOutAt(operation), operation.isConnected()};
+  }
+  if (result == CURLE_COULDNT_CONNECT && wasRefused(operation)) {
+    return {result, TransferFault::connection, "connection refused"};
+  }
+  const auto* found =
+      std::ranges::find_if(meanings, [&](const Meaning& meaning) { return meaning.result == result; });
+  if (found != meanings.end()) return *found;
+  return {result, TransferFault::protocol, curl_easy_strerror(result)};
+}
+
+}  // namespace
+
+RuntimeError curlError(CURLcode result, const CurlOperation& operation, std::string_view subject,
+                       std::string where) {
+  const Meaning meaning = meaningOf(result, operation);
+  return transferError(meaning.fault, join(meaning.text, meaning.namesSubject ? subject : ""),
+                       std::move(where));
+}
+
+}  // namespace tallywick

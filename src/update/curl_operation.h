@@ -1,0 +1,103 @@
+// One operation of the transfer library on a fresh handle, and the loop that carries it out while the window
+// stays painted. Known to the transfer component alone.
+#pragma once
+
+#include "controls/surroundings.h"
+#include "update/curl_transfer.h"
+
+#include <cstdint>
+#include <curl/curl.h>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// What every operation of a session is told.
+struct CurlSession {
+  std::string host;
+  std::string userName;
+  std::string password;
+  bool passive = true;
+  bool tlsRequired = false;
+  std::string certificates;
+  TransferTimes times;
+};
+
+/// `path` as it goes into an address: a server that takes it apart gets exactly these bytes back.
+std::string addressPath(std::string_view path);
+
+/// One fresh handle, set up for the session and the server path; what comes down is kept in memory.
+class CurlOperation {
+ public:
+  /// `path` is a file, or a folder where it ends with "/"; an empty one is the folder in which a session
+  /// begins. Error: the host is no server's address.
+  CurlOperation(const CurlSession& session, std::string_view path);
+  CurlOperation(const CurlOperation&) = delete;
+  CurlOperation& operator=(const CurlOperation&) = delete;
+
+  template <typename Value>
+  void set(CURLoption option, Value value) {
+    curl_easy_setopt(handle_.get(), option, value);
+  }
+  /// Without a transfer: only goes to the folder.
+  void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
+  void setLimit(std::uint64_t bytes) { limit_ = bytes; }
+  /// Sends `bytes`, which outlive the operation.
+  void send(std::string_view bytes);
+
+  CURL* handle() const { return handle_.get(); }
+  const std::string& received() const { return received_; }
+  std::uint64_t bytesDone() const { return received_.size() + sent_; }
+  /// The server's three digits to the last command.
+  long responseCode() const;
+  /// The length that the server told; negative where it told none.
+  std::int64_t toldLength() const;
+  bool isTooLong() const { return tooLong_; }
+  /// Changes whenever the server shows that it is there.
+  std::uint64_t signsOfLife() const { return bytesDone() + lines_; }
+  bool isConnected() const;
+
+ private:
+  static std::size_t takeBytes(char* bytes, std::size_t one, std::size_t count, void* self);
+  static std::size_t giveBytes(char* bytes, std::size_t one, std::size_t count, void* self);
+  static std::size_t takeLine(char* bytes, std::size_t one, std::size_t count, void* self);
+  void setAddress(const CurlSession& session, std::string_view path);
+  void setManners(const CurlSession& session);
+
+  struct Close {
+    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+  };
+  std::string received_;
+  std::string_view unsent_;
+  std::uint64_t sent_ = 0;
+  std::uint64_t lines_ = 0;
+  std::uint64_t limit_;
+  bool tooLong_ = false;
+  /// The last member: the library may still call back while it closes.
+  std::unique_ptr<CURL, Close> handle_;
+};
+
+/// Carries operations out, one after the other; connections are kept between them.
+class CurlRunner {
+ public:
+  explicit CurlRunner(Screen& screen);
+
+  /// Runs to the end; `progress` is called when bytes have flowed. A server that is silent for longer than
+  /// `times` allow ends it with CURLE_OPERATION_TIMEDOUT.
+  CURLcode run(CurlOperation& operation, const TransferTimes& times, const std::function<void()>& progress);
+  /// Ends the connections.
+  void close();
+
+ private:
+  CURLcode resultOf(const CurlOperation& operation) const;
+
+  struct Close {
+    void operator()(CURLM* handle) const { curl_multi_cleanup(handle); }
+  };
+  Screen& screen_;
+  std::unique_ptr<CURLM, Close> multi_;
+};
+
+}  // namespace tallywick

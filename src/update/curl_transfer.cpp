@@ -1,0 +1,236 @@
+#include "update/curl_transfer.h"
+
+#include "core/clock.h"
+#include "core/data_folder.h"
+#include "core/text.h"
+#include "update/curl_errors.h"
+#include "update/curl_operation.h"
+#include "update/file_names.h"
+#include "update/folder_transfer.h"
+#include "update/transfer_errors.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallywick {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class CurlTransfer : public TransferComponent {
+ public:
+  CurlTransfer(const DataFolder& folder, const Clock& clock, Screen& screen, CurlTransferSettings settings,
+               TransferWindow* window)
+      : folder_(folder), clock_(clock), settings_(std::move(settings)), window_(window), runner_(screen) {
+    prepare();
+  }
+
+  void prepare() override;
+  void setUserName(std::string_view name) override { session_.userName = name; }
+  void setPassword(std::string_view password) override { session_.password = password; }
+  void setHost(std::string_view host) override { session_.host = host; }
+  void setPassive(bool passive) override { session_.passive = passive; }
+  void setProgressWindow(bool shown) override { windowWanted_ = shown; }
+  void setInactivityLifetime(int seconds) override { inactivityLifetime_ = seconds; }
+  void setListener(TransferListener* listener) override { listener_ = listener; }
+
+  void openSession() override;
+  void download(std::string_view serverFolder, std::string_view wildcard,
+                std::string_view localFolder) override;
+  void upload(std::string_view localFolder, std::string_view wildcard,
+              std::string_view serverFolder) override;
+  bool directoryExists(std::string_view serverFolder) override;
+  void createDirectory(std::string_view serverFolder) override;
+
+ private:
+  CURLcode run(CurlOperation& operation, const TransferInfo& info = {});
+  void runOrRaise(CurlOperation& operation, std::string_view path, const TransferInfo& info = {});
+  Listing machineListing(std::string_view serverFolder);
+  Listing peopleListing(std::string_view serverFolder);
+  std::vector<ListedFile> filesOf(std::string_view serverFolder, std::string_view wildcard);
+  std::string fetch(std::string_view serverFolder, const ListedFile& file);
+  fs::path localFolderOf(std::string_view written) const;
+  void tell(std::string_view status) const;
+  void tell(const TransferInfo& info) const;
+  std::string whereIs(std::string_view path) const { return join(session_.host, " ", path); }
+
+  const DataFolder& folder_;
+  const Clock& clock_;
+  CurlTransferSettings settings_;
+  TransferWindow* window_;
+  CurlRunner runner_;
+  CurlSession session_;
+  bool windowWanted_ = false;
+  int inactivityLifetime_ = 0;
+  TransferListener* listener_ = nullptr;
+};
+
+/// Closes the progress window on every way out.
+struct WindowCloser {
+  TransferWindow* window;
+  ~WindowCloser() {
+    if (window != nullptr) window->close();
+  }
+};
+
+void CurlTransfer::prepare() {
+  runner_.close();
+  session_ = {};
+  session_.tlsRequired = settings_.tlsRequired;
+  session_.certificates = settings_.certificates;
+  windowWanted_ = false;
+}
+
+void CurlTransfer::openSession() {
+  session_.times = settings_.times;
+  if (inactivityLifetime_ > 0) {
+    session_.times.answer = session_.times.stall = std::chrono::seconds(inactivityLifetime_);
+  }
+  tell("Connecting to the update server");
+  CurlOperation operation(session_, "");
+  operation.goThereOnly();
+  runOrRaise(operation, "the session");
+}
+
+void CurlTransfer::download(std::string_view serverFolder, std::string_view wildcard,
+                            std::string_view localFolder) {
+  const WindowCloser closer{windowWanted_ ? window_ : nullptr};
+  const fs::path local = localFolderOf(localFolder);
+  const std::vector<ListedFile> files = filesOf(serverFolder, wildcard);
+  checkIncoming(files, settings_.limits);
+  IncomingFiles incoming(local, files, clock_);
+  for (const ListedFile& file : files) {
+    tell(join("Receiving ", file.name));
+    incoming.add(file.name, fetch(serverFolder, file));
+  }
+  incoming.commit();
+  tell("");
+}
+
+void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcard,
+                          std::string_view serverFolder) {
+  const WindowCloser closer{windowWanted_ ? window_ : nullptr};
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::directory_iterator(localFolderOf(localFolder))) {
+    const std::string name = nameOf(entry.path());
+    const bool isPlain = entry.is_regular_file() && !entry.is_symlink() && !isOwnWorkName(name);
+    if (isPlain && matchesWildcard(wildcard, name)) files.push_back(entry.path());
+  }
+  std::ranges::sort(files);
+  for (const fs::path& file : files) {
+    const std::string name = nameOf(file);
+    tell(join("Sending ", name));
+    const os::FileBytes bytes = os::readFile(file);
+    const std::string path = join(serverFolder, name);
+    CurlOperation operation(session_, path);
+    operation.send(bytes.view());
+    runOrRaise(operation, path, {name, 0, bytes.view().size()});
+  }
+  tell("");
+}
+
+bool CurlTransfer::directoryExists(std::string_view serverFolder) {
+  const std::string path = closedWith('/', serverFolder);
+  CurlOperation operation(session_, path);
+  operation.goThereOnly();
+  const CURLcode result = run(operation);
+  if (result == CURLE_OK) return true;
+  if (result == CURLE_REMOTE_ACCESS_DENIED) return false;
+  throw curlError(result, operation, inQuotes(path), whereIs(path));
+}
+
+void CurlTransfer::createDirectory(std::string_view serverFolder) {
+  const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' '; };
+  if (std::ranges::any_of(serverFolder, isControl)) {
+    throw transferError(TransferFault::name, join(inQuotes(serverFolder), " is no folder's name"));
+  }
+  CurlOperation operation(session_, "");
+  operation.goThereOnly();
+  const std::string command = join("MKD ", serverFolder);
+  const std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands(
+      curl_slist_append(nullptr, command.c_str()), curl_slist_free_all);
+  operation.set(CURLOPT_QUOTE, commands.get());
+  runOrRaise(operation, serverFolder);
+}
+
+CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
+  return runner_.run(operation, session_.times, [&] {
+    if (!info.file.empty()) tell({info.file, operation.bytesDone(), info.bytesInAll});
+  });
+}
+
+void CurlTransfer::runOrRaise(CurlOperation& operation, std::string_view path, const TransferInfo& info) {
+  const CURLcode result = run(operation, info);
+  if (result != CURLE_OK) throw curlError(result, operation, inQuotes(path), whereIs(path));
+}
+
+/// None where the server does not know this form, or where it cannot be relied on.
+Listing CurlTransfer::machineListing(std::string_view serverFolder) {
+  CurlOperation operation(session_, serverFolder);
+  operation.set(CURLOPT_CUSTOMREQUEST, "MLSD");
+  const CURLcode result = run(operation);
+  if (result == CURLE_OK) return readMachineListing(operation.received());
+  if (result == CURLE_FTP_COULDNT_RETR_FILE && operation.responseCode() >= 500) return std::nullopt;
+  throw curlError(result, operation, inQuotes(serverFolder), whereIs(serverFolder));
+}
+
+Listing CurlTransfer::peopleListing(std::string_view serverFolder) {
+  CurlOperation operation(session_, serverFolder);
+  runOrRaise(operation, serverFolder);
+  return readPeopleListing(operation.received());
+}
+
+std::vector<ListedFile> CurlTransfer::filesOf(std::string_view serverFolder, std::string_view wildcard) {
+  tell("Asking for the files");
+  Listing files = machineListing(serverFolder);
+  if (!files) files = peopleListing(serverFolder);
+  if (!files) {
+    throw transferError(TransferFault::listing, "the server's list of files is cut short or not understood",
+                        whereIs(serverFolder));
+  }
+  std::erase_if(*files, [&](const ListedFile& file) { return !matchesWildcard(wildcard, file.name); });
+  return std::move(*files);
+}
+
+std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile& file) {
+  const std::string path = join(serverFolder, file.name);
+  CurlOperation operation(session_, path);
+  operation.setLimit(settings_.limits.fileSize);
+  tell({file.name, 0, file.size.value_or(0)});
+  runOrRaise(operation, file.name, {file.name, 0, file.size.value_or(0)});
+  const std::uint64_t got = operation.received().size();
+  const std::int64_t told = operation.toldLength();
+  if (got != file.size.value_or(got) || (told >= 0 && got != static_cast<std::uint64_t>(told))) {
+    throw transferError(TransferFault::length,
+                        join(inQuotes(file.name), " came down with another length than the server told"),
+                        whereIs(path));
+  }
+  return operation.received();
+}
+
+fs::path CurlTransfer::localFolderOf(std::string_view written) const {
+  const fs::path local = folder_.resolve(written);
+  std::error_code ignored;
+  if (!fs::is_directory(local, ignored)) throw RuntimeError(ErrorNumber::pathNotFound, local.string());
+  return local;
+}
+
+void CurlTransfer::tell(std::string_view status) const {
+  if (listener_ != nullptr) listener_->status(status);
+}
+
+void CurlTransfer::tell(const TransferInfo& info) const {
+  if (listener_ != nullptr) listener_->transferInfo(info);
+  if (windowWanted_ && window_ != nullptr) window_->show(info);
+}
+
+}  // namespace
+
+std::unique_ptr<TransferComponent> newCurlTransfer(const DataFolder& folder, const Clock& clock,
+                                                   Screen& screen, CurlTransferSettings settings,
+                                                   TransferWindow* window) {
+  return std::make_unique<CurlTransfer>(folder, clock, screen, std::move(settings), window);
+}
+
+}  // namespace tallywick

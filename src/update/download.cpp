@@ -1,0 +1,17 @@
+#include "update/download.h"
+
+namespace tallywick {
+
+Download::Download(const TransferFactory& newTransfer, TransferListener* listener)
+    // The five letters of the scheme are deliberate.
+    : FolderTransfer({"ftp.Download", "fttp://"}, newTransfer) {
+  component().setListener(listener);
+}
+
+void Download::Start() {
+  check(allProperties);
+  openSession();
+  component().download(closedWith('/', SourceFolder()), "*.*", closedWith('\\', TargetFolder()));
+}
+
+}  // namespace tallywick

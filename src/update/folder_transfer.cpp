@@ -1,0 +1,65 @@
+#include "update/folder_transfer.h"
+
+#include "core/text.h"
+
+#include <array>
+
+namespace tallywick {
+
+namespace {
+
+constexpr int firstCode = 28000;
+constexpr std::uint32_t applicationErrors = 0x80040000;
+
+/// In the order in which they are checked; the code of each is the first code plus its place.
+constexpr std::array<std::string_view, 5> checkedProperties = {"Server", "Login", "Password", "SourceFolder",
+                                                               "TargetFolder"};
+
+std::string without(std::string_view piece, std::string text) {
+  for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at)) {
+    text.erase(at, piece.size());
+  }
+  return text;
+}
+
+}  // namespace
+
+RuntimeError transferClassError(int code, std::string_view source) {
+  const auto number = static_cast<std::int32_t>(applicationErrors + static_cast<std::uint32_t>(code));
+  const auto place = static_cast<std::size_t>(code - firstCode);
+  std::string text = "An unrecognized error was encountered.";
+  if (place < checkedProperties.size()) {
+    // "beeen" is what the message has always said.
+    text = join("A Download ", checkedProperties[place], " property has not beeen specified.");
+  }
+  return RuntimeError(number, std::move(text), {}, std::string(source));
+}
+
+FolderTransfer::FolderTransfer(const Kind& kind, const TransferFactory& newTransfer)
+    : kind_(kind), component_(newTransfer()) {}
+
+void FolderTransfer::check(std::size_t count) const {
+  const std::array<const std::string*, allProperties> values = {&server_, &login_, &password_, &sourceFolder_,
+                                                                &targetFolder_};
+  for (std::size_t i = 0; i < count; ++i) {
+    if (values[i]->empty()) throw transferClassError(firstCode + static_cast<int>(i), kind_.source);
+  }
+}
+
+void FolderTransfer::openSession() {
+  component_->prepare();
+  component_->setUserName(login_);
+  component_->setPassword(password_);
+  component_->setHost(without(kind_.scheme, server_));
+  component_->setPassive(passive_);
+  component_->setProgressWindow(showTransferWindow_);
+  component_->openSession();
+}
+
+std::string closedWith(char slash, std::string_view folder) {
+  std::string closed(folder);
+  if (!closed.ends_with(slash)) closed += slash;
+  return closed;
+}
+
+}  // namespace tallywick

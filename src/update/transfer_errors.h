@@ -1,0 +1,36 @@
+// The errors of a transfer: each tells what happened, and none holds a login, a password or a server's own
+// words, which may repeat them.
+#pragma once
+
+#include "core/runtime_error.h"
+
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+/// Codes on the application's error base 0x80040000.
+enum class TransferFault : int {
+  address = 28100,
+  connection,
+  login,
+  timeOut,
+  tls,
+  serverFolder,
+  serverFile,
+  interrupted,
+  length,
+  listing,
+  name,
+  limit,
+  nothingThere,
+  protocol,
+};
+
+/// "The transfer failed: " and `what`; `where` is for standard error.
+RuntimeError transferError(TransferFault fault, std::string_view what, std::string where = {});
+
+/// `name` in double quotes for a message, with "?" for what a screen cannot show.
+std::string inQuotes(std::string_view name);
+
+}  // namespace tallywick

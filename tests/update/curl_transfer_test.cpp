@@ -1,0 +1,110 @@
+// The FTP client against a real server: both modes, both listings, TLS, both directions.
+#include "transfer_test.h"
+
+#include <algorithm>
+
+namespace tallywick::test {
+namespace {
+
+constexpr std::string_view folderThere = "/D:/QZR/Z1-Pwr/Qzr6/";
+
+class RealServer : public TransferTest {
+ protected:
+  void SetUp() override {
+    TransferTest::SetUp();
+    const std::filesystem::path folder = tree.root() / "root/D:/QZR/Z1-Pwr/Qzr6";
+    putText(folder / "QZRNUM6.Dat", draws);
+    putText(folder / "empty", "");
+    putText(folder / "odd #1;type=a %41.Win", "odd");
+    std::filesystem::create_directory(folder / "a folder");
+  }
+
+  ServerProcess serve(std::vector<std::string> wishes = {}) {
+    wishes.insert(wishes.begin(), {(tree.root() / "root").string(), (tree.root() / "log").string()});
+    return ServerProcess("good_server.py", wishes);
+  }
+  std::vector<std::string> commands(const std::string& verb) {
+    std::istringstream log(textOf(tree.root() / "log"));
+    std::vector<std::string> found;
+    for (std::string line; std::getline(log, line);) {
+      if (line.substr(0, line.find(' ')) == verb) found.push_back(line);
+    }
+    return found;
+  }
+  void expectAllFetched() {
+    EXPECT_EQ(get("qzrnum6.dat"), draws);
+    EXPECT_EQ(get("odd #1;type=a %41.Win"), "odd");
+    EXPECT_TRUE(scratch.exists(join(pwrHere, "empty")));
+    EXPECT_EQ(scratch.snapshot().size(), before.size() + 2) << "a file too many or twice";
+  }
+
+  TreeFolder tree;
+  const std::string draws = std::string(300'000, 'd') + "\r\nend";
+};
+
+TEST_F(RealServer, GivesEveryPlainFileOfItsFolder) {
+  const ServerProcess server = serve();
+  connected("ftp://" + server.address())->download(folderThere, "*.*", pwrHere);
+  expectAllFetched();
+  EXPECT_EQ(commands("CWD"), std::vector<std::string>{"CWD /D:/QZR/Z1-Pwr/Qzr6"});
+  EXPECT_EQ(commands("MLSD").size(), 1U);
+  EXPECT_TRUE(commands("PASV").empty()) << "the extended command was not enough";
+  EXPECT_EQ(commands("USER").size(), 1U) << "one connection serves all";
+  const auto isEndOfDraws = [&](const TransferInfo& info) {
+    return info.file == "QZRNUM6.Dat" && info.bytesDone == draws.size() && info.bytesInAll == draws.size();
+  };
+  EXPECT_TRUE(std::ranges::any_of(listener.infos, isEndOfDraws));
+  EXPECT_GT(screen.refreshed, 0);
+}
+
+TEST_F(RealServer, ListsAsUnixOrAsWindowsDoesAndCallsBack) {
+  for (const char* style : {"unix", "windows-list"}) {
+    std::filesystem::remove(tree.root() / "log");
+    const ServerProcess server = serve({"no-mlsd", style});
+    connected(server.address(), false)->download(folderThere, "*.*", pwrHere);
+    expectAllFetched();
+    EXPECT_EQ(commands("LIST").size(), 1U);
+    EXPECT_FALSE(commands("EPRT").empty());
+    EXPECT_TRUE(commands("EPSV").empty());
+  }
+}
+
+TEST_F(RealServer, TakesFilesAndFolders) {
+  scratch.write("QzrNumbers/QZR6PWR/TALLYWICK.JNL.tw~", "work");
+  std::filesystem::create_directory(scratch.root() / "QzrNumbers/QZR6PWR/folder");
+  const ServerProcess server = serve();
+  const auto component = connected(server.address());
+  EXPECT_FALSE(component->directoryExists("/D:/new"));
+  component->createDirectory("/D:/new");
+  EXPECT_TRUE(component->directoryExists("/D:/new"));
+  component->upload(pwrHere, "*.*", "/D:/new/");
+  EXPECT_EQ(textOf(tree.root() / "root/D:/new/qzrnum6.dat"), "old draws");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(tree.root() / "root/D:/new"), {}), 2);
+  EXPECT_THAT(errorOf([&] { component->createDirectory("/D:/new"); }), testing::HasSubstr("refuses"));
+  EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }), testing::HasSubstr("no folder"));
+}
+
+TEST_F(RealServer, IsRefusedWhereTheLoginIsWrong) {
+  const ServerProcess server = serve();
+  auto component = newCurlTransfer(scratch.folder(), clock, screen);
+  component->setUserName(serverLogin);
+  component->setPassword("wrong");
+  component->setHost(server.address());
+  EXPECT_EQ(errorOf([&] { component->openSession(); }), "The transfer failed: login denied");
+}
+
+TEST_F(RealServer, GetsNoLoginWithoutATrustedCertificate) {
+  const std::string certificate = (tree.root() / "server.pem").string();
+  makeCertificate(certificate);
+  const ServerProcess server = serve({"tls", certificate});
+  settings.tlsRequired = true;
+  EXPECT_EQ(errorOf([&] { connected(server.address()); }),
+            "The transfer failed: the server's certificate is not trusted");
+  EXPECT_TRUE(commands("USER").empty()) << "the login went out to a server that is not trusted";
+  settings.certificates = certificate;
+  connected(server.address());
+  EXPECT_EQ(commands("USER").size(), 1U);
+}
+
+}  // namespace
+}  // namespace tallywick::test

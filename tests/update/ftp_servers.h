@@ -1,0 +1,126 @@
+// FTP servers of the tests' own, each a process on a free port of the loopback that ends with its object.
+#pragma once
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace tallywick::test {
+
+/// What the servers know their only user by.
+inline constexpr const char* serverLogin = "player one";
+inline constexpr const char* serverPassword = "se/cr:e@t %41";
+
+/// A Python that has what the real server needs. There may be several on a machine.
+inline std::string pythonWithServer() {
+  for (const char* python : {"python3", "/usr/bin/python3", "/usr/local/bin/python3"}) {
+    const std::string attempt = std::string(python) + " -c 'import pyftpdlib, OpenSSL' 2>/dev/null";
+    if (std::system(attempt.c_str()) == 0) return python;
+  }
+  throw std::runtime_error(
+      "no FTP server for the tests: install Python's pyftpdlib and OpenSSL (Debian: python3-pyftpdlib "
+      "python3-openssl)");
+}
+
+class ServerProcess {
+ public:
+  /// Starts the script and waits until it tells its port.
+  ServerProcess(const std::string& script, const std::vector<std::string>& arguments) {
+    static const std::string python = pythonWithServer();
+    std::vector<std::string> words = {python, std::string(TALLYWICK_TEST_SERVERS) + "/" + script};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& word : words) pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+
+    int input[2];
+    int output[2];
+    if (::pipe(input) != 0 || ::pipe(output) != 0) throw std::runtime_error("no pipe");
+    process_ = ::fork();
+    if (process_ == 0) {
+      ::dup2(input[0], STDIN_FILENO);
+      ::dup2(output[1], STDOUT_FILENO);
+      for (const int end : {input[0], input[1], output[0], output[1]}) ::close(end);
+      ::execvp(pointers[0], pointers.data());
+      ::_exit(127);
+    }
+    ::close(input[0]);
+    ::close(output[1]);
+    input_ = input[1];
+    readPort(output[0]);
+  }
+  ~ServerProcess() {
+    ::close(input_);
+    ::kill(process_, SIGKILL);
+    ::waitpid(process_, nullptr, 0);
+  }
+  ServerProcess(const ServerProcess&) = delete;
+  ServerProcess& operator=(const ServerProcess&) = delete;
+
+  std::string address() const { return "127.0.0.1:" + port_; }
+
+ private:
+  void readPort(int from) {
+    std::FILE* const told = ::fdopen(from, "r");
+    for (int letter = std::fgetc(told); letter > ' '; letter = std::fgetc(told)) {
+      port_ += static_cast<char>(letter);
+    }
+    std::fclose(told);
+    if (port_.empty()) throw std::runtime_error("the test's FTP server did not start");
+  }
+
+  pid_t process_ = -1;
+  int input_ = -1;
+  std::string port_;
+};
+
+inline std::string textOf(const std::filesystem::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+inline void putText(const std::filesystem::path& file, const std::string& text) {
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary) << text;
+}
+
+/// A certificate of 127.0.0.1 with its key, in one file.
+inline void makeCertificate(const std::string& file) {
+  const std::string make =
+      "openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2 -subj /CN=test "
+      "-addext subjectAltName=IP:127.0.0.1 -out " +
+      file + " -keyout " + file + ".key 2>/dev/null && cat " + file + ".key >> " + file;
+  if (std::system(make.c_str()) != 0) throw std::runtime_error("the openssl command makes no certificate");
+}
+
+/// A folder of the test's own, removed at the end.
+class TreeFolder {
+ public:
+  TreeFolder() {
+    std::string form = (std::filesystem::temp_directory_path() / "tallywick-server-XXXXXX").string();
+    if (::mkdtemp(form.data()) == nullptr) throw std::runtime_error("no folder for the test's server");
+    root_ = form;
+  }
+  ~TreeFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(root_, ignored);
+  }
+  TreeFolder(const TreeFolder&) = delete;
+  TreeFolder& operator=(const TreeFolder&) = delete;
+
+  const std::filesystem::path& root() const { return root_; }
+
+ private:
+  std::filesystem::path root_;
+};
+
+}  // namespace tallywick::test

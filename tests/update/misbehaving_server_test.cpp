@@ -1,0 +1,110 @@
+// Whatever a server does wrong, the error tells what happened and the folder stays as it was, to the byte.
+#include "transfer_test.h"
+
+namespace tallywick::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Misdeed {
+  std::string name;
+  /// As the server's script knows it.
+  std::string fault;
+  std::string list;
+  std::string error;
+};
+
+void PrintTo(const Misdeed& misdeed, std::ostream* out) {
+  *out << misdeed.name;
+}
+
+const std::string first = "-rw-r--r-- 1 o g 3 Nov 21 10:35 first.Dat\r\n";
+const std::string draws = "-rw-r--r-- 1 o g 20000 Nov 21 10:35 QZRNUM6.Dat\r\n";
+
+class BadServer : public TransferTest {
+ protected:
+  BadServer() {
+    settings.times = {500ms, 500ms, 500ms};
+    settings.limits = {10, 50'000};
+    putText(tree.root() / "first.Dat", "one");
+    putText(tree.root() / "QZRNUM6.Dat", std::string(20'000, 'd'));
+  }
+  void download(const std::string& fault, const std::string& list) {
+    putText(tree.root() / "LIST", list);
+    const ServerProcess server("bad_server.py", {tree.root().string(), fault});
+    connected(server.address())->download("/D:/QZR/", "*.*", pwrHere);
+  }
+
+  TreeFolder tree;
+};
+
+class Misbehaving : public BadServer, public testing::WithParamInterface<Misdeed> {};
+
+TEST_P(Misbehaving, LeavesTheFolderAsItWas) {
+  const auto started = std::chrono::steady_clock::now();
+  EXPECT_EQ(errorOf([&] { download(GetParam().fault, GetParam().list); }),
+            "The transfer failed: " + GetParam().error);
+  EXPECT_EQ(scratch.snapshot(), before);
+  EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
+}
+INSTANTIATE_TEST_SUITE_P(
+    Server, Misbehaving,
+    testing::Values(
+        Misdeed{"silent", "silent", "", "timed out while waiting for an answer, in hand was \"the session\""},
+        Misdeed{"deny", "deny", "", "login denied"},
+        Misdeed{"noFolder", "no folder", "", "the server refuses \"/D:/QZR/\""},
+        Misdeed{"empty", "none", "", "the server's folder holds no files"},
+        Misdeed{"listCutInALine", "none", first + "-rw-r--r-- 1 o g 20000 Nov 21 10:35 QZRN",
+                "the server's list of files is cut short or not understood"},
+        Misdeed{"listBrokenOff", "broken list", first, "interrupted in the middle of \"/D:/QZR/\""},
+        Misdeed{"hostileName", "none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 ../../evil\r\n",
+                "the server lists \"../../evil\", which is no plain file name"},
+        Misdeed{"journalName", "none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 tallywick.jnl\r\n",
+                "the server lists \"tallywick.jnl\", a name that this program keeps for itself"},
+        Misdeed{"goneMeanwhile", "none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 gone\r\n",
+                "the server does not give \"gone\""},
+        Misdeed{"drop", "drop", draws, "interrupted in the middle of \"QZRNUM6.Dat\""},
+        Misdeed{"short", "short", draws, "interrupted in the middle of \"QZRNUM6.Dat\""},
+        Misdeed{"otherLength", "none", first + "-rw-r--r-- 1 o g 19999 Nov 21 10:35 QZRNUM6.Dat\r\n",
+                "\"QZRNUM6.Dat\" came down with another length than the server told"},
+        Misdeed{"stall", "stall", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
+        Misdeed{"noAnswer", "no answer", draws,
+                "timed out while waiting for an answer, in hand was \"QZRNUM6.Dat\""},
+        Misdeed{"endless", "endless", draws, "too large: \"QZRNUM6.Dat\""}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(BadServer, WithoutTheExtendedCommandsIsStillUnderstood) {
+  download("no epsv", first + draws);
+  EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));
+  EXPECT_EQ(get("first.Dat"), "one");
+}
+
+TEST_F(BadServer, GetsNoLoginWithoutTlsWhereThatIsRequired) {
+  settings.tlsRequired = true;
+  EXPECT_EQ(errorOf([&] { download("none", first); }),
+            "The transfer failed: the server offers no TLS, which the settings require");
+  EXPECT_EQ(textOf(tree.root() / "log").find("USER"), std::string::npos);
+}
+
+TEST_F(BadServer, WithTlsIsUnderstoodInPassiveMode) {
+  makeCertificate((tree.root() / "certificate").string());
+  settings.tlsRequired = true;
+  settings.certificates = (tree.root() / "certificate").string();
+  download("none", first + draws);
+  EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));
+  EXPECT_NE(textOf(tree.root() / "log").find("PROT P\n"), std::string::npos);
+}
+
+TEST_F(BadServer, OrNoneAtAllIsTold) {
+  std::string address;
+  { address = ServerProcess("bad_server.py", {tree.root().string(), "none"}).address(); }
+  EXPECT_EQ(errorOf([&] { connected(address); }), "The transfer failed: connection refused");
+  for (const char* host : {"", "a b", "user:word@127.0.0.1", "127.0.0.1/x", "http://127.0.0.1", "::1::"}) {
+    EXPECT_EQ(errorOf([&] { connected(host); }), "The transfer failed: the update server's address is none")
+        << host;
+  }
+  EXPECT_EQ(scratch.snapshot(), before);
+}
+
+}  // namespace
+}  // namespace tallywick::test

@@ -1,0 +1,142 @@
+"""An FTP server that misbehaves as it is told, or not at all, on a free port of the loopback.
+
+bad_server.py FOLDER FAULT
+
+FOLDER holds the answer to LIST, the answer to MLSD where the server is to know it, the files, and a
+"certificate" where it is to know TLS; the commands that come in are written to its "log". Prints its port; ends
+when its standard input does.
+"""
+import os
+import socket
+import ssl
+import sys
+import threading
+import time
+
+folder, fault = sys.argv[1:]
+
+
+def contents(name):
+    try:
+        with open(os.path.join(folder, name), "rb") as file:
+            return file.read()
+    except FileNotFoundError:
+        return None
+
+
+class Session:
+    def __init__(self, control):
+        self.control = control
+        self.tls = None
+        self.log = open(os.path.join(folder, "log"), "a", buffering=1)
+
+    def say(self, text):
+        self.control.sendall(text.encode() + b"\r\n")
+
+    def open_data(self):
+        """Waits for the client at the address that it was told."""
+        data = self.waiting.accept()[0]
+        self.waiting.close()
+        return self.tls.wrap_socket(data, server_side=True) if self.tls else data
+
+    def wait(self, passive_answer):
+        self.waiting = socket.create_server(("127.0.0.1", 0))
+        port = self.waiting.getsockname()[1]
+        self.say(passive_answer.format(port=port, high=port // 256, low=port % 256))
+
+    def start_tls(self):
+        self.say("234 Go on")
+        self.tls = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+        self.tls.load_cert_chain(os.path.join(folder, "certificate"))
+        self.control = self.tls.wrap_socket(self.control, server_side=True)
+
+    def send(self, body, end="226 Done"):
+        self.say("150 Here it comes")
+        with self.open_data() as data:
+            data.sendall(body)
+        self.say(end)
+
+    def send_file(self, body):
+        half = body[: len(body) // 2]
+        if fault == "short":
+            self.send(half)
+        elif fault in ("drop", "stall"):
+            self.say("150 Here it comes")
+            data = self.open_data()
+            data.sendall(half)
+            if fault == "stall":
+                time.sleep(60)
+            self.control.close()
+        elif fault == "endless":
+            self.say("150 Here it comes")
+            with self.open_data() as data:
+                while True:
+                    data.sendall(b"0123456789" * 100)
+        elif fault == "no answer":
+            time.sleep(60)
+        else:
+            self.send(body)
+
+    def answer(self, command, argument):
+        if command == "AUTH" and contents("certificate") is not None:
+            self.start_tls()
+        elif command == "USER":
+            self.say("331 Password, please")
+        elif command == "PASS" and fault == "deny":
+            self.say("530 No entry for player one with se/cr:e@t")
+        elif command == "PASS":
+            self.say("230 Welcome")
+        elif command == "PWD":
+            self.say('257 "/"')
+        elif command == "CWD" and fault == "no folder":
+            self.say("550 No such folder")
+        elif command == "EPSV" and fault != "no epsv":
+            self.wait("229 Here (|||{port}|)")
+        elif command == "PASV":
+            self.wait("227 Here (127,0,0,1,{high},{low})")
+        elif command in ("LIST", "MLSD") and contents(command) is not None:
+            cut = fault == "broken list"
+            self.send(contents(command), "426 Broken off" if cut else "226 Done")
+        elif command == "SIZE" and fault != "endless" and contents(argument) is not None:
+            self.say(f"213 {len(contents(argument))}")
+        elif command == "RETR" and contents(argument) is not None:
+            self.send_file(contents(argument))
+        elif command == "RETR":
+            self.say("550 No such file")
+        elif command in ("CWD", "TYPE", "PBSZ", "PROT"):
+            self.say("200 Yes")
+        else:
+            self.say("502 No")
+
+    def run(self):
+        if fault == "silent":
+            time.sleep(60)
+        self.say("220 Ready")
+        while line := self.read_line():
+            command, _, argument = line.partition(" ")
+            self.log.write("PASS\n" if command == "PASS" else line + "\n")
+            self.answer(command.upper(), argument)
+
+    def read_line(self):
+        line = b""
+        while not line.endswith(b"\r\n"):
+            letter = self.control.recv(1)
+            if not letter:
+                return ""
+            line += letter
+        return line.decode().rstrip("\r\n")
+
+
+def serve(control):
+    try:
+        Session(control).run()
+    except OSError:
+        pass  # The client left.
+    control.close()
+
+
+listener = socket.create_server(("127.0.0.1", 0))
+print(listener.getsockname()[1], flush=True)
+threading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()
+while True:
+    threading.Thread(target=serve, args=(listener.accept()[0],), daemon=True).start()

@@ -1,0 +1,81 @@
+// A component of the real kind on a data folder of the test's own.
+#pragma once
+
+#include "controls/surroundings.h"
+#include "core/clock.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "ftp_servers.h"
+#include "support/scratch_folder.h"
+#include "update/curl_transfer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tallywick::test {
+
+inline constexpr std::string_view pwrHere =
+    R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6PWR\)";
+
+class CountingScreen : public Screen {
+ public:
+  void refresh() override { ++refreshed; }
+  int refreshed = 0;
+};
+
+class RecordingListener : public TransferListener {
+ public:
+  void status(std::string_view text) override { statuses.emplace_back(text); }
+  void transferInfo(const TransferInfo& info) override { infos.push_back(info); }
+  std::vector<std::string> statuses;
+  std::vector<TransferInfo> infos;
+};
+
+class TransferTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    scratch.write("QzrNumbers/QZR6PWR/qzrnum6.dat", "old draws");
+    scratch.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", "old plays");
+    before = scratch.snapshot();
+  }
+
+  std::unique_ptr<TransferComponent> connected(const std::string& host, bool passive = true) {
+    auto component = newCurlTransfer(scratch.folder(), clock, screen, settings, nullptr);
+    component->setListener(&listener);
+    component->prepare();
+    component->setUserName(serverLogin);
+    component->setPassword(serverPassword);
+    component->setHost(host);
+    component->setPassive(passive);
+    component->openSession();
+    return component;
+  }
+
+  /// Runs `action`; the error's text, "" without one. Neither login nor password may be in it.
+  template <typename Action>
+  std::string errorOf(Action action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      const std::string all = join(error.what(), error.where(), error.boxText());
+      EXPECT_EQ(all.find(serverPassword), std::string::npos) << all;
+      EXPECT_EQ(all.find(serverLogin), std::string::npos) << all;
+      return error.description();
+    }
+    return "";
+  }
+
+  std::string get(const std::string& name) { return scratch.read("QzrNumbers/QZR6PWR/" + name); }
+
+  ScratchFolder scratch;
+  StandingClock clock{"11-21-2026", "18:15:00"};
+  CountingScreen screen;
+  RecordingListener listener;
+  CurlTransferSettings settings;
+  std::map<std::string, std::string> before;
+};
+
+}  // namespace tallywick::test
