@@ -47,7 +47,7 @@ void removeDurably(const std::filesystem::path& file);
 class FileLock {
  public:
   enum class Wait { no, yes };
-  /// Takes the lock, creating the lock file where there is none. Raises RuntimeError 70 where another program
+  /// Takes the lock, creating the lock file where there is none. Raises LockedByAnother where another program
   /// holds it: at once with `Wait::no`, after two seconds with `Wait::yes`.
   FileLock(const std::filesystem::path& lockFile, Wait wait);
   ~FileLock();

@@ -126,8 +126,9 @@ FileLock::FileLock(const fs::path& lockFile, Wait wait)
   while (::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EINTR) continue;
     if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= until) {
-      const int error = errno == EWOULDBLOCK ? EACCES : errno;
+      const int error = errno;
       ::close(static_cast<int>(handle_));
+      if (error == EWOULDBLOCK) throw LockedByAnother(lockFile);
       fail(error, lockFile);
     }
     std::this_thread::sleep_for(10ms);

@@ -126,7 +126,8 @@ FileLock::FileLock(const fs::path& lockFile, Wait wait) {
   OVERLAPPED place{};
   while (::LockFileEx(handle.get(), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) ==
          0) {
-    if (std::chrono::steady_clock::now() >= until) fail(ERROR_ACCESS_DENIED, lockFile);
+    if (const DWORD error = ::GetLastError(); error != ERROR_LOCK_VIOLATION) fail(error, lockFile);
+    if (std::chrono::steady_clock::now() >= until) throw LockedByAnother(lockFile);
     std::this_thread::sleep_for(10ms);
   }
   handle_ = reinterpret_cast<std::intptr_t>(handle.release());

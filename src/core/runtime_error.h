@@ -49,6 +49,14 @@ class RuntimeError : public std::runtime_error {
   std::string source_;
 };
 
+/// Error 70 where another program holds the lock of a folder: nothing has been done, and a later try may
+/// succeed.
+class LockedByAnother : public RuntimeError {
+ public:
+  explicit LockedByAnother(const std::filesystem::path& lockFile)
+      : RuntimeError(ErrorNumber::permissionDenied, lockFile.string()) {}
+};
+
 /// The runtime's text for a number, for example "File not found".
 std::string_view descriptionOf(ErrorNumber number);
 
