@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "selection/draw_count.h"
 #include "selection/draw_dates.h"
+#include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
@@ -96,12 +97,8 @@ void showCommitted(StatusBar& bar, const Committed& committed) {
 
 void Command5_Click(SelectionForm& form) {
   Committed committed;
-  try {
-    committed = commit(form, drawCountOf(form.Label1.caption()));
-  } catch (const CalendarGap& gap) {
-    showCalendarGap(form.surroundings.boxes, gap);
-    return;
-  }
+  const int draws = drawCountOf(form.Label1.caption());
+  if (!entered(form, [&] { committed = commit(form, draws); })) return;
   closeForPlays(form);
   showHistory(form);
   showCommitted(form.StatusBar1, committed);

@@ -1,6 +1,5 @@
 #include "selection/draw_dates.h"
 
-#include "controls/surroundings.h"
 #include "core/calendar.h"
 #include "core/clock.h"
 #include "core/runtime_error.h"
@@ -70,10 +69,6 @@ std::vector<std::string> drawDatesFrom(const DataFolder& folder, std::string_vie
     while (static_cast<int>(dates.size()) < count) dates.push_back(nextDrawDay(calendar, drawDays));
     return dates;
   });
-}
-
-void showCalendarGap(MessageBoxes& boxes, const CalendarGap& gap) {
-  boxes.show({gap.what(), std::string(programTitle), MessageBox::Icon::exclamation});
 }
 
 }  // namespace tallywick

@@ -10,7 +10,6 @@ namespace tallywick {
 
 class Clock;
 class DataFolder;
-class MessageBoxes;
 
 /// What the calendar lacks, as a text for the player that names the file.
 class CalendarGap : public std::runtime_error {
@@ -25,7 +24,5 @@ std::string drawDateOfPlayMadeNow(const DataFolder& folder, const Clock& clock, 
 /// `first` and the draw days after it, `count` dates in all. Raises CalendarGap.
 std::vector<std::string> drawDatesFrom(const DataFolder& folder, std::string_view drawDays,
                                        std::string_view first, int count);
-
-void showCalendarGap(MessageBoxes& boxes, const CalendarGap& gap);
 
 }  // namespace tallywick

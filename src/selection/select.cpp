@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "selection/draw_dates.h"
 #include "selection/marks.h"
+#include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
@@ -137,12 +138,7 @@ void Command59_Click(SelectionForm& form) {
     unmarkAll(form);
     return;
   }
-  try {
-    append(form, date(form, play).view());
-  } catch (const CalendarGap& gap) {
-    showCalendarGap(form.surroundings.boxes, gap);
-    return;
-  }
+  if (!entered(form, [&] { append(form, date(form, play).view()); })) return;
   form.Command1.setEnabled(true);
   unmarkAll(form);
 }

@@ -1,4 +1,5 @@
 // Select and Done: what is accepted, for which draw, and what the files hold afterwards.
+#include "core/file_commit.h"
 #include "selection/selection_fixture.h"
 
 namespace tallywick::test {
@@ -218,6 +219,18 @@ TEST_F(Selection, AGapInTheCalendarIsToldAndNothingIsWritten) {
     EXPECT_TRUE(form->Command5.enabled() && form->Command59.enabled());
     EXPECT_EQ(form->Command1.enabled(), false);
   }
+}
+
+TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
+  open();
+  {
+    const os::FileLock lock = lockFolder(scratch.root() / "QzrNumbers" / "QZR6PWR");
+    select("05 11 23 42 60", "07");
+  }
+  EXPECT_THAT(boxes.only(), HasSubstr("Tallywick Software|Another program"));
+  EXPECT_EQ(marks(), "05 [07] 11 23 42 60 ");
+  press("Command59");
+  EXPECT_EQ(get("7.Ply"), records({"11-21-2026,05,11,23,42,60,07,1110101"}));
 }
 
 TEST_F(Selection, WhatACrashLeftBehindIsFinishedBeforeThePlaysAreRead) {

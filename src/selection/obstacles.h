@@ -1,0 +1,28 @@
+// What keeps a play from being entered for now, told to the player while everything stays as it is.
+#pragma once
+
+#include "core/runtime_error.h"
+#include "selection/draw_dates.h"
+#include "selection/selection_form.h"
+
+namespace tallywick {
+
+/// Runs `enter`. False where it meets a gap in the calendar, or another program that is changing the play
+/// files; the player has been told then. Every other failure is raised.
+template <typename Enter>
+bool entered(const SelectionForm& form, Enter enter) {
+  const auto tell = [&](std::string text) {
+    form.surroundings.boxes.show({std::move(text), std::string(programTitle), MessageBox::Icon::exclamation});
+    return false;
+  };
+  try {
+    enter();
+    return true;
+  } catch (const CalendarGap& gap) {
+    return tell(gap.what());
+  } catch (const LockedByAnother&) {
+    return tell("Another program is changing the play files. Nothing was saved. Please try again.");
+  }
+}
+
+}  // namespace tallywick
