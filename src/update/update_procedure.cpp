@@ -1,9 +1,126 @@
 #include "update/update_procedure.h"
 
+#include "core/data_folder.h"
+#include "core/sequential_reader.h"
+#include "core/text.h"
+#include "update/download.h"
+#include "update/maintenance.h"
+#include "update/transfer_status.h"
+
+#include <string_view>
+
 namespace tallywick {
 
-void Command2_Click(UpdateSurroundings&) {}
-void mnuPowerBall2_Click(UpdateSurroundings&) {}
-void mnuMegaMillions2_Click(UpdateSurroundings&) {}
+namespace {
+
+/// What differs between the two games. The server's folders are written in two letter cases, which the server
+/// takes alike.
+struct GameUpdate {
+  const GameInfo& game;
+  std::string_view folderForButton;
+  std::string_view folderForMenu;
+};
+
+constexpr GameUpdate powerBallUpdate = {powerBall, "/D:/QZR/Z1-Pwr/Qzr6", "/D:/QZR/Z1-PWR/QZR6"};
+constexpr GameUpdate megaMillionsUpdate = {megaMillions, "/D:/QZR/Z2-Meg/Qzr6", "/D:/QZR/Z2-MEG/QZR6"};
+
+constexpr std::string_view lastClosedTime = "07:00:00";
+
+void tell(MessageBoxes& boxes, std::string_view text, MessageBox::Icon icon = MessageBox::Icon::none) {
+  boxes.show({std::string(text), std::string(programTitle), icon});
+}
+
+void tellCompleted(MessageBoxes& boxes) {
+  tell(boxes, "The updates for The Tallywick Software is completed", MessageBox::Icon::information);
+}
+
+std::string firstField(const DataFolder& folder, std::string_view file) {
+  SequentialReader reader(folder, file);
+  return std::string(reader.field());
+}
+
+void progressTo(UpdateSurroundings& update, int value) {
+  update.page.ProgressBar1.setValue(value);
+  update.screen.refresh();
+}
+
+/// The download of one update, from the reading of the credentials on.
+class Fetcher {
+ public:
+  explicit Fetcher(UpdateSurroundings& update)
+      :  // The names are crossed: the login stands in the second file.
+        password_(firstField(update.folder, passwordFile)),
+        login_(firstField(update.folder, loginFile)),
+        status_(update.page.StatusBar1),
+        download_(update.newTransfer, &status_) {
+    download_.setServer(update.server);
+    download_.setLogin(login_);
+    download_.setPassword(password_);
+  }
+
+  void fetch(const GameInfo& game, std::string_view serverFolder) {
+    download_.setSourceFolder(serverFolder);
+    download_.setTargetFolder(join(installFolder, R"(\QzrNumbers\QZR6)", game.code));
+    download_.Start();
+  }
+
+ private:
+  std::string password_;
+  std::string login_;
+  TransferStatus status_;
+  Download download_;
+};
+
+void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry& entry) {
+  UpdatePage& page = update.page;
+  tell(update.boxes, join("Updating The Tallywick Software ", one.game.name, " game"));
+  page.ProgressBar1.setValue(1);
+  page.ProgressBar1.show();
+  page.Command2.hide();
+  entry.setEnabled(false);
+  update.screen.refresh();
+  Fetcher(update).fetch(one.game, one.folderForMenu);
+  progressTo(update, 100);
+  maintainPlayFiles(one.game, update.folder, update.programs);
+  update.refreshPictures();
+  page.ProgressBar1.hide();
+  tellCompleted(update.boxes);
+}
+
+}  // namespace
+
+void Command2_Click(UpdateSurroundings& update) {
+  if (update.clock.time() <= lastClosedTime) {
+    tell(update.boxes,
+         "The Tallywick Software servers are unavailable,\r\nPlease retry your request after 07:00 AM EST",
+         MessageBox::Icon::exclamation);
+    return;
+  }
+  UpdatePage& page = update.page;
+  page.Command2.hide();
+  update.mnuPowerBall2.setEnabled(false);
+  update.mnuMegaMillions2.setEnabled(false);
+  tell(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
+  page.ProgressBar1.show();
+  update.screen.refresh();
+  Fetcher fetcher(update);
+  fetcher.fetch(powerBall, powerBallUpdate.folderForButton);
+  progressTo(update, 50);
+  fetcher.fetch(megaMillions, megaMillionsUpdate.folderForButton);
+  progressTo(update, 100);
+  Command1_Click(update.folder, update.programs);
+  Command51_Click(update.folder, update.programs);
+  page.ProgressBar1.hide();
+  tellCompleted(update.boxes);
+  update.refreshPictures();
+}
+
+void mnuPowerBall2_Click(UpdateSurroundings& update) {
+  updateOneGame(update, powerBallUpdate, update.mnuPowerBall2);
+}
+
+void mnuMegaMillions2_Click(UpdateSurroundings& update) {
+  updateOneGame(update, megaMillionsUpdate, update.mnuMegaMillions2);
+}
 
 }  // namespace tallywick

@@ -32,8 +32,9 @@ struct UpdateSurroundings {
   std::function<void()> refreshPictures;
 };
 
-/// Both games.
+/// Both games; refused up to 07:00:00. A failure ends it as it stands: the games that have come down stay.
 void Command2_Click(UpdateSurroundings& update);
+/// One game, at any time.
 void mnuPowerBall2_Click(UpdateSurroundings& update);
 void mnuMegaMillions2_Click(UpdateSurroundings& update);
 
