@@ -80,7 +80,7 @@ class Count {
                                      [&](std::string_view ball) { return sameText(ball, number_); });
     const bool isExtra = sameText(draw.extra, number_);
     if (!isWhite && !isExtra) return;
-    line_ = " ";
+    line_.assign(1, ' ');
     draw.appendLine(line_);
     // Deliberate: a draw with the number as extra ball counts as a first one, whatever was found before.
     if (times_ == 0 || isExtra) results_.setText(line_);

@@ -32,7 +32,7 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
   std::string item;
   forEachRecord<drawFields>(history, [&](const Fields<drawFields>& record) {
     const Draw draw = drawOf(record);
-    item = " ";
+    item.assign(1, ' ');
     draw.appendLine(item);
     addToPicker(havePlayed.Combo2, item);
     addToPicker(twoThree.Combo4, item);
@@ -60,7 +60,7 @@ void fillDoublePlayLists(SearchPages& pages, const DataFolder& folder) {
   SequentialReader history(folder, inFolder(powerBall, doublePlayFile));
   std::string item;
   forEachRecord<doublePlayFields>(history, [&](const Fields<doublePlayFields>& record) {
-    item = " ";
+    item.assign(1, ' ');
     doublePlayDrawOf(record).appendLine(item);
     for (ListBox* list : {&List6, &List7, &List8}) list->add(item);
   });

@@ -113,7 +113,7 @@ bool holdsAll(const DrawRecord& record, std::size_t compared, const std::vector<
 }
 
 void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
-  line = " ";
+  line.assign(1, ' ');
   drawOf(record).appendLine(line);
   if (tail != LineTail::none) line.append("     ");
   if (tail == LineTail::fieldTen) line.append(record[9]);
