@@ -2,6 +2,9 @@
 
 #include "core/text.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace tallywick {
 
 namespace {
@@ -14,6 +17,16 @@ Draw drawAt(const Fields<Count>& record, std::size_t first) {
           record[2],
           {record[first], record[first + 1], record[first + 2], record[first + 3], record[first + 4]},
           record[first + 5]};
+}
+
+/// Copies `piece`, which mostly has two characters, and returns what is behind it.
+char* put(char* to, std::string_view piece) {
+  if (piece.size() == 2) {
+    std::memcpy(to, piece.data(), 2);
+  } else {
+    std::copy(piece.begin(), piece.end(), to);
+  }
+  return to + piece.size();
 }
 
 }  // namespace
@@ -33,9 +46,17 @@ std::string Draw::line() const {
 }
 
 void Draw::appendLine(std::string& to) const {
-  to.append(month).append("-").append(day).append("-").append(year).append("   ");
-  for (std::string_view ball : white) to.append(" ").append(ball);
-  to.append("   ").append(extra);
+  std::size_t size = month.size() + day.size() + year.size() + extra.size() + 13;
+  for (std::string_view ball : white) size += ball.size();
+  const std::size_t before = to.size();
+  to.resize(before + size, ' ');
+  char* here = put(to.data() + before, month);
+  *here++ = '-';
+  here = put(here, day);
+  *here++ = '-';
+  here = put(here, year) + 3;
+  for (std::string_view ball : white) here = put(here + 1, ball);
+  put(here + 3, extra);
 }
 
 Draw drawOf(const Fields<drawFields>& record) {

@@ -27,6 +27,25 @@ class FileBytes {
 /// Reads a whole file. Raises a RuntimeError (53, 70, 75, 76 …).
 FileBytes readFile(const std::filesystem::path& file);
 
+/// A file that is read from its start in pieces.
+class InputFile {
+ public:
+  /// Raises a RuntimeError like readFile().
+  explicit InputFile(const std::filesystem::path& file);
+  ~InputFile();
+  InputFile(InputFile&& other) noexcept;
+  InputFile& operator=(InputFile&& other) noexcept;
+  InputFile(const InputFile&) = delete;
+  InputFile& operator=(const InputFile&) = delete;
+
+  /// Reads at most `size` bytes and tells how many; 0 at the end.
+  std::size_t read(char* to, std::size_t size);
+
+ private:
+  std::filesystem::path file_;
+  std::intptr_t handle_;
+};
+
 /// Creates or empties `file`, writes `contents` and waits until they are on the disk. Every step is checked:
 /// on a failure the file is removed and a RuntimeError (61, 70, 75 …) raised.
 void writeDurably(const std::filesystem::path& file, std::string_view contents);

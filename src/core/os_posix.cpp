@@ -38,6 +38,7 @@ class Descriptor {
   Descriptor& operator=(const Descriptor&) = delete;
 
   int number() const { return number_; }
+  int release() { return std::exchange(number_, -1); }
 
   void sync() const {
     if (::fsync(number_) != 0) fail(errno, file_);
@@ -57,24 +58,58 @@ void syncFolderOf(const fs::path& file) {
   syncFolder(file.has_parent_path() ? file.parent_path() : fs::path("."));
 }
 
+std::size_t plainFileSize(int descriptor, const fs::path& file) {
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) fail(errno, file);
+  if (!S_ISREG(status.st_mode)) fail(EISDIR, file);
+  return static_cast<std::size_t>(status.st_size);
+}
+
+/// At least one byte, but at the end of the file.
+std::size_t readSome(int descriptor, char* to, std::size_t size, const fs::path& file) {
+  for (;;) {
+    const ssize_t step = ::read(descriptor, to, size);
+    if (step >= 0) return static_cast<std::size_t>(step);
+    if (errno != EINTR) fail(errno, file);
+  }
+}
+
 }  // namespace
 
 FileBytes readFile(const fs::path& file) {
   const Descriptor descriptor(file, O_RDONLY | O_CLOEXEC);
-  struct stat status {};
-  if (::fstat(descriptor.number(), &status) != 0) fail(errno, file);
-  if (!S_ISREG(status.st_mode)) fail(EISDIR, file);
-  const auto size = static_cast<std::size_t>(status.st_size);
+  const std::size_t size = plainFileSize(descriptor.number(), file);
   auto bytes = std::make_unique_for_overwrite<char[]>(size);
   std::size_t got = 0;
   while (got < size) {
-    const ssize_t step = ::read(descriptor.number(), bytes.get() + got, size - got);
-    if (step < 0 && errno == EINTR) continue;
-    if (step < 0) fail(errno, file);
+    const std::size_t step = readSome(descriptor.number(), bytes.get() + got, size - got, file);
     if (step == 0) break;
-    got += static_cast<std::size_t>(step);
+    got += step;
   }
   return {std::move(bytes), got};
+}
+
+InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
+  Descriptor descriptor(file, O_RDONLY | O_CLOEXEC);
+  plainFileSize(descriptor.number(), file);
+  handle_ = descriptor.release();
+}
+
+InputFile::~InputFile() {
+  if (handle_ >= 0) ::close(static_cast<int>(handle_));
+}
+
+InputFile::InputFile(InputFile&& other) noexcept
+    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
+
+InputFile& InputFile::operator=(InputFile&& other) noexcept {
+  std::swap(file_, other.file_);
+  std::swap(handle_, other.handle_);
+  return *this;
+}
+
+std::size_t InputFile::read(char* to, std::size_t size) {
+  return readSome(static_cast<int>(handle_), to, size, file_);
 }
 
 void writeDurably(const fs::path& file, std::string_view contents) {

@@ -54,6 +54,14 @@ class Handle {
 
 constexpr DWORD largestStep = 1U << 30;
 
+/// At least one byte, but at the end of the file.
+std::size_t readSome(HANDLE handle, char* to, std::size_t size, const fs::path& file) {
+  const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size, largestStep));
+  DWORD step = 0;
+  if (::ReadFile(handle, to, wanted, &step, nullptr) == 0) fail(::GetLastError(), file);
+  return step;
+}
+
 }  // namespace
 
 FileBytes readFile(const fs::path& file) {
@@ -64,14 +72,33 @@ FileBytes readFile(const fs::path& file) {
   auto bytes = std::make_unique_for_overwrite<char[]>(size);
   std::size_t got = 0;
   while (got < size) {
-    const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size - got, largestStep));
-    DWORD step = 0;
-    if (::ReadFile(handle.get(), bytes.get() + got, wanted, &step, nullptr) == 0)
-      fail(::GetLastError(), file);
+    const std::size_t step = readSome(handle.get(), bytes.get() + got, size - got, file);
     if (step == 0) break;
     got += step;
   }
   return {std::move(bytes), got};
+}
+
+InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
+  Handle handle(file, GENERIC_READ, OPEN_EXISTING);
+  handle_ = reinterpret_cast<std::intptr_t>(handle.release());
+}
+
+InputFile::~InputFile() {
+  if (handle_ != -1) ::CloseHandle(reinterpret_cast<HANDLE>(handle_));
+}
+
+InputFile::InputFile(InputFile&& other) noexcept
+    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
+
+InputFile& InputFile::operator=(InputFile&& other) noexcept {
+  std::swap(file_, other.file_);
+  std::swap(handle_, other.handle_);
+  return *this;
+}
+
+std::size_t InputFile::read(char* to, std::size_t size) {
+  return readSome(reinterpret_cast<HANDLE>(handle_), to, size, file_);
 }
 
 void writeDurably(const fs::path& file, std::string_view contents) {

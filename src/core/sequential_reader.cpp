@@ -4,7 +4,9 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <cstring>
+#include <span>
 #include <utility>
 
 namespace tallywick {
@@ -15,29 +17,46 @@ bool endsLine(char letter) {
   return letter == '\n' || letter == '\r';
 }
 
-/// A file whose folder is missing is missing like any other.
-os::FileBytes readExisting(const std::filesystem::path& file) {
+}  // namespace
+
+SequentialReader::SequentialReader(const DataFolder& folder, std::string_view written, Reading reading) {
+  const std::filesystem::path file = folder.resolve(written);
+  name_ = file.string();
   try {
-    return os::readFile(file);
+    open(file, reading);
   } catch (const RuntimeError& error) {
+    // A file whose folder is missing is missing like any other.
     if (!error.is(ErrorNumber::pathNotFound)) throw;
     throw RuntimeError(ErrorNumber::fileNotFound, error.where());
   }
 }
 
-}  // namespace
-
-SequentialReader::SequentialReader(const DataFolder& folder, std::string_view written) {
-  const std::filesystem::path file = folder.resolve(written);
-  bytes_ = readExisting(file);
-  text_ = bytes_.view();
-  name_ = file.string();
-}
-
 SequentialReader::SequentialReader(std::string_view text, std::string name)
     : text_(text), name_(std::move(name)) {}
 
+void SequentialReader::open(const std::filesystem::path& file, Reading reading) {
+  if (reading == Reading::whole) {
+    bytes_ = os::readFile(file);
+    text_ = bytes_.view();
+  } else {
+    file_.emplace(file);
+    readOn();
+  }
+}
+
 std::string_view SequentialReader::field() {
+  const std::size_t begin = position_;
+  std::string_view field = cutField();
+  while (isOpen() && atEnd()) {
+    position_ = begin;
+    readOn();
+    field = cutField();
+  }
+  return field;
+}
+
+/// The next field as far as text_ goes.
+std::string_view SequentialReader::cutField() {
   const char* const begin = text_.data();
   const char* const end = begin + text_.size();
   const char* here = begin + position_;
@@ -63,68 +82,47 @@ std::string_view SequentialReader::field() {
   return {first, static_cast<std::size_t>(last - first)};
 }
 
-void SequentialReader::readRecord(std::span<std::string_view> fields) {
-  ++recordNumber_;
-  const char* const begin = text_.data() + position_;
-  if (hasLastShape(fields.size())) {
-    for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = {begin + shape_.start[i], shape_.size[i]};
-    position_ += shape_.length;
-    return;
+const FieldPlaces& SequentialReader::cutRecord(std::size_t fieldCount) {
+  if (isOpen() && rest().size() <= 2 * RecordShape::maxLength) {
+    readOn();
+    const RecordShape* shape = shapes_.find(rest(), fieldCount);
+    if (shape != nullptr) return skip(*shape);
   }
-  const std::size_t started = position_;
-  for (std::size_t i = 0; i < fields.size(); ++i) {
+  recordBegin_ = position_;
+  while (!cutFields(fieldCount)) {
+    position_ = recordBegin_;
+    readOn();
+    recordBegin_ = position_;
+  }
+  shapes_.learn(text_.substr(recordBegin_, position_ - recordBegin_), std::span(cut_).first(fieldCount));
+  return cut_;
+}
+
+/// False where the record may go on beyond text_.
+bool SequentialReader::cutFields(std::size_t fieldCount) {
+  for (std::size_t i = 0; i < fieldCount; ++i) {
     if (atEnd()) {
-      throw RuntimeError(
-          ErrorNumber::inputPastEnd,
-          join(name_, ", record ", std::to_string(recordNumber_), ": field ", std::to_string(i + 1), " of ",
-               std::to_string(fields.size()), " is beyond the end"));
+      if (isOpen()) return false;
+      throw RuntimeError(ErrorNumber::inputPastEnd, join(name_, ", record ", std::to_string(recordNumber_),
+                                                         ": field ", std::to_string(i + 1), " of ",
+                                                         std::to_string(fieldCount), " is beyond the end"));
     }
-    fields[i] = field();
+    const std::string_view field = cutField();
+    cut_[i] = {static_cast<std::size_t>(field.data() - text_.data()) - recordBegin_, field.size()};
   }
-  learnShape(started, fields);
+  return !isOpen() || !atEnd();
 }
 
-bool SequentialReader::hasLastShape(std::size_t fieldCount) const {
-  if (shape_.fieldCount != fieldCount || text_.size() - position_ < shape_.words * sizeof(std::uint64_t)) {
-    return false;
-  }
-  const char* const begin = text_.data() + position_;
-  std::uint64_t differences = 0;
-  for (std::size_t i = 0; i < shape_.words; ++i) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, begin + i * sizeof word, sizeof word);
-    differences |= (word & shape_.mask[i]) ^ shape_.value[i];
-  }
-  return differences == 0;
-}
-
-void SequentialReader::learnShape(std::size_t begin, std::span<const std::string_view> fields) {
-  shape_.fieldCount = 0;
-  const std::size_t length = position_ - begin;
-  constexpr std::size_t wordSize = sizeof(std::uint64_t);
-  // A lone CR may be followed by LF the next time, and a record that the end of the file ends has no
-  // separator.
-  const char separator = text_[position_ - 1];
-  if (separator != ',' && separator != '\n') return;
-  if (length > Shape::maxWords * wordSize || fields.size() > Shape::maxFields) return;
-
-  std::array<unsigned char, Shape::maxWords * wordSize> mask{};
-  std::array<unsigned char, Shape::maxWords * wordSize> value{};
-  for (std::size_t i = 0; i < length; ++i) {
-    const char letter = text_[begin + i];
-    // All digits share their upper four bits, and no separator has these.
-    mask[i] = letter >= '0' && letter <= '9' ? 0xF0 : 0xFF;
-    value[i] = static_cast<unsigned char>(letter) & mask[i];
-  }
-  shape_.words = (length + wordSize - 1) / wordSize;
-  std::memcpy(shape_.mask.data(), mask.data(), mask.size());
-  std::memcpy(shape_.value.data(), value.data(), value.size());
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    shape_.start[i] = static_cast<std::uint8_t>(fields[i].data() - (text_.data() + begin));
-    shape_.size[i] = static_cast<std::uint8_t>(fields[i].size());
-  }
-  shape_.length = length;
-  shape_.fieldCount = fields.size();
+/// Reads another piece behind what is not read yet. At the end of the file the reader is no longer open.
+void SequentialReader::readOn() {
+  constexpr std::size_t pieceSize = std::size_t{1} << 18;
+  const std::size_t kept = rest().size();
+  if (position_ > 0) std::memmove(piece_.data(), rest().data(), kept);
+  if (piece_.size() - kept < pieceSize / 2) piece_.resize(std::max(pieceSize, 2 * piece_.size()));
+  const std::size_t got = file_->read(piece_.data() + kept, piece_.size() - kept);
+  if (got == 0) file_.reset();
+  text_ = {piece_.data(), kept + got};
+  position_ = 0;
 }
 
 }  // namespace tallywick

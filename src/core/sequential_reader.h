@@ -3,23 +3,43 @@
 #pragma once
 
 #include "core/os.h"
+#include "core/record_shapes.h"
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <span>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallywick {
 
 class DataFolder;
 
-/// The fields of one record, as views into the reader's copy of the file: valid as long as the reader lives.
+/// The fields of one record.
 template <std::size_t Count>
 using Fields = std::array<std::string_view, Count>;
 
-/// A sequential file, opened by reading it whole.
+/// A record where it stands in the reader's text; a field is cut out when it is asked for.
+template <std::size_t Count>
+class RecordView {
+ public:
+  RecordView(const char* begin, const FieldPlaces& places) : begin_(begin), places_(places) {}
+  std::string_view operator[](std::size_t index) const {
+    return {begin_ + places_[index].start, places_[index].size};
+  }
+  Fields<Count> fields() const {
+    Fields<Count> fields;
+    for (std::size_t i = 0; i < Count; ++i) fields[i] = (*this)[i];
+    return fields;
+  }
+
+ private:
+  const char* begin_;
+  const FieldPlaces& places_;
+};
+
+/// A sequential file.
 ///
 /// A field goes up to the next comma or line end (CR LF, LF or CR). Blanks before it are skipped; double
 /// quotes around it are dropped, and commas between them belong to the field. A record is so many fields,
@@ -27,8 +47,13 @@ using Fields = std::array<std::string_view, Count>;
 /// file is error 62.
 class SequentialReader {
  public:
+  enum class Reading {
+    whole,    ///< by one read: fields are views that stay valid as long as the reader lives
+    inPieces  ///< for one pass over a file of any size: fields are valid until the next record is read
+  };
+
   /// Opens the file that `written` names. Error 53 where it or its folder is missing, else 70 or 75.
-  SequentialReader(const DataFolder& folder, std::string_view written);
+  SequentialReader(const DataFolder& folder, std::string_view written, Reading reading = Reading::whole);
   /// Reads from memory; `name` stands for the file in errors.
   SequentialReader(std::string_view text, std::string name);
 
@@ -40,51 +65,67 @@ class SequentialReader {
 
   template <std::size_t Count>
   Fields<Count> record() {
-    Fields<Count> fields;
-    readRecord(fields);
-    return fields;
+    return recordView<Count>().fields();
   }
 
-  /// Fills `fields` from the next record; for records whose size is not known at compile time.
-  void readRecord(std::span<std::string_view> fields);
+  /// The next record; valid until another one is read.
+  template <std::size_t Count>
+  RecordView<Count> recordView() {
+    static_assert(Count <= maxRecordFields);
+    const FieldPlaces& places = nextRecord(Count);
+    return {text_.data() + recordBegin_, places};
+  }
 
   /// How many records have been begun.
   std::size_t recordNumber() const { return recordNumber_; }
   const std::string& name() const { return name_; }
-  /// The whole of what is read.
+  /// The whole of what is read, where it is read as a whole.
   std::string_view text() const { return text_; }
 
  private:
-  /// The shape of the record read last: where its separators stand and where its digits. The next record
-  /// mostly has the same one; then its fields are at the same places and need no second look at every
-  /// character.
-  struct Shape {
-    static constexpr std::size_t maxWords = 16;
-    static constexpr std::size_t maxFields = 18;
-    std::size_t fieldCount = 0;
-    std::size_t length = 0;
-    std::size_t words = 0;
-    std::array<std::uint64_t, maxWords> mask{};
-    std::array<std::uint64_t, maxWords> value{};
-    std::array<std::uint8_t, maxFields> start{};
-    std::array<std::uint8_t, maxFields> size{};
-  };
+  void open(const std::filesystem::path& file, Reading reading);
 
-  bool hasLastShape(std::size_t fieldCount) const;
-  void learnShape(std::size_t begin, std::span<const std::string_view> fields);
+  const FieldPlaces& nextRecord(std::size_t fieldCount) {
+    ++recordNumber_;
+    const RecordShape* shape = shapes_.find(rest(), fieldCount);
+    return shape != nullptr ? skip(*shape) : cutRecord(fieldCount);
+  }
+  const FieldPlaces& skip(const RecordShape& shape) {
+    recordBegin_ = position_;
+    position_ += shape.length();
+    return shape.places();
+  }
+  const FieldPlaces& cutRecord(std::size_t fieldCount);
+  bool cutFields(std::size_t fieldCount);
+  std::string_view cutField();
 
+  std::string_view rest() const { return text_.substr(position_); }
+  /// Whether more may follow than text_ holds.
+  bool isOpen() const { return file_.has_value(); }
+  void readOn();
+
+  std::optional<os::InputFile> file_;
+  std::vector<char> piece_;
   os::FileBytes bytes_;
   std::string_view text_;
   std::string name_;
   std::size_t position_ = 0;
+  std::size_t recordBegin_ = 0;
   std::size_t recordNumber_ = 0;
-  Shape shape_;
+  RecordShapes shapes_;
+  FieldPlaces cut_{};
 };
 
 /// Gives every record of the file to `use`.
 template <std::size_t Count, typename Use>
 void forEachRecord(SequentialReader& reader, Use use) {
   while (!reader.atEnd()) use(reader.record<Count>());
+}
+
+/// The same without cutting fields that nobody asks for.
+template <std::size_t Count, typename Use>
+void forEachRecordView(SequentialReader& reader, Use use) {
+  while (!reader.atEnd()) use(reader.recordView<Count>());
 }
 
 /// Gives every record but the last one to `use`: the displays read the first record, then, while the file is

@@ -2,6 +2,7 @@
 #include "core/sequential_reader.h"
 
 #include "core/runtime_error.h"
+#include "support/scratch_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -65,14 +66,39 @@ TEST(SequentialReader, ARecordReadsAlikeWhateverStoodBeforeIt) {
                                           "11,14,2026,09\r"};
   for (const std::string& before : lines) {
     for (const std::string& line : lines) {
-      const std::string text = before + line + std::string(200, '0');
+      const std::string text = before + line + line + std::string(200, '0');
       SequentialReader alone(line, "alone");
       const auto expected = alone.record<4>();
       SequentialReader reader(text, "both");
       reader.record<4>();
       EXPECT_EQ(reader.record<4>(), expected) << before << line;
+      EXPECT_EQ(reader.record<4>(), expected) << before << line;
       EXPECT_EQ(reader.field(), std::string(200, '0')) << before << line;
     }
+  }
+}
+
+// A piece may end anywhere in a record, and a record may be longer than a piece.
+TEST(SequentialReader, AFileReadInPiecesReadsAsAWhole) {
+  const std::vector<std::string> kinds = {"\"11\",\"18\",\"2026\",\"07\"\r\n", "11,14,2026,09\r\n",
+                                          "11,14,2026,9\n", "11,14,,09\r",
+                                          "\"1\",\"1,\"\r\n\"2026\",\"07\"\r\n"};
+  std::string text;
+  std::size_t records = 0;
+  for (; records < 40'000; ++records)
+    text += kinds[records * records % 7 * (records / 5000 % 3) % kinds.size()];
+  text += "11," + std::string(900'000, '7') + ",2026,09\r\n" + text;
+  records = 2 * records + 1;
+  for (const std::string end : {"", "\r\n", "11,18"}) {
+    test::ScratchFolder files;
+    files.write("QZRNUM62.Dat", text + end);
+    SequentialReader whole(files.folder(), "QZRNUM62.Dat");
+    SequentialReader pieces(files.folder(), "QZRNUM62.Dat", SequentialReader::Reading::inPieces);
+    while (whole.recordNumber() < records)
+      ASSERT_EQ(pieces.record<4>(), whole.record<4>()) << whole.recordNumber();
+    EXPECT_EQ(pieces.atEnd(), end.empty());
+    EXPECT_THROW(pieces.record<4>(), RuntimeError);
+    EXPECT_TRUE(pieces.atEnd());
   }
 }
 
