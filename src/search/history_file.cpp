@@ -9,7 +9,7 @@ namespace tallywick {
 std::optional<SequentialReader> openHistory(const DataFolder& folder, std::string_view written,
                                             MessageBoxes& boxes) {
   try {
-    return std::make_optional<SequentialReader>(folder, written);
+    return std::make_optional<SequentialReader>(folder, written, SequentialReader::Reading::inPieces);
   } catch (const RuntimeError& error) {
     boxes.show({join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
                 std::string(programTitle), MessageBox::Icon::exclamation});

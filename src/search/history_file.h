@@ -1,10 +1,12 @@
-// Opens the draw history for a search or a count, which tell the player of a file that cannot be read and let
-// the program go on.
+// The draw history as searches and counts read it: one pass, and a file that cannot be read is told to the
+// player.
 #pragma once
 
 #include "controls/surroundings.h"
 #include "core/sequential_reader.h"
+#include "core/text.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -13,5 +15,15 @@ namespace tallywick {
 /// Nothing where the file cannot be read; then a message that names it has been shown.
 std::optional<SequentialReader> openHistory(const DataFolder& folder, std::string_view written,
                                             MessageBoxes& boxes);
+
+/// Whether one of the `count` fields from `first` on, which counts from 0, is `number`.
+template <std::size_t Count>
+bool holdsNumber(const RecordView<Count>& record, std::size_t first, std::size_t count,
+                 std::string_view number) {
+  bool holds = false;
+  // All of them are looked at: leaving at the first hit costs more than it saves.
+  for (std::size_t i = first; i < first + count; ++i) holds |= sameText(record[i], number);
+  return holds;
+}
 
 }  // namespace tallywick

@@ -75,11 +75,18 @@ class Count {
   Count(std::string_view number, ComboBox& results, ListBox* list)
       : number_(number), results_(results), list_(list) {}
 
-  void operator()(const Draw& draw) {
-    const bool isWhite = std::any_of(draw.white.begin(), draw.white.end(),
-                                     [&](std::string_view ball) { return sameText(ball, number_); });
-    const bool isExtra = sameText(draw.extra, number_);
-    if (!isWhite && !isExtra) return;
+  /// The record's draw stands from field `first` on.
+  template <std::size_t Fields>
+  void take(const RecordView<Fields>& record, std::size_t first,
+            Draw (*drawOf)(const tallywick::Fields<Fields>&)) {
+    const bool isExtra = sameText(record[first + 5], number_);
+    if (isExtra || holdsNumber(record, first, 5, number_)) list(drawOf(record.fields()), isExtra);
+  }
+
+  std::size_t times() const { return times_; }
+
+ private:
+  void list(const Draw& draw, bool isExtra) {
     line_.assign(1, ' ');
     draw.appendLine(line_);
     // Deliberate: a draw with the number as extra ball counts as a first one, whatever was found before.
@@ -89,9 +96,6 @@ class Count {
     ++times_;
   }
 
-  std::size_t times() const { return times_; }
-
- private:
   std::string_view number_;
   ComboBox& results_;
   ListBox* list_;
@@ -105,10 +109,12 @@ std::optional<std::size_t> countDraws(Count count, const History& history, const
   std::optional<SequentialReader> reader = openHistory(folder, join(history.gameFolder, history.file), boxes);
   if (!reader) return std::nullopt;
   if (history.isDoublePlay) {
-    forEachRecord<doublePlayFields>(
-        *reader, [&](const Fields<doublePlayFields>& record) { count(doublePlayDrawOf(record)); });
+    forEachRecordView<doublePlayFields>(*reader, [&](const RecordView<doublePlayFields>& record) {
+      count.take(record, 11, doublePlayDrawOf);
+    });
   } else {
-    forEachRecord<drawFields>(*reader, [&](const Fields<drawFields>& record) { count(drawOf(record)); });
+    forEachRecordView<drawFields>(
+        *reader, [&](const RecordView<drawFields>& record) { count.take(record, 3, drawOf); });
   }
   return count.times();
 }

@@ -104,12 +104,10 @@ std::vector<std::string> searchedNumbers(const Combination& combination, const B
   return searched;
 }
 
-bool holdsAll(const DrawRecord& record, std::size_t compared, const std::vector<std::string>& searched) {
-  const auto first = record.begin() + 3;
-  const auto last = first + static_cast<std::ptrdiff_t>(compared);
-  return std::all_of(searched.begin(), searched.end(), [&](std::string_view number) {
-    return std::any_of(first, last, [&](std::string_view drawn) { return sameText(drawn, number); });
-  });
+bool holdsAll(const RecordView<drawFields>& record, std::size_t compared,
+              const std::vector<std::string>& searched) {
+  return std::all_of(searched.begin(), searched.end(),
+                     [&](std::string_view number) { return holdsNumber(record, 3, compared, number); });
 }
 
 void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
@@ -162,8 +160,8 @@ class Results {
 void addMatches(Results& results, SequentialReader& history, const Member& member,
                 const Combination& combination, const std::vector<std::string>& searched) {
   try {
-    forEachRecord<drawFields>(history, [&](const DrawRecord& record) {
-      if (holdsAll(record, combination.compared, searched)) results.add(record);
+    forEachRecordView<drawFields>(history, [&](const RecordView<drawFields>& record) {
+      if (holdsAll(record, combination.compared, searched)) results.add(record.fields());
     });
   } catch (const RuntimeError& error) {
     if (!member.mayEndInsideRecord || !error.is(ErrorNumber::inputPastEnd)) throw;
