@@ -26,6 +26,7 @@ struct Surroundings {
   const Clock& clock;
   RandomGenerator& random;
   Platform& platform;
+  /// Empty for the program's own FTP client.
   TransferFactory newTransfer;
 };
 
@@ -62,6 +63,7 @@ class Application {
   void wireMenus();
   void wireSearches();
   void wireDisplays();
+  TransferFactory transferFactory() const;
   UpdateSurroundings updateSurroundings();
   void openSettingPage(const std::string& address, std::string_view what);
   void showAbout();

@@ -2,6 +2,7 @@
 #include "app/application.h"
 #include "app/summary_buttons.h"
 #include "search/marks.h"
+#include "update/curl_transfer.h"
 #include "update/maintenance.h"
 
 namespace tallywick {
@@ -119,6 +120,15 @@ void Application::wireDisplays() {
   form.draws.Command3.onClick = [&] { Command3_Click(form.draws, folder); };
 }
 
+TransferFactory Application::transferFactory() const {
+  if (surroundings_.newTransfer) return surroundings_.newTransfer;
+  return [this] {
+    CurlTransferSettings settings;
+    settings.tlsRequired = surroundings_.settings.tls == Settings::Tls::required;
+    return newCurlTransfer(surroundings_.folder, surroundings_.clock, surroundings_.platform, settings);
+  };
+}
+
 UpdateSurroundings Application::updateSurroundings() {
   MainForm& form = *main_;
   Platform& platform = surroundings_.platform;
@@ -131,7 +141,7 @@ UpdateSurroundings Application::updateSurroundings() {
           platform,
           platform,
           surroundings_.settings.server,
-          surroundings_.newTransfer,
+          transferFactory(),
           [&] { Command3_Click(form.draws, surroundings_.folder); }};
 }
 
