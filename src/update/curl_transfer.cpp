@@ -10,6 +10,7 @@
 #include "update/transfer_errors.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace tallywick {
@@ -74,11 +75,39 @@ struct WindowCloser {
   }
 };
 
+/// A folder that cannot be listed is an error of the runtime's, like any other of a file.
+template <typename Action>
+void inRuntimeTerms(Action action) {
+  try {
+    action();
+  } catch (const fs::filesystem_error& error) {
+    throw runtimeErrorFrom(error.code(), error.path1());
+  }
+}
+
+/// The plain files of a local folder in the order of their names, but for the program's own.
+std::vector<fs::path> filesToSend(const fs::path& folder, std::string_view wildcard) {
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    const std::string name = nameOf(entry.path());
+    const bool isPlain = entry.is_regular_file() && !entry.is_symlink() && !isOwnWorkName(name);
+    if (isPlain && matchesWildcard(wildcard, name)) files.push_back(entry.path());
+  }
+  std::ranges::sort(files);
+  return files;
+}
+
+/// A file of certificates that the user names to every program that speaks TLS.
+std::string certificatesOfUser() {
+  const char* file = std::getenv("SSL_CERT_FILE");
+  return file != nullptr ? file : "";
+}
+
 void CurlTransfer::prepare() {
   runner_.close();
   session_ = {};
   session_.tlsRequired = settings_.tlsRequired;
-  session_.certificates = settings_.certificates;
+  session_.certificates = settings_.certificates.empty() ? certificatesOfUser() : settings_.certificates;
   windowWanted_ = false;
 }
 
@@ -99,12 +128,14 @@ void CurlTransfer::download(std::string_view serverFolder, std::string_view wild
   const fs::path local = localFolderOf(localFolder);
   const std::vector<ListedFile> files = filesOf(serverFolder, wildcard);
   checkIncoming(files, settings_.limits);
-  IncomingFiles incoming(local, files, clock_);
-  for (const ListedFile& file : files) {
-    tell(join("Receiving ", file.name));
-    incoming.add(file.name, fetch(serverFolder, file));
-  }
-  incoming.commit();
+  inRuntimeTerms([&] {
+    IncomingFiles incoming(local, files, clock_);
+    for (const ListedFile& file : files) {
+      tell(join("Receiving ", file.name));
+      incoming.add(file.name, fetch(serverFolder, file));
+    }
+    incoming.commit();
+  });
   tell("");
 }
 
@@ -112,12 +143,7 @@ void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcar
                           std::string_view serverFolder) {
   const WindowCloser closer{windowWanted_ ? window_ : nullptr};
   std::vector<fs::path> files;
-  for (const fs::directory_entry& entry : fs::directory_iterator(localFolderOf(localFolder))) {
-    const std::string name = nameOf(entry.path());
-    const bool isPlain = entry.is_regular_file() && !entry.is_symlink() && !isOwnWorkName(name);
-    if (isPlain && matchesWildcard(wildcard, name)) files.push_back(entry.path());
-  }
-  std::ranges::sort(files);
+  inRuntimeTerms([&] { files = filesToSend(localFolderOf(localFolder), wildcard); });
   for (const fs::path& file : files) {
     const std::string name = nameOf(file);
     tell(join("Sending ", name));

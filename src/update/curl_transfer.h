@@ -26,7 +26,8 @@ struct TransferTimes {
 struct CurlTransferSettings {
   /// Explicit TLS for commands and files; without it no login is sent.
   bool tlsRequired = false;
-  /// A file with the certificates to trust; empty for the system's.
+  /// A file with the certificates to trust; empty for the one that the environment's SSL_CERT_FILE names, or
+  /// the system's.
   std::string certificates;
   TransferTimes times;
   IncomingLimits limits;
