@@ -93,4 +93,8 @@ bool canRun(const std::filesystem::path& program);
 void startProgram(const std::filesystem::path& program, const std::string& argument,
                   const std::filesystem::path& workingFolder);
 
+/// A value below the machine-wide registry key: a text cut at its first null, a double word as "&h" and its
+/// hexadecimal digits. Empty where there is none, and on platforms without a registry.
+std::string registryValue(std::string_view key, std::string_view value);
+
 }  // namespace tallywick::os

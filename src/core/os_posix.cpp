@@ -213,4 +213,8 @@ void startProgram(const fs::path& program, const std::string& argument, const fs
   }
 }
 
+std::string registryValue(std::string_view, std::string_view) {
+  return {};
+}
+
 }  // namespace tallywick::os

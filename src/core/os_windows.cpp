@@ -3,8 +3,11 @@
 #include "core/runtime_error.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <utility>
@@ -60,6 +63,35 @@ std::size_t readSome(HANDLE handle, char* to, std::size_t size, const fs::path& 
   DWORD step = 0;
   if (::ReadFile(handle, to, wanted, &step, nullptr) == 0) fail(::GetLastError(), file);
   return step;
+}
+
+std::wstring wide(std::string_view text) {
+  return fs::path(std::u8string(text.begin(), text.end())).wstring();
+}
+
+/// A registry key open for reading; null where it cannot be opened.
+class RegistryKey {
+ public:
+  explicit RegistryKey(std::string_view key) {
+    if (::RegOpenKeyExW(HKEY_LOCAL_MACHINE, wide(key).c_str(), 0, KEY_READ, &key_) != ERROR_SUCCESS)
+      key_ = nullptr;
+  }
+  ~RegistryKey() {
+    if (key_ != nullptr) ::RegCloseKey(key_);
+  }
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  HKEY get() const { return key_; }
+
+ private:
+  HKEY key_ = nullptr;
+};
+
+std::string asHexadecimal(DWORD number) {
+  std::ostringstream text;
+  text << "&h" << std::hex << std::uppercase << number;
+  return text.str();
 }
 
 }  // namespace
@@ -194,6 +226,27 @@ void startProgram(const fs::path& program, const std::string& argument, const fs
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
+}
+
+std::string registryValue(std::string_view key, std::string_view value) {
+  const RegistryKey opened(key);
+  if (opened.get() == nullptr) return {};
+  std::array<wchar_t, 1024> buffer{};
+  DWORD bytes = sizeof buffer;
+  DWORD type = REG_NONE;
+  if (::RegQueryValueExW(opened.get(), wide(value).c_str(), nullptr, &type,
+                         reinterpret_cast<BYTE*>(buffer.data()), &bytes) != ERROR_SUCCESS) {
+    return {};
+  }
+  if (type == REG_DWORD) {
+    DWORD number = 0;
+    std::memcpy(&number, buffer.data(), sizeof number);
+    return asHexadecimal(number);
+  }
+  if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
+  const std::wstring text(buffer.data(), bytes / sizeof(wchar_t));
+  const std::u8string narrow = fs::path(text.substr(0, text.find(L'\0'))).u8string();
+  return {narrow.begin(), narrow.end()};
 }
 
 }  // namespace tallywick::os
