@@ -31,6 +31,7 @@ void showPowerBall(MainForm& form) {
   showGameFrame(form.frames, form.frames.Frame4);
   form.frames.Frame9.show();
   form.frames.Frame1.show();
+  form.frames.Frame12.hide();
   enableMenusOf(form.menu, powerBall);
   form.update.Command2.show();
   form.search.played.Command29.show();
