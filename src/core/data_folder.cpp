@@ -49,7 +49,7 @@ fs::path DataFolder::resolve(std::string_view written) const {
     rest.remove_prefix(slash == std::string_view::npos ? rest.size() : slash + 1);
     if (part.empty() || part == ".") continue;
     if (part == "..") throw RuntimeError(ErrorNumber::pathNotFound, std::string(written));
-    found = entryInAnyCase(found, part);
+    found = entryInAnyCase(found, part, rest.empty() ? Entry::any : Entry::folder);
   }
   return found;
 }
@@ -59,12 +59,14 @@ bool DataFolder::exists(std::string_view written) const {
   return fs::is_regular_file(resolve(written), ignored);
 }
 
-fs::path entryInAnyCase(const fs::path& folder, std::string_view name) {
+fs::path entryInAnyCase(const fs::path& folder, std::string_view name, Entry wanted) {
   std::string best;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     std::string candidate = nameOf(entry->path());
-    if (equalIgnoringCase(candidate, name) && (best.empty() || candidate < best)) best = std::move(candidate);
+    if (!equalIgnoringCase(candidate, name) || (!best.empty() && best < candidate)) continue;
+    std::error_code ignored;
+    if (wanted == Entry::any || entry->is_directory(ignored)) best = std::move(candidate);
   }
   // A folder that cannot be listed may hold the name in another case: to take it as missing would make it
   // twice.

@@ -29,9 +29,13 @@ class DataFolder {
   std::filesystem::path root_;
 };
 
+/// Which entries are looked at.
+enum class Entry { any, folder };
+
 /// The entry of `folder` whose name is `name` in any letter case; `folder / name` where there is none. Of
 /// several it is the first in byte order, whatever case is asked for, so that all who ask share one file.
-std::filesystem::path entryInAnyCase(const std::filesystem::path& folder, std::string_view name);
+std::filesystem::path entryInAnyCase(const std::filesystem::path& folder, std::string_view name,
+                                     Entry wanted = Entry::any);
 
 /// A file's name as text, whatever characters it holds.
 std::string nameOf(const std::filesystem::path& file);

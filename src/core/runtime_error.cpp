@@ -43,6 +43,8 @@ std::string_view descriptionOf(ErrorNumber number) {
   switch (number) {
     case ErrorNumber::typeMismatch:
       return "Type mismatch";
+    case ErrorNumber::internalError:
+      return "Internal error";
     case ErrorNumber::deviceIoError:
       return "Device I/O error";
     case ErrorNumber::fileNotFound:
@@ -61,6 +63,18 @@ std::string_view descriptionOf(ErrorNumber number) {
       return "Path not found";
   }
   return "Application-defined or object-defined error";
+}
+
+RuntimeError currentRuntimeError() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return error;
+  } catch (const std::filesystem::filesystem_error& error) {
+    return runtimeErrorFrom(error.code(), error.path1());
+  } catch (const std::exception& error) {
+    return RuntimeError(ErrorNumber::internalError, error.what());
+  }
 }
 
 RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file) {

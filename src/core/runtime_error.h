@@ -13,6 +13,7 @@ namespace tallywick {
 /// Numbers of the errors that the program itself raises.
 enum class ErrorNumber : std::int32_t {
   typeMismatch = 13,
+  internalError = 51,
   deviceIoError = 57,
   fileNotFound = 53,
   fileAlreadyOpen = 55,
@@ -59,6 +60,9 @@ class LockedByAnother : public RuntimeError {
 
 /// The runtime's text for a number, for example "File not found".
 std::string_view descriptionOf(ErrorNumber number);
+
+/// The exception being handled as a runtime error: itself, or what stands for one of the library's.
+RuntimeError currentRuntimeError();
 
 /// The runtime error that stands for an operating system error on `file`.
 RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file);

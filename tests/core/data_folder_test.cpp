@@ -41,6 +41,13 @@ TEST(DataFolder, TwoCasesSideBySideAreOneFileForAllWhoAsk) {
   EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/qzrnum6.dat"), "large");
 }
 
+TEST(DataFolder, APlainFileDoesNotHideTheFolderOfItsName) {
+  const ScratchFolder scratch;
+  std::ofstream(scratch.root() / "QZRNUMBERS") << "x";
+  scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", "draws");
+  EXPECT_TRUE(scratch.exists("QZRNUMBERS/QZR6PWR/QZRNUM6.Dat"));
+}
+
 TEST(DataFolder, NoPathLeavesTheFolder) {
   const ScratchFolder scratch;
   for (const char* written : {R"(QzrNumbers\..\..\x)", "/etc/passwd", R"(\x)", R"(C:\Windows\x)",
