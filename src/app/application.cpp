@@ -118,11 +118,12 @@ void Application::showSystemInformation() {
     if (!folder.empty()) program = folder + R"(\MSINFO32.EXE)";
     if (!platform.fileExists(program)) program.clear();
   }
-  if (program.empty()) {
+  try {
+    if (program.empty()) throw RuntimeError(ErrorNumber::fileNotFound);
+    platform.start(program, "");
+  } catch (const RuntimeError&) {
     platform.show({"System Information Is Unavailable At This Time", std::string(programTitle)});
-    return;
   }
-  platform.start(program, "");
 }
 
 void Application::openSettingPage(const std::string& address, std::string_view what) {

@@ -4,6 +4,7 @@
 #include "core/os.h"
 
 #include <cstdlib>
+#include <exception>
 
 namespace tallywick {
 
@@ -14,13 +15,18 @@ fs::path chooseDataFolder(const std::string& named) {
   if (const char* folder = std::getenv("TALLYWICK_FOLDER"); folder != nullptr && *folder != '\0') {
     return fs::absolute(folder);
   }
-  if (isDataFolder(fs::current_path())) return fs::current_path();
+  std::error_code error;
+  const fs::path here = fs::current_path(error);
+  if (!error && isDataFolder(here)) return here;
   return os::userDataFolder();
 }
 
 bool isDataFolder(const fs::path& folder) {
-  std::error_code ignored;
-  return fs::is_directory(entryInAnyCase(folder, "QzrNumbers"), ignored);
+  try {
+    return fs::is_directory(DataFolder(folder).resolve("QzrNumbers"));
+  } catch (const std::exception&) {
+    return false;  // A folder that cannot be looked into is no record book of this user's.
+  }
 }
 
 }  // namespace tallywick

@@ -17,23 +17,25 @@ fs::path ownSortTool() {
   return (self.parent_path() / "qzrsrt3").replace_extension(self.extension());
 }
 
-fs::path folderOrHere(std::string_view folder) {
+/// The working folder as it is written where this platform has it, else the data folder.
+fs::path standingFolder(std::string_view written, const DataFolder& folder) {
   std::error_code ignored;
-  const fs::path path(folder);
-  return fs::is_directory(path, ignored) ? path : fs::temp_directory_path();
+  const fs::path path(written);
+  return fs::is_directory(path, ignored) ? path : folder.root();
 }
 
 }  // namespace
 
 ProgramStart programStart(const DataFolder& folder, std::string_view program,
                           std::string_view workingFolder) {
+  const fs::path startsIn = standingFolder(workingFolder, folder);
   const std::size_t name = program.find_last_of("\\/") + 1;
   if (!equalIgnoringCase(program.substr(name), sortToolFile)) {
-    return {fs::path(program), "", folderOrHere(workingFolder)};
+    return {fs::path(program), "", startsIn};
   }
   const fs::path tool = folder.resolve(program);
-  if (os::canRun(tool)) return {tool, "", folderOrHere(workingFolder)};
-  return {ownSortTool(), tool.parent_path().string(), folderOrHere(workingFolder)};
+  if (os::canRun(tool)) return {tool, "", startsIn};
+  return {ownSortTool(), tool.parent_path().string(), startsIn};
 }
 
 }  // namespace tallywick

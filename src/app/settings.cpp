@@ -25,6 +25,9 @@ Settings::Tls tlsOf(const std::string& text) {
 }
 
 void take(Settings& settings, const CLI::ConfigItem& item) {
+  if (item.name == "++") refuse("it has no sections");
+  if (item.inputs.size() > 1)
+    refuse(join(item.name, " has a value with blanks or commas; put it between double quotes"));
   const std::string value = item.inputs.empty() ? std::string() : item.inputs.front();
   if (item.name == "server") {
     settings.server = value;

@@ -35,6 +35,7 @@ TEST(StartUp, OpensOnPowerBallWithEverythingFilled) {
   ApplicationTest test;
   MainForm& form = test.start();
   EXPECT_EQ(visibleGameFrames(form.frames), "Frame4 ");
+  EXPECT_FALSE(form.frames.Frame12.visible());
   EXPECT_EQ(menusOf(form.menu), "PowerBall");
   EXPECT_EQ(form.bar.Command48.toolTip(), "PowerBall Play Selection");
   EXPECT_THAT(itemsOf(form.summary.List1), SizeIs(15));

@@ -27,6 +27,8 @@ TEST(Settings, AMisspeltOneIsNamedRatherThanIgnored) {
   const ScratchFolder scratch;
   for (const auto& [text, complaint] : std::initializer_list<std::pair<const char*, const char*>>{
            {"tls=requird\n", "tallywick.ini: tls is \"requird\"; it can be off or required"},
+           {"web-site=http://x/?a=1,2\n",
+            "tallywick.ini: web-site has a value with blanks or commas; put it between double quotes"},
            {"servr=host\n", "tallywick.ini: there is no setting \"servr\""}}) {
     scratch.write(settingsFile, text);
     try {
