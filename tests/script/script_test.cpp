@@ -68,7 +68,7 @@ TEST(Script, BoxesAreAnsweredFromTheQueueAndWithNoWithoutOne) {
   };
   EXPECT_EQ(
       outputOf("answer yes\nclick Command7\nprint Label16\nclick Command7\nprint Label16\n"),
-      box("yes") + "PowerBall Double Play Display\n" + box("no") + "Your Play && Winning Lotto Ticket(s):\n");
+      box("yes") + "PowerBall Double Play Display\n" + box("no") + "Your Play & Winning Lotto Ticket(s):\n");
 }
 
 TEST(Script, WindowsOpenCloseAndAreNamed) {
@@ -94,6 +94,8 @@ TEST(Script, ALineThatCannotBeUnderstoodIsNumbered) {
            {"click List1", "List1 cannot be clicked"},
            {"choose Combo4 120", "there are 120 items"},
            {"choose Combo4 x", "choose takes a name and an index from 0"},
+           {"windows please", "windows stands alone"},
+           {"now 02-30-2026 12:00:00", "now takes MM-DD-YYYY HH:MM:SS"},
            {"now 1-1-2026 12:00:00", "now takes MM-DD-YYYY HH:MM:SS"},
            {"answer maybe", "answer takes yes or no"},
            {"show", "a name is missing"}}) {

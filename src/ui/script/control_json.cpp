@@ -105,6 +105,16 @@ Json describeOption(const OptionButton& option) {
   return json;
 }
 
+/// A caption as it looks: a doubled ampersand is one, a single one only marks a letter.
+std::string looksLike(std::string_view caption) {
+  std::string text;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    text += caption[i];
+  }
+  return text + "\n";
+}
+
 std::string linesOf(const TextLines& lines) {
   std::string text;
   for (std::size_t i = 0; i < lines.size(); ++i) text.append(lines[i]).append("\n");
@@ -166,13 +176,13 @@ Json describe(const Form& form) {
 std::string plainText(const Control& control) {
   switch (control.type()) {
     case ControlType::button:
-      return static_cast<const Button&>(control).caption() + "\n";
+      return looksLike(static_cast<const Button&>(control).caption());
     case ControlType::label:
-      return static_cast<const Label&>(control).caption() + "\n";
+      return looksLike(static_cast<const Label&>(control).caption());
     case ControlType::menu:
-      return static_cast<const MenuEntry&>(control).caption() + "\n";
+      return looksLike(static_cast<const MenuEntry&>(control).caption());
     case ControlType::option:
-      return static_cast<const OptionButton&>(control).caption() + "\n";
+      return looksLike(static_cast<const OptionButton&>(control).caption());
     case ControlType::combo:
       return static_cast<const ComboBox&>(control).text() + "\n";
     case ControlType::list:

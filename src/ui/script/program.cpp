@@ -7,6 +7,7 @@
 #include "ui/script/script_run.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -43,20 +44,26 @@ int complain(const std::string& what) {
   return 2;
 }
 
+int end(const RuntimeError& error) {
+  Json json;
+  json["number"] = error.number();
+  json["description"] = error.description();
+  std::cout << oneLine({{"runtimeError", json}}) << std::endl;
+  std::cerr << "tallywick-script: " << error.what() << '\n';
+  return 1;
+}
+
 int runLines(Application& application, ScriptPlatform& platform, SettableClock& clock, std::istream& lines) {
   try {
     application.showMainWindow();
     ScriptRun(application, platform, clock, std::cout).run(lines);
-    return 0;
-  } catch (const RuntimeError& error) {
-    Json json;
-    json["number"] = error.number();
-    json["description"] = error.description();
-    std::cout << oneLine({{"runtimeError", json}}) << std::endl;
-    std::cerr << "tallywick-script: " << error.what() << '\n';
+    if (std::cout.flush()) return 0;
+    complain("the output cannot be written");
     return 1;
   } catch (const BadLine& error) {
     return complain(error.what());
+  } catch (const std::exception&) {
+    return end(currentRuntimeError());
   }
 }
 
@@ -68,7 +75,8 @@ int run(const Options& options) {
   std::ifstream file;
   if (!options.script.empty()) {
     file.open(options.script);
-    if (!file) return complain(options.script + " cannot be read");
+    if (!file || std::filesystem::is_directory(options.script))
+      return complain(options.script + " cannot be read");
   }
   Settings settings = readSettings(folder);
   if (!options.server.empty()) settings.server = options.server;

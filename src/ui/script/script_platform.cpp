@@ -5,8 +5,10 @@
 #include "core/text.h"
 #include "ui/script/control_json.h"
 
+#include <charconv>
+#include <chrono>
 #include <filesystem>
-#include <ostream>
+#include <iostream>
 
 namespace tallywick::script {
 
@@ -41,6 +43,19 @@ bool hasForm(std::string_view text, std::string_view form) {
   return true;
 }
 
+/// Whether the numbers of a text in the form "MM-DD-YYYY HH:MM:SS" are those of a day and a time.
+bool isTime(std::string_view text) {
+  const auto number = [&](std::size_t begin, std::size_t size) {
+    int value = 0;
+    std::from_chars(text.data() + begin, text.data() + begin + size, value);
+    return value;
+  };
+  const std::chrono::year_month_day day{std::chrono::year(number(6, 4)),
+                                        std::chrono::month(static_cast<unsigned>(number(0, 2))),
+                                        std::chrono::day(static_cast<unsigned>(number(3, 2)))};
+  return day.ok() && number(11, 2) < 24 && number(14, 2) < 60 && number(17, 2) < 60;
+}
+
 }  // namespace
 
 MessageBox::Answer ScriptPlatform::show(const MessageBox& box) {
@@ -68,7 +83,11 @@ void ScriptPlatform::start(std::string_view program, std::string_view workingFol
   json["workingFolder"] = workingFolder;
   out_ << oneLine({{"started", json}}) << std::endl;
   const ProgramStart really = programStart(folder_, program, workingFolder);
-  if (os::canRun(really.program)) os::startProgram(really.program, really.argument, really.workingFolder);
+  if (os::canRun(really.program)) {
+    os::startProgram(really.program, really.argument, really.workingFolder);
+  } else {
+    std::cerr << "tallywick-script: " << really.program.string() << " cannot be started\n";
+  }
 }
 
 void ScriptPlatform::openPage(std::string_view address) {
@@ -85,7 +104,7 @@ bool ScriptPlatform::fileExists(std::string_view path) {
 }
 
 bool SettableClock::set(std::string_view text) {
-  if (!hasForm(text, "00-00-0000 00:00:00")) return false;
+  if (!hasForm(text, "00-00-0000 00:00:00") || !isTime(text)) return false;
   standing_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
   return true;
 }

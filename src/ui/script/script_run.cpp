@@ -11,8 +11,9 @@ namespace tallywick::script {
 
 namespace {
 
-/// Cuts the first word off `rest`, with the one blank behind it.
+/// Cuts the first word off `rest`, with the blanks before it and the one behind it.
 std::string_view takeWord(std::string_view& rest) {
+  while (rest.starts_with(' ')) rest.remove_prefix(1);
   const std::size_t blank = rest.find(' ');
   const std::string_view word = rest.substr(0, blank);
   rest.remove_prefix(blank == std::string_view::npos ? rest.size() : blank + 1);
@@ -49,13 +50,13 @@ void ScriptRun::run(std::istream& lines) {
       throw BadLine(join("line ", std::to_string(number), ": ", error.what()));
     }
   }
+  if (lines.bad()) throw BadLine("the script cannot be read to its end");
 }
 
 void ScriptRun::runLine(std::string_view line) {
-  while (line.starts_with(' ')) line.remove_prefix(1);
-  if (line.empty() || line.starts_with('#')) return;
   std::string_view rest = line;
   const std::string_view verb = takeWord(rest);
+  if (verb.empty() || verb.starts_with('#')) return;
   if (verb == "click") {
     click(trimmed(rest));
   } else if (verb == "choose") {
@@ -73,6 +74,7 @@ void ScriptRun::runLine(std::string_view line) {
   } else if (verb == "close") {
     close(trimmed(rest));
   } else if (verb == "windows") {
+    if (!trimmed(rest).empty()) throw BadLine("windows stands alone");
     listWindows();
   } else {
     throw BadLine(join("\"", verb, "\" is no command"));
