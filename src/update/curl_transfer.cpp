@@ -46,7 +46,9 @@ class CurlTransfer : public TransferComponent {
 
  private:
   CURLcode run(CurlOperation& operation, const TransferInfo& info = {});
-  void runOrRaise(CurlOperation& operation, std::string_view path, const TransferInfo& info = {});
+  /// `subject` is what the operation is about, for an error's text; `path` is for standard error.
+  void runOrRaise(CurlOperation& operation, std::string_view subject, std::string_view path,
+                  const TransferInfo& info = {});
   Listing machineListing(std::string_view serverFolder);
   Listing peopleListing(std::string_view serverFolder);
   std::vector<ListedFile> filesOf(std::string_view serverFolder, std::string_view wildcard);
@@ -54,7 +56,7 @@ class CurlTransfer : public TransferComponent {
   fs::path localFolderOf(std::string_view written) const;
   void tell(std::string_view status) const;
   void tell(const TransferInfo& info) const;
-  std::string whereIs(std::string_view path) const { return join(session_.host, " ", path); }
+  std::string whereIs(std::string_view path) const { return join("server ", session_.host, " ", path); }
 
   const DataFolder& folder_;
   const Clock& clock_;
@@ -119,7 +121,7 @@ void CurlTransfer::openSession() {
   tell("Connecting to the update server");
   CurlOperation operation(session_, "");
   operation.goThereOnly();
-  runOrRaise(operation, "the session");
+  runOrRaise(operation, "the login", "");
 }
 
 void CurlTransfer::download(std::string_view serverFolder, std::string_view wildcard,
@@ -151,7 +153,7 @@ void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcar
     const std::string path = join(serverFolder, name);
     CurlOperation operation(session_, path);
     operation.send(bytes.view());
-    runOrRaise(operation, path, {name, 0, bytes.view().size()});
+    runOrRaise(operation, inQuotes(name), path, {name, 0, bytes.view().size()});
   }
   tell("");
 }
@@ -177,7 +179,7 @@ void CurlTransfer::createDirectory(std::string_view serverFolder) {
   const std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands(
       curl_slist_append(nullptr, command.c_str()), curl_slist_free_all);
   operation.set(CURLOPT_QUOTE, commands.get());
-  runOrRaise(operation, serverFolder);
+  runOrRaise(operation, inQuotes(serverFolder), serverFolder);
 }
 
 CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
@@ -186,9 +188,10 @@ CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
   });
 }
 
-void CurlTransfer::runOrRaise(CurlOperation& operation, std::string_view path, const TransferInfo& info) {
+void CurlTransfer::runOrRaise(CurlOperation& operation, std::string_view subject, std::string_view path,
+                              const TransferInfo& info) {
   const CURLcode result = run(operation, info);
-  if (result != CURLE_OK) throw curlError(result, operation, inQuotes(path), whereIs(path));
+  if (result != CURLE_OK) throw curlError(result, operation, subject, whereIs(path));
 }
 
 /// None where the server does not know this form, or where it cannot be relied on.
@@ -203,7 +206,7 @@ Listing CurlTransfer::machineListing(std::string_view serverFolder) {
 
 Listing CurlTransfer::peopleListing(std::string_view serverFolder) {
   CurlOperation operation(session_, serverFolder);
-  runOrRaise(operation, serverFolder);
+  runOrRaise(operation, inQuotes(serverFolder), serverFolder);
   return readPeopleListing(operation.received());
 }
 
@@ -224,7 +227,7 @@ std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile&
   CurlOperation operation(session_, path);
   operation.setLimit(settings_.limits.fileSize);
   tell({file.name, 0, file.size.value_or(0)});
-  runOrRaise(operation, file.name, {file.name, 0, file.size.value_or(0)});
+  runOrRaise(operation, inQuotes(file.name), path, {file.name, 0, file.size.value_or(0)});
   const std::uint64_t got = operation.received().size();
   const std::int64_t told = operation.toldLength();
   if (got != file.size.value_or(got) || (told >= 0 && got != static_cast<std::uint64_t>(told))) {

@@ -84,6 +84,16 @@ TEST_F(RealServer, TakesFilesAndFolders) {
   EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }), testing::HasSubstr("no folder"));
 }
 
+TEST_F(RealServer, FillsAProgressWindowWhereThatIsAskedFor) {
+  const ServerProcess server = serve();
+  const auto component = connected(server.address());
+  component->download(folderThere, "*.*", pwrHere);
+  EXPECT_EQ(window.closed, 0);
+  component->setProgressWindow(true);
+  component->download(folderThere, "*.*", pwrHere);
+  EXPECT_TRUE(window.closed == 1 && !window.open);
+}
+
 TEST_F(RealServer, IsRefusedWhereTheLoginIsWrong) {
   const ServerProcess server = serve();
   auto component = newCurlTransfer(scratch.folder(), clock, screen);

@@ -50,7 +50,7 @@ TEST_P(Misbehaving, LeavesTheFolderAsItWas) {
 INSTANTIATE_TEST_SUITE_P(
     Server, Misbehaving,
     testing::Values(
-        Misdeed{"silent", "silent", "", "timed out while waiting for an answer, in hand was \"the session\""},
+        Misdeed{"silent", "silent", "", "timed out while waiting for an answer, in hand was the login"},
         Misdeed{"deny", "deny", "", "login denied"},
         Misdeed{"noFolder", "no folder", "", "the server refuses \"/D:/QZR/\""},
         Misdeed{"empty", "none", "", "the server's folder holds no files"},

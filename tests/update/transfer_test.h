@@ -34,6 +34,17 @@ class RecordingListener : public TransferListener {
   std::vector<TransferInfo> infos;
 };
 
+class RecordingWindow : public TransferWindow {
+ public:
+  void show(const TransferInfo&) override { open = true; }
+  void close() override {
+    closed += open ? 1 : 0;
+    open = false;
+  }
+  bool open = false;
+  int closed = 0;
+};
+
 class TransferTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -43,7 +54,7 @@ class TransferTest : public testing::Test {
   }
 
   std::unique_ptr<TransferComponent> connected(const std::string& host, bool passive = true) {
-    auto component = newCurlTransfer(scratch.folder(), clock, screen, settings, nullptr);
+    auto component = newCurlTransfer(scratch.folder(), clock, screen, settings, &window);
     component->setListener(&listener);
     component->prepare();
     component->setUserName(serverLogin);
@@ -74,6 +85,7 @@ class TransferTest : public testing::Test {
   StandingClock clock{"11-21-2026", "18:15:00"};
   CountingScreen screen;
   RecordingListener listener;
+  RecordingWindow window;
   CurlTransferSettings settings;
   std::map<std::string, std::string> before;
 };
