@@ -76,15 +76,6 @@ Committed commit(const SelectionForm& form, int draws) {
   return summaryOf(plays);
 }
 
-void closeForPlays(SelectionForm& form) {
-  for (Button* button : {&form.Command1, &form.Command4, &form.Command5, &form.Command7, &form.Command9,
-                         &form.Command59, &form.Command84}) {
-    button->setEnabled(false);
-  }
-  form.Label1.setCaption(oneDraw);
-  form.Label1.hide();
-}
-
 void showCommitted(StatusBar& bar, const Committed& committed) {
   bar.setPanel(1, join("Lotto Plays: ", std::to_string(committed.plays)));
   bar.setPanel(2, "");
@@ -99,7 +90,7 @@ void Command5_Click(SelectionForm& form) {
   Committed committed;
   const int draws = drawCountOf(form.Label1.caption());
   if (!entered(form, [&] { committed = commit(form, draws); })) return;
-  closeForPlays(form);
+  form.closeForPlays();
   showHistory(form);
   showCommitted(form.StatusBar1, committed);
 }

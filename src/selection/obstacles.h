@@ -1,4 +1,4 @@
-// What keeps a play from being entered for now, told to the player while everything stays as it is.
+// What stands in the way of plays for now, told to the player while everything stays as it is.
 #pragma once
 
 #include "core/runtime_error.h"

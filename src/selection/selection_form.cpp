@@ -1,9 +1,9 @@
 #include "selection/selection_form.h"
 
-#include "core/file_commit.h"
 #include "core/text.h"
 #include "selection/draw_count.h"
 #include "selection/marks.h"
+#include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_handlers.h"
 
@@ -71,13 +71,25 @@ void SelectionForm::load() {
   for (Button* action : {&Command59, &Command9, &Command5, &Command84, &Command7}) action->setEnabled(true);
   for (Button* waiting : {&Command1, &Command4}) waiting->setEnabled(false);
 
-  emptyCurrentPlays(*this);
+  if (!entered(*this, [this] { emptyCurrentPlays(*this); })) {
+    closeForPlays();
+    Command60.setEnabled(false);
+    return;
+  }
   showNextPlays(*this);
   const std::size_t played = showHistory(*this);
   showSavedTexts(*this);
   StatusBar1.setPanel(1, played == 0 ? "" : join(":    ", std::to_string(played)));
   StatusBar1.setPanel(2, "");
   StatusBar1.setPanel(3, "");
+}
+
+void SelectionForm::closeForPlays() {
+  for (Button* action : {&Command1, &Command4, &Command5, &Command7, &Command9, &Command59, &Command84}) {
+    action->setEnabled(false);
+  }
+  Label1.setCaption(oneDraw);
+  Label1.hide();
 }
 
 }  // namespace tallywick

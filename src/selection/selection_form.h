@@ -31,6 +31,9 @@ class SelectionForm : public Form {
   /// What opening the window does: empties the current selections and fills the lists.
   void load();
 
+  /// Lets the window accept no further plays until it is opened again.
+  void closeForPlays();
+
   /// The button of a number, from 1.
   Button& button(int number) { return *numbers[static_cast<std::size_t>(number - 1)]; }
   const Button& button(int number) const { return *numbers[static_cast<std::size_t>(number - 1)]; }

@@ -111,10 +111,5 @@ TEST_F(FileCommits, RecoveryOfAFolderWithNothingToFinishWritesNothing) {
   recoverFolder(folder / "missing");
 }
 
-TEST_F(FileCommits, OnlyOneHoldsTheLock) {
-  const FileCommit change(folder);
-  EXPECT_THROW(os::FileLock(folder / lockName, os::FileLock::Wait::no), RuntimeError);
-}
-
 }  // namespace
 }  // namespace tallywick::test

@@ -115,12 +115,15 @@ TEST_F(Selection, TheDrawCountGoesRoundAfterDraw) {
   EXPECT_EQ(form->Label1.caption(), "   2");
 }
 
-TEST_F(Selection, TheHiddenDrawCountIsShownByItsButton) {
+TEST_F(Selection, TheHiddenDrawCountIsShownByItsButtonWhichUnmarkingHides) {
   open();
   form->Command7.show();
+  press("40");
   press("Command7");
-  EXPECT_TRUE(form->Label1.visible() && form->Command1.enabled());
+  EXPECT_TRUE(form->Label1.visible() && form->Command1.enabled() && form->Command7.visible());
   EXPECT_FALSE(form->Command7.enabled());
+  press("40");
+  EXPECT_FALSE(form->Command7.visible());
 }
 
 TEST_F(Selection, DoneForOneDrawPutsTheCurrentPlaysInTheCommittedPlace) {
@@ -230,7 +233,15 @@ TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   EXPECT_THAT(boxes.only(), HasSubstr("Tallywick Software|Another program"));
   EXPECT_EQ(marks(), "05 [07] 11 23 42 60 ");
   press("Command59");
-  EXPECT_EQ(get("7.Ply"), records({"11-21-2026,05,11,23,42,60,07,1110101"}));
+  const std::string play = records({"11-21-2026,05,11,23,42,60,07,1110101"});
+  EXPECT_EQ(get("7.Ply"), play);
+  {
+    const os::FileLock lock = lockFolder(scratch.root() / "QzrNumbers" / "QZR6PWR");
+    open();
+  }
+  EXPECT_EQ(get("7.Ply"), play);
+  EXPECT_EQ(boxes.shown.size(), 2U);
+  EXPECT_FALSE(form->Command9.enabled() || form->Command5.enabled() || form->Command60.enabled());
 }
 
 TEST_F(Selection, WhatACrashLeftBehindIsFinishedBeforeThePlaysAreRead) {
