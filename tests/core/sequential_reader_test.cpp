@@ -55,6 +55,8 @@ TEST(SequentialReader, ARecordReadsAlikeWhateverStoodBeforeIt) {
   const std::vector<std::string> lines = {"\"11\",\"18\",\"2026\",\"07\"\r\n",
                                           "\"11\",\"14\",\"2026\",\"09\"\r\n",
                                           "11,14,2026,09\r\n",
+                                          "11, 4,2026,09\r\n",
+                                          "11,\"\",2026,09\r\n",
                                           "11,14,2026,9\n",
                                           "11,14,2026,\"9\"\n",
                                           "11,1 4,2026,7\n",
@@ -87,8 +89,9 @@ TEST(SequentialReader, AFileReadInPiecesReadsAsAWhole) {
   std::size_t records = 0;
   for (; records < 40'000; ++records)
     text += kinds[records * records % 7 * (records / 5000 % 3) % kinds.size()];
-  text += "11," + std::string(900'000, '7') + ",2026,09\r\n" + text;
-  records = 2 * records + 1;
+  const std::string seven(900'000, '7');
+  text += "11," + seven + ",2026,09\r\n11,14,2026," + seven + "\r\n" + text;
+  records = 2 * records + 2;
   for (const std::string end : {"", "\r\n", "11,18"}) {
     test::ScratchFolder files;
     files.write("QZRNUM62.Dat", text + end);
@@ -100,6 +103,18 @@ TEST(SequentialReader, AFileReadInPiecesReadsAsAWhole) {
     EXPECT_THROW(pieces.record<4>(), RuntimeError);
     EXPECT_TRUE(pieces.atEnd());
   }
+}
+
+// Records whose length divides a piece's size.
+TEST(SequentialReader, RecordsThatEndWithAPieceAreNotTheLastOnes) {
+  std::string text;
+  while (text.size() < 1'000'000) text += "11,14,2026,0000000000000000009\r\n";
+  test::ScratchFolder files;
+  files.write("QZRNUM62.Dat", text);
+  SequentialReader reader(files.folder(), "QZRNUM62.Dat", SequentialReader::Reading::inPieces);
+  forEachRecordView<4>(reader,
+                       [](const RecordView<4>& record) { ASSERT_EQ(record[3], "0000000000000000009"); });
+  EXPECT_EQ(reader.recordNumber(), text.size() / 32);
 }
 
 TEST(SequentialReader, TheLastRecordIsLeftUnused) {
