@@ -29,7 +29,6 @@ void showPowerBall(MainForm& form) {
   form.search.twoThree.Label25.setCaption("");
   showFirstTabs(form.bar);
   showGameFrame(form.frames, form.frames.Frame4);
-  form.frames.Frame12.hide();
   form.frames.Frame9.show();
   form.frames.Frame1.show();
   form.frames.Frame12.hide();

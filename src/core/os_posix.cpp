@@ -1,7 +1,9 @@
 // The platform file of Linux and other POSIX systems.
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -74,10 +76,13 @@ std::size_t readSome(int descriptor, char* to, std::size_t size, const fs::path&
   }
 }
 
+/// A pipe in the place of a file is refused rather than waited for.
+constexpr int readingFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+
 }  // namespace
 
 FileBytes readFile(const fs::path& file) {
-  const Descriptor descriptor(file, O_RDONLY | O_CLOEXEC);
+  const Descriptor descriptor(file, readingFlags);
   const std::size_t size = plainFileSize(descriptor.number(), file);
   auto bytes = std::make_unique_for_overwrite<char[]>(size);
   std::size_t got = 0;
@@ -90,7 +95,7 @@ FileBytes readFile(const fs::path& file) {
 }
 
 InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
-  Descriptor descriptor(file, O_RDONLY | O_CLOEXEC);
+  Descriptor descriptor(file, readingFlags);
   plainFileSize(descriptor.number(), file);
   handle_ = descriptor.release();
 }
@@ -113,8 +118,8 @@ std::size_t InputFile::read(char* to, std::size_t size) {
 }
 
 void writeDurably(const fs::path& file, std::string_view contents) {
+  Descriptor descriptor(file, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
   try {
-    Descriptor descriptor(file, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
     while (!contents.empty()) {
       const ssize_t step = ::write(descriptor.number(), contents.data(), contents.size());
       if (step < 0 && errno == EINTR) continue;
@@ -191,26 +196,51 @@ fs::path programFile() {
 
 bool canRun(const fs::path& program) {
   std::error_code ignored;
-  return fs::is_regular_file(program, ignored) && ::access(program.c_str(), X_OK) == 0;
+  if (!fs::is_regular_file(program, ignored) || ::access(program.c_str(), X_OK) != 0) return false;
+  // On a file system without rights of its own every file may run, another platform's programs too.
+  std::array<char, 4> head{};
+  try {
+    InputFile(program).read(head.data(), head.size());
+  } catch (const RuntimeError&) {
+    return false;
+  }
+  const std::string_view begins(head.data(), head.size());
+  return begins ==
+             "\x7F"
+             "ELF" ||
+         begins.starts_with("#!");
 }
 
+namespace {
+
+/// In the child: becomes the program, or writes the error to `report`.
+[[noreturn]] void become(const char* program, const char* argument, const char* workingFolder, int report) {
+  if (::chdir(workingFolder) == 0) ::execl(program, program, argument, static_cast<char*>(nullptr));
+  const int error = errno;
+  static_cast<void>(::write(report, &error, sizeof error));
+  ::_exit(127);
+}
+
+}  // namespace
+
 void startProgram(const fs::path& program, const std::string& argument, const fs::path& workingFolder) {
+  std::array<int, 2> report{};
+  if (::pipe2(report.data(), O_CLOEXEC) != 0) fail(errno, program);
   // Started by a child that ends at once, so that nobody has to wait for the program itself.
   const pid_t child = ::fork();
-  if (child < 0) fail(errno, program);
   if (child == 0) {
     if (::fork() != 0) ::_exit(0);
-    if (::chdir(workingFolder.c_str()) != 0) ::_exit(127);
-    if (argument.empty()) {
-      ::execl(program.c_str(), program.c_str(), static_cast<char*>(nullptr));
-    } else {
-      ::execl(program.c_str(), program.c_str(), argument.c_str(), static_cast<char*>(nullptr));
-    }
-    ::_exit(127);
+    become(program.c_str(), argument.empty() ? nullptr : argument.c_str(), workingFolder.c_str(), report[1]);
   }
-  int status = 0;
-  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  ::close(report[1]);
+  int error = child < 0 ? errno : 0;
+  // The pipe closes without a word where the program runs.
+  while (child > 0 && ::read(report[0], &error, sizeof error) < 0 && errno == EINTR) {
   }
+  ::close(report[0]);
+  while (child > 0 && ::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+  }
+  if (error != 0) throw RuntimeError(ErrorNumber::fileNotFound, join(program.string(), " cannot be started"));
 }
 
 std::string registryValue(std::string_view, std::string_view) {

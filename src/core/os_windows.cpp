@@ -134,8 +134,8 @@ std::size_t InputFile::read(char* to, std::size_t size) {
 }
 
 void writeDurably(const fs::path& file, std::string_view contents) {
+  Handle handle(file, GENERIC_WRITE, CREATE_ALWAYS);
   try {
-    const Handle handle(file, GENERIC_WRITE, CREATE_ALWAYS);
     while (!contents.empty()) {
       const auto wanted = static_cast<DWORD>(std::min<std::size_t>(contents.size(), largestStep));
       DWORD step = 0;
@@ -145,6 +145,7 @@ void writeDurably(const fs::path& file, std::string_view contents) {
     }
     handle.sync();
   } catch (const RuntimeError&) {
+    ::CloseHandle(handle.release());
     std::error_code ignored;
     fs::remove(file, ignored);
     throw;

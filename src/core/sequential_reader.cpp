@@ -103,6 +103,11 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
   for (std::size_t i = 0; i < fieldCount; ++i) {
     if (atEnd()) {
       if (isOpen()) return false;
+      // The file ends behind a comma: what follows it is an empty field, as it is before a line end.
+      if (i > 0 && i + 1 == fieldCount && text_.back() == ',') {
+        cut_[i] = {position_ - recordBegin_, 0};
+        continue;
+      }
       throw RuntimeError(ErrorNumber::inputPastEnd, join(name_, ", record ", std::to_string(recordNumber_),
                                                          ": field ", std::to_string(i + 1), " of ",
                                                          std::to_string(fieldCount), " is beyond the end"));

@@ -17,7 +17,8 @@ bool isMarked(std::string_view markCount, const SequentialReader& reader) {
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   // The conversion takes "inf" and "nan" for numbers.
-  const bool isDecimal = text.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+  const bool isDecimal = text.find_first_not_of("0123456789.eE+-") == std::string_view::npos &&
+                         markCount.find("+-") == std::string_view::npos;
   if (!isDecimal || error != std::errc() || end != text.data() + text.size()) {
     throw RuntimeError(ErrorNumber::typeMismatch,
                        join(reader.name(), ", record ", std::to_string(reader.recordNumber()),

@@ -60,6 +60,9 @@ TEST(ProgramStart, ASortToolThatCannotRunHereIsReplacedAndNeverMadeRunnable) {
   EXPECT_EQ(std::filesystem::status(tool).permissions() & std::filesystem::perms::owner_exec,
             std::filesystem::perms::none);
   std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
+  EXPECT_EQ(programStart(scratch.folder(), path, R"(C:\)").program.stem(), "qzrsrt3")
+      << "a program of another platform, on a file system where every file may run";
+  scratch.write(path, "#!/bin/sh\nexit 0\n");
   start = programStart(scratch.folder(), path, R"(C:\)");
   EXPECT_EQ(start.program, tool);
   EXPECT_EQ(start.argument, "");

@@ -117,6 +117,15 @@ TEST(SequentialReader, RecordsThatEndWithAPieceAreNotTheLastOnes) {
   EXPECT_EQ(reader.recordNumber(), text.size() / 32);
 }
 
+TEST(SequentialReader, AFileThatEndsBehindACommaHasAnEmptyLastField) {
+  SequentialReader reader("1,2,\n3,4,", "test");
+  EXPECT_THAT(reader.record<3>(), ElementsAre("1", "2", ""));
+  EXPECT_THAT(reader.record<3>(), ElementsAre("3", "4", ""));
+  EXPECT_TRUE(reader.atEnd());
+  SequentialReader tooShort("1,", "test");
+  EXPECT_THROW(tooShort.record<3>(), RuntimeError);
+}
+
 TEST(SequentialReader, TheLastRecordIsLeftUnused) {
   std::vector<std::string> used;
   SequentialReader reader("1\n2\n3", "test");
