@@ -46,10 +46,11 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
 void fillPlayPicker(SearchPages& pages, const DataFolder& folder, const GameInfo& game) {
   ComboBox& picker = pages.havePlayedPlays.Combo8;
   picker.clear();
-  const PlayFile played(folder, inFolder(game, playFileName(game, PlaySlot::played)));
-  for (const Play& play : played.plays()) {
+  SequentialReader played = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  forEachRecord<playFields>(played, [&](const Fields<playFields>& record) {
+    const Play play = playOf(record);
     if (play.isListed()) addToPicker(picker, join(" ", play.drawLine()));
-  }
+  });
 }
 
 void fillDoublePlayLists(SearchPages& pages, const DataFolder& folder) {
