@@ -11,21 +11,11 @@ namespace tallywick {
 
 namespace {
 
-using Steady = std::chrono::steady_clock;
-
 /// A folder's listing beyond this is none that this program asks for.
 constexpr std::uint64_t largestAnswer = std::uint64_t{4} << 20U;
 
-constexpr std::chrono::milliseconds paintEvery(40);
 /// A transfer slower than this many bytes a second counts as stalled.
 constexpr long slowest = 16;
-
-void prepareLibrary() {
-  static const CURLcode prepared = curl_global_init(CURL_GLOBAL_DEFAULT);
-  if (prepared != CURLE_OK) {
-    throw transferError(TransferFault::protocol, "the transfer library cannot be started");
-  }
-}
 
 long milliseconds(std::chrono::milliseconds time) {
   return static_cast<long>(time.count());
@@ -67,25 +57,6 @@ std::string serverAddress(std::string_view host) {
   return address;
 }
 
-/// An operation among those that the library works on.
-struct Attached {
-  Attached(CURLM* multi, CURL* handle) : multi_(multi), handle_(handle) {
-    curl_multi_add_handle(multi_, handle_);
-  }
-  ~Attached() { curl_multi_remove_handle(multi_, handle_); }
-  Attached(const Attached&) = delete;
-  Attached& operator=(const Attached&) = delete;
-
- private:
-  CURLM* multi_;
-  CURL* handle_;
-};
-
-std::chrono::milliseconds patienceWith(const CurlOperation& operation, const TransferTimes& times) {
-  if (!operation.isConnected()) return times.connect;
-  return operation.bytesDone() == 0 ? times.answer : times.stall;
-}
-
 }  // namespace
 
 std::string addressPath(std::string_view path) {
@@ -113,7 +84,6 @@ std::string addressPath(std::string_view path) {
 }
 
 CurlOperation::CurlOperation(const CurlSession& session, std::string_view path) : limit_(largestAnswer) {
-  prepareLibrary();
   handle_.reset(curl_easy_init());
   if (!handle_) throw std::bad_alloc();
   setAddress(session, path);
@@ -198,48 +168,6 @@ std::size_t CurlOperation::giveBytes(char* bytes, std::size_t one, std::size_t c
 std::size_t CurlOperation::takeLine(char*, std::size_t one, std::size_t count, void* self) {
   ++static_cast<CurlOperation*>(self)->lines_;
   return one * count;
-}
-
-CurlRunner::CurlRunner(Screen& screen) : screen_(screen) {}
-
-CURLcode CurlRunner::run(CurlOperation& operation, const TransferTimes& times,
-                         const std::function<void()>& progress) {
-  if (!multi_) multi_.reset(curl_multi_init());
-  const Attached attached(multi_.get(), operation.handle());
-  Steady::time_point lastSign = Steady::now();
-  Steady::time_point lastPaint;
-  std::uint64_t signs = 0;
-  int running = 1;
-  while (true) {
-    if (curl_multi_perform(multi_.get(), &running) != CURLM_OK) return CURLE_FAILED_INIT;
-    const Steady::time_point now = Steady::now();
-    if (operation.signsOfLife() != signs) {
-      signs = operation.signsOfLife();
-      lastSign = now;
-      if (operation.bytesDone() != 0) progress();
-    }
-    if (now - lastPaint >= paintEvery) {
-      lastPaint = now;
-      screen_.refresh();
-    }
-    if (running == 0) return resultOf(operation);
-    if (now - lastSign > patienceWith(operation, times)) return CURLE_OPERATION_TIMEDOUT;
-    curl_multi_poll(multi_.get(), nullptr, 0, static_cast<int>(paintEvery.count()), nullptr);
-  }
-}
-
-void CurlRunner::close() {
-  multi_.reset();
-}
-
-CURLcode CurlRunner::resultOf(const CurlOperation& operation) const {
-  int left = 0;
-  while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
-    if (message->msg == CURLMSG_DONE && message->easy_handle == operation.handle()) {
-      return message->data.result;
-    }
-  }
-  return CURLE_RECV_ERROR;
 }
 
 }  // namespace tallywick

@@ -1,13 +1,10 @@
-// One operation of the transfer library on a fresh handle, and the loop that carries it out while the window
-// stays painted. Known to the transfer component alone.
+// One operation of the transfer library on a fresh handle. Known to the transfer component alone.
 #pragma once
 
-#include "controls/surroundings.h"
 #include "update/curl_transfer.h"
 
 #include <cstdint>
 #include <curl/curl.h>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -77,27 +74,6 @@ class CurlOperation {
   bool tooLong_ = false;
   /// The last member: the library may still call back while it closes.
   std::unique_ptr<CURL, Close> handle_;
-};
-
-/// Carries operations out, one after the other; connections are kept between them.
-class CurlRunner {
- public:
-  explicit CurlRunner(Screen& screen);
-
-  /// Runs to the end; `progress` is called when bytes have flowed. A server that is silent for longer than
-  /// `times` allow ends it with CURLE_OPERATION_TIMEDOUT.
-  CURLcode run(CurlOperation& operation, const TransferTimes& times, const std::function<void()>& progress);
-  /// Ends the connections.
-  void close();
-
- private:
-  CURLcode resultOf(const CurlOperation& operation) const;
-
-  struct Close {
-    void operator()(CURLM* handle) const { curl_multi_cleanup(handle); }
-  };
-  Screen& screen_;
-  std::unique_ptr<CURLM, Close> multi_;
 };
 
 }  // namespace tallywick

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "update/curl_errors.h"
 #include "update/curl_operation.h"
+#include "update/curl_runner.h"
 #include "update/file_names.h"
 #include "update/folder_transfer.h"
 #include "update/transfer_errors.h"
@@ -200,7 +201,11 @@ Listing CurlTransfer::machineListing(std::string_view serverFolder) {
   operation.set(CURLOPT_CUSTOMREQUEST, "MLSD");
   const CURLcode result = run(operation);
   if (result == CURLE_OK) return readMachineListing(operation.received());
-  if (result == CURLE_FTP_COULDNT_RETR_FILE && operation.responseCode() >= 500) return std::nullopt;
+  if (result == CURLE_FTP_COULDNT_RETR_FILE && operation.responseCode() >= 500) {
+    // A connection on which a transfer was refused is not to be trusted with the next one.
+    runner_.close();
+    return std::nullopt;
+  }
   throw curlError(result, operation, inQuotes(serverFolder), whereIs(serverFolder));
 }
 

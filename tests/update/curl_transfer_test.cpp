@@ -1,4 +1,4 @@
-// The FTP client against a real server: both modes, both listings, TLS, both directions.
+// The FTP client against a real server: both modes, both listings, both directions.
 #include "transfer_test.h"
 
 #include <algorithm>
@@ -101,19 +101,6 @@ TEST_F(RealServer, IsRefusedWhereTheLoginIsWrong) {
   component->setPassword("wrong");
   component->setHost(server.address());
   EXPECT_EQ(errorOf([&] { component->openSession(); }), "The transfer failed: login denied");
-}
-
-TEST_F(RealServer, GetsNoLoginWithoutATrustedCertificate) {
-  const std::string certificate = (tree.root() / "server.pem").string();
-  makeCertificate(certificate);
-  const ServerProcess server = serve({"tls", certificate});
-  settings.tlsRequired = true;
-  EXPECT_EQ(errorOf([&] { connected(server.address()); }),
-            "The transfer failed: the server's certificate is not trusted");
-  EXPECT_TRUE(commands("USER").empty()) << "the login went out to a server that is not trusted";
-  settings.certificates = certificate;
-  connected(server.address());
-  EXPECT_EQ(commands("USER").size(), 1U);
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{"endless", "endless", draws, "too large: \"QZRNUM6.Dat\""}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST_F(BadServer, WithoutTheExtendedCommandsIsStillUnderstood) {
+TEST_F(BadServer, IsUnderstoodWithoutTheExtendedCommands) {
   download("no epsv", first + draws);
   EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));
   EXPECT_EQ(get("first.Dat"), "one");
@@ -86,9 +86,12 @@ TEST_F(BadServer, GetsNoLoginWithoutTlsWhereThatIsRequired) {
   EXPECT_EQ(textOf(tree.root() / "log").find("USER"), std::string::npos);
 }
 
-TEST_F(BadServer, WithTlsIsUnderstoodInPassiveMode) {
+TEST_F(BadServer, IsUnderstoodWithTlsWhereItsCertificateIsTrusted) {
   makeCertificate((tree.root() / "certificate").string());
   settings.tlsRequired = true;
+  EXPECT_EQ(errorOf([&] { download("none", first); }),
+            "The transfer failed: the server's certificate is not trusted");
+  EXPECT_EQ(textOf(tree.root() / "log").find("USER"), std::string::npos);
   settings.certificates = (tree.root() / "certificate").string();
   download("none", first + draws);
   EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));

@@ -37,7 +37,12 @@ class Session:
         """Waits for the client at the address that it was told."""
         data = self.waiting.accept()[0]
         self.waiting.close()
-        return self.tls.wrap_socket(data, server_side=True) if self.tls else data
+        if self.tls:
+            data = self.tls.wrap_socket(data, server_side=True)
+            if not data.session_reused:
+                self.say("522 Not the session of the commands")
+                raise OSError("the client came with another session")
+        return data
 
     def wait(self, passive_answer):
         self.waiting = socket.create_server(("127.0.0.1", 0))

@@ -1,6 +1,6 @@
 """A real FTP server on a free port of the loopback, for the tests of the update.
 
-good_server.py ROOT LOG [no-mlsd] [windows-list] [tls CERTIFICATE]
+good_server.py ROOT LOG [no-mlsd] [windows-list]
 
 Prints its port; writes each command that it gets to LOG; ends when its standard input does.
 """
@@ -11,7 +11,7 @@ import threading
 
 from pyftpdlib.authorizers import DummyAuthorizer
 from pyftpdlib.filesystems import AbstractedFS
-from pyftpdlib.handlers import FTPHandler, TLS_FTPHandler, proto_cmds
+from pyftpdlib.handlers import FTPHandler, proto_cmds
 from pyftpdlib.servers import FTPServer
 
 logging.basicConfig(level=logging.ERROR)
@@ -27,19 +27,12 @@ class WindowsListing(AbstractedFS):
             yield f"11-21-26  10:35AM {size} {name}\r\n".encode()
 
 
-base = TLS_FTPHandler if "tls" in wishes else FTPHandler
-
-
-class Handler(base):
+class Handler(FTPHandler):
     def pre_process_command(self, line, cmd, arg):
         log.write("PASS\n" if cmd == "PASS" else line + "\n")
         super().pre_process_command(line, cmd, arg)
 
 
-if "tls" in wishes:
-    Handler.certfile = wishes[wishes.index("tls") + 1]
-    Handler.tls_control_required = True
-    Handler.tls_data_required = True
 if "no-mlsd" in wishes:
     Handler.proto_cmds = {name: about for name, about in proto_cmds.items() if name != "MLSD"}
 if "windows-list" in wishes:
