@@ -105,6 +105,7 @@ TEST_F(Incoming, KilledAnywhereAreAllOldOrAllNew) {
     put("QZRNUM6.Dat", "old");
     put("QZR6PWR1.Ply", "mine");
     end = runKilledAt(call, [&] { receive({{"QZRNUM6.Dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}); });
+    if (end == RunEnd::untraced) GTEST_SKIP() << "this system does not let a test trace its own child";
     recoverFolder(pwr());
     const bool isNew = get("QZRNUM6.Dat") == "new";
     allNew += isNew ? 1 : 0;

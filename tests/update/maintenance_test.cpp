@@ -133,6 +133,7 @@ TEST_F(Maintenance, KilledAnywhereAndRunAgainEndsAsIfUndisturbed) {
     for (const auto& file : scratch.snapshot()) std::filesystem::remove(scratch.root() / file.first);
     for (const auto& [name, text] : before) scratch.write(name, text);
     end = runKilledAt(call, [&] { run(); });
+    if (end == RunEnd::untraced) GTEST_SKIP() << "this system does not let a test trace its own child";
     ASSERT_NE(end, RunEnd::failed) << "call " << call;
     run();
     // Where the kill came after the change was made, the second run finds nothing drawn and lists what is
