@@ -62,7 +62,7 @@ void takeName(const std::filesystem::path& from, const std::filesystem::path& to
 /// Removes `file` where it stands and waits until the folder knows it. A missing file is no error.
 void removeDurably(const std::filesystem::path& file);
 
-/// An exclusive lock on a lock file, released when it goes or when its holder dies.
+/// An exclusive lock on a lock file, released when it goes or when its holder dies. The lock file goes with it.
 class FileLock {
  public:
   enum class Wait { no, yes };
@@ -76,6 +76,7 @@ class FileLock {
   FileLock& operator=(FileLock&&) = delete;
 
  private:
+  std::filesystem::path file_;
   std::intptr_t handle_;
 };
 

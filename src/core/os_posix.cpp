@@ -79,6 +79,30 @@ std::size_t readSome(int descriptor, char* to, std::size_t size, const fs::path&
 /// A pipe in the place of a file is refused rather than waited for.
 constexpr int readingFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
+int lockedDescriptor(const fs::path& lockFile, std::chrono::steady_clock::time_point until) {
+  const int number = ::open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+  if (number < 0) fail(errno, lockFile);
+  while (::flock(number, LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EINTR) continue;
+    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= until) {
+      const int error = errno;
+      ::close(number);
+      if (error == EWOULDBLOCK) throw LockedByAnother(lockFile);
+      fail(error, lockFile);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  return number;
+}
+
+/// Whether the file has lost its name while it was waited for; then it is closed.
+bool wasRemoved(int number) {
+  struct stat status {};
+  if (::fstat(number, &status) != 0 || status.st_nlink != 0) return false;
+  ::close(number);
+  return true;
+}
+
 }  // namespace
 
 FileBytes readFile(const fs::path& file) {
@@ -158,28 +182,23 @@ void removeDurably(const fs::path& file) {
   syncFolderOf(file);
 }
 
-FileLock::FileLock(const fs::path& lockFile, Wait wait)
-    : handle_(::open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
-  if (handle_ < 0) fail(errno, lockFile);
+FileLock::FileLock(const fs::path& lockFile, Wait wait) : file_(lockFile) {
   using namespace std::chrono_literals;
   const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
-  while (::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) != 0) {
-    if (errno == EINTR) continue;
-    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= until) {
-      const int error = errno;
-      ::close(static_cast<int>(handle_));
-      if (error == EWOULDBLOCK) throw LockedByAnother(lockFile);
-      fail(error, lockFile);
-    }
-    std::this_thread::sleep_for(10ms);
-  }
+  do {
+    handle_ = lockedDescriptor(lockFile, until);
+  } while (wasRemoved(static_cast<int>(handle_)));
 }
 
 FileLock::~FileLock() {
-  if (handle_ >= 0) ::close(static_cast<int>(handle_));
+  if (handle_ < 0) return;
+  // Still locked: who waits for this file sees that it is gone, and takes the next one.
+  ::unlink(file_.c_str());
+  ::close(static_cast<int>(handle_));
 }
 
-FileLock::FileLock(FileLock&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+FileLock::FileLock(FileLock&& other) noexcept
+    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
 
 fs::path userDataFolder() {
   if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {

@@ -178,7 +178,7 @@ void removeDurably(const fs::path& file) {
   }
 }
 
-FileLock::FileLock(const fs::path& lockFile, Wait wait) {
+FileLock::FileLock(const fs::path& lockFile, Wait wait) : file_(lockFile) {
   // Everybody may open the lock file; only one may hold the lock on it.
   Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_SHARE_READ | FILE_SHARE_WRITE);
   using namespace std::chrono_literals;
@@ -194,10 +194,14 @@ FileLock::FileLock(const fs::path& lockFile, Wait wait) {
 }
 
 FileLock::~FileLock() {
-  if (handle_ != -1) ::CloseHandle(reinterpret_cast<HANDLE>(handle_));
+  if (handle_ == -1) return;
+  ::CloseHandle(reinterpret_cast<HANDLE>(handle_));
+  // Fails, as it should, where another one has the file open and waits for it.
+  ::DeleteFileW(file_.c_str());
 }
 
-FileLock::FileLock(FileLock&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+FileLock::FileLock(FileLock&& other) noexcept
+    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
 
 fs::path userDataFolder() {
   const wchar_t* data = ::_wgetenv(L"LOCALAPPDATA");

@@ -5,6 +5,10 @@
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 namespace tallywick::test {
 namespace {
@@ -103,6 +107,27 @@ TEST_F(FileCommits, RecoveryFollowsAWholeJournalAndDropsABrokenOne) {
     recoverFolder(folder);
     EXPECT_EQ(files(), row.files);
   }
+}
+
+TEST_F(FileCommits, OneAfterTheOtherHoldTheLockAndLeaveNoLockFile) {
+  std::vector<pid_t> children;
+  for (int i = 0; i < 4; ++i) {
+    children.push_back(::fork());
+    if (children.back() != 0) continue;
+    for (int round = 0; round < 50; ++round) {
+      const os::FileLock lock = lockFolder(folder);
+      // Only one may be here; a second one would find the folder taken.
+      if (::mkdir((folder / "taken").c_str(), 0777) != 0 || ::rmdir((folder / "taken").c_str()) != 0)
+        ::_exit(1);
+    }
+    ::_exit(0);
+  }
+  for (const pid_t child : children) {
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0) << "two held the lock at once";
+  }
+  EXPECT_FALSE(fs::exists(folder / lockName));
 }
 
 TEST_F(FileCommits, RecoveryOfAFolderWithNothingToFinishWritesNothing) {
