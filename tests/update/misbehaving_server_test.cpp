@@ -45,6 +45,7 @@ TEST_P(Misbehaving, LeavesTheFolderAsItWas) {
   EXPECT_EQ(errorOf([&] { download(GetParam().fault, GetParam().list); }),
             "The transfer failed: " + GetParam().error);
   EXPECT_EQ(scratch.snapshot(), before);
+  EXPECT_FALSE(scratch.exists(join(pwrHere, "TALLYWICK.LCK")));
   EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
 }
 INSTANTIATE_TEST_SUITE_P(
