@@ -1,0 +1,180 @@
+#include "ui/qt/parts/line_list.h"
+
+#include "ui/qt/parts/line_delegate.h"
+#include "ui/qt/parts/line_text.h"
+#include "ui/qt/parts/theme.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleHints>
+#include <algorithm>
+
+namespace tallywick {
+
+namespace {
+
+constexpr int usualRows = 8;
+constexpr int leastRows = 3;
+constexpr int leastColumns = 16;
+
+QString shown(std::string_view line) {
+  return QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+}
+
+}  // namespace
+
+LineListModel::LineListModel(const TextLines& lines, QObject* parent)
+    : QAbstractListModel(parent), lines_(lines) {
+  measure();
+}
+
+void LineListModel::reset() {
+  beginResetModel();
+  measure();
+  endResetModel();
+}
+
+void LineListModel::measure() {
+  rows_ = static_cast<int>(lines_.size());
+  longest_ = 0;
+  for (std::size_t row = 0; row < lines_.size(); ++row) longest_ = std::max(longest_, lines_[row].size());
+}
+
+void LineListModel::setStandOut(StandOut standsOut, const QString& meaning) {
+  standsOut_ = std::move(standsOut);
+  meaning_ = meaning;
+  if (rows_ > 0) Q_EMIT dataChanged(index(0), index(rows_ - 1));
+}
+
+bool LineListModel::standsOut(std::size_t row) const {
+  return standsOut_ && standsOut_(row, lines_[row]);
+}
+
+int LineListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_;
+}
+
+QVariant LineListModel::data(const QModelIndex& index, int role) const {
+  const auto row = static_cast<std::size_t>(index.row());
+  if (!index.isValid() || row >= lines_.size()) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+      return shown(lines_[row]);
+    case Qt::AccessibleTextRole: {
+      const QString text = shown(lines_[row]).simplified();
+      return standsOut(row) ? text + QStringLiteral(", ") + meaning_ : text;
+    }
+    case StandsOutRole:
+      return standsOut(row);
+    default:
+      return {};
+  }
+}
+
+LineList::LineList(QWidget* parent) : QListView(parent) {
+  setSelectionMode(ExtendedSelection);
+  setUniformItemSizes(true);
+  setVerticalScrollMode(ScrollPerItem);
+  setEditTriggers(NoEditTriggers);
+  setTextElideMode(Qt::ElideNone);
+  setItemDelegate(new LineDelegate(*this));
+  setFont(theme::listFont(font()));
+}
+
+LineList::LineList(const TextLines& lines, QWidget* parent) : LineList(parent) {
+  setModel(new LineListModel(lines, this));
+}
+
+LineListModel* LineList::lineModel() const {
+  return qobject_cast<LineListModel*>(model());
+}
+
+void LineList::reload() {
+  if (LineListModel* lines = lineModel()) lines->reset();
+}
+
+void LineList::setEmphasis(std::vector<std::string> texts) {
+  if (emphasis_ == texts) return;
+  emphasis_ = std::move(texts);
+  viewport()->update();
+}
+
+void LineList::setPlaceholder(const QString& text) {
+  placeholder_ = text;
+  viewport()->update();
+}
+
+void LineList::setColumns(int columns) {
+  columns_ = columns;
+  updateGeometry();
+}
+
+QString LineList::selectedText() const {
+  const LineListModel* lines = lineModel();
+  if (!lines || !selectionModel()) return {};
+  QItemSelection ranges = selectionModel()->selection();
+  std::sort(ranges.begin(), ranges.end(),
+            [](const auto& one, const auto& other) { return one.top() < other.top(); });
+  std::string text;
+  for (const QItemSelectionRange& range : ranges) {
+    for (int row = range.top(); row <= range.bottom(); ++row)
+      text.append(lines->lines()[static_cast<std::size_t>(row)]) += '\n';
+  }
+  if (!text.empty()) text.pop_back();
+  return QString::fromStdString(text);
+}
+
+void LineList::keyboardSearch(const QString& typed) {
+  const LineListModel* lines = lineModel();
+  if (!lines) return QListView::keyboardSearch(typed);
+  if (lines->rowCount() == 0) return;
+  const int pause = QGuiApplication::styleHints()->keyboardInputInterval();
+  const bool goesOn = sinceTyped_.isValid() && sinceTyped_.elapsed() < pause && !typed_.isEmpty();
+  typed_ = goesOn ? typed_ + typed : typed;
+  sinceTyped_.start();
+  const int current = currentIndex().row();
+  const int start = goesOn ? std::max(current, 0) : current + 1;
+  const std::size_t found = findLine(lines->lines(), typed_.toStdString(), static_cast<std::size_t>(start));
+  if (found < lines->lines().size()) setCurrentIndex(model()->index(static_cast<int>(found), 0));
+}
+
+QSize LineList::sizeOf(int columns, int rows) const {
+  const QFontMetricsF metrics(font());
+  const double width = columns * metrics.horizontalAdvance(QLatin1Char('0')) + 2 * theme::halfGap;
+  const double height = rows * (metrics.height() + theme::halfGap);
+  const int frame = 2 * frameWidth();
+  return {static_cast<int>(width) + frame + verticalScrollBar()->sizeHint().width(),
+          static_cast<int>(height) + frame};
+}
+
+QSize LineList::sizeHint() const {
+  return sizeOf(columns_, usualRows);
+}
+
+QSize LineList::minimumSizeHint() const {
+  return sizeOf(leastColumns, leastRows);
+}
+
+void LineList::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (placeholder_.isEmpty() || !model() || model()->rowCount() > 0) return;
+  QPainter painter(viewport());
+  QFont face = QGuiApplication::font();
+  face.setItalic(true);
+  painter.setFont(face);
+  const QColor ground = palette().color(QPalette::Base);
+  painter.setPen(
+      theme::standingOutFrom(ground, palette().color(QPalette::PlaceholderText), theme::textContrast));
+  painter.drawText(viewport()->rect().adjusted(theme::gap, theme::gap, -theme::gap, -theme::gap),
+                   Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, placeholder_);
+}
+
+void LineList::changeEvent(QEvent* event) {
+  QListView::changeEvent(event);
+  if (event->type() == QEvent::ApplicationFontChange) setFont(theme::listFont(QGuiApplication::font()));
+}
+
+}  // namespace tallywick

@@ -1,0 +1,34 @@
+// What lists do with lines of text, without any window: fields, comma-separated form, emphasis, search.
+#pragma once
+
+#include "controls/text_lines.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallywick {
+
+/// The pieces of a line between its runs of blanks.
+std::vector<std::string_view> fieldsOf(std::string_view line);
+
+/// The fields of a line, separated by commas; a field with a comma or a quote stands in quotes. No line end.
+std::string csvLine(std::string_view line);
+
+struct TextRun {
+  std::size_t begin;
+  std::size_t length;
+
+  bool operator==(const TextRun&) const = default;
+};
+
+/// Where fields of the line equal one of the texts, in the order of the line. A date that only holds such a
+/// text is another field.
+std::vector<TextRun> emphasisedRuns(std::string_view line, const std::vector<std::string>& texts);
+
+/// The first line from `start` on, and then from the top, in which a field begins with `typed`; the number of
+/// lines where there is none.
+std::size_t findLine(const TextLines& lines, std::string_view typed, std::size_t start);
+
+}  // namespace tallywick
