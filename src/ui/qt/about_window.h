@@ -1,0 +1,19 @@
+// The about box.
+#pragma once
+
+#include "ui/qt/form_window.h"
+
+namespace tallywick {
+
+class AboutForm;
+
+class AboutWindow : public FormWindow {
+ public:
+  AboutWindow(AboutForm& form, const Desk& desk);
+  QString helpPage() const override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,28 @@
+// One number of a draw as a picture: the record book's own where it has one, else the ball drawn.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace tallywick {
+
+class BallPicture : public QWidget {
+ public:
+  explicit BallPicture(QWidget* parent = nullptr);
+
+  /// An empty `number` shows nothing yet; a null `picture` draws the ball.
+  void showNumber(const QString& number, bool isExtraBall, const QPixmap& picture);
+  const QPixmap& picture() const { return picture_; }
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString number_;
+  bool isExtraBall_ = false;
+  QPixmap picture_;
+};
+
+}  // namespace tallywick

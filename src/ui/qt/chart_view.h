@@ -1,0 +1,39 @@
+// The bar chart of the last hundred draws. Each bar bears its count and its number; the whole can be read as
+// text, saved as a picture and printed.
+#pragma once
+
+#include "controls/controls.h"
+
+#include <QWidget>
+
+class QCustomPlot;
+
+namespace tallywick {
+
+class ChartView : public QWidget {
+ public:
+  explicit ChartView(QWidget* parent = nullptr);
+
+  void show(const Chart& chart);
+  /// The title and each number with its count, for screen readers.
+  static QString inWords(const QString& title, const std::vector<Chart::Bar>& bars);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void draw();
+  void addBar(int place, const Chart::Bar& bar);
+  void colorAxes();
+  void showMenu(const QPoint& at);
+  void saveAsPicture();
+  void print();
+
+  QCustomPlot* plot_;
+  QString title_;
+  std::vector<Chart::Bar> bars_;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,49 @@
+#include "ui/qt/help.h"
+
+#include "app/application.h"
+#include "core/games.h"
+#include "core/os.h"
+#include "ui/qt/help_window.h"
+#include "ui/qt/qt_platform.h"
+#include "ui/qt/settings_dialog.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <array>
+
+namespace tallywick {
+
+namespace {
+
+/// Programs that show a compiled help file given as their argument.
+constexpr std::array viewers = {"hh", "kchmviewer", "uchmviewer", "xchm"};
+
+QString findViewer() {
+  for (const char* viewer : viewers) {
+    const QString program = QStandardPaths::findExecutable(QString::fromLatin1(viewer));
+    if (!program.isEmpty()) return program;
+  }
+  return {};
+}
+
+}  // namespace
+
+void openHelp(const DataFolder& folder, const QString& page) {
+  const QString viewer = folder.exists(helpFile) ? findViewer() : QString();
+  if (!viewer.isEmpty()) {
+    os::startProgram(viewer.toStdU16String(), folder.resolve(helpFile).string(), folder.root());
+    return;
+  }
+  HelpWindow::showPage(page);
+}
+
+void editSettings(Application& application, QtPlatform& platform) {
+  SettingsDialog dialog(application.settings(), QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return;
+  platform.run([&] {
+    writeSettings(application.surroundings().folder, dialog.settings());
+    application.setSettings(dialog.settings());
+  });
+}
+
+}  // namespace tallywick

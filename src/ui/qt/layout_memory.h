@@ -1,0 +1,15 @@
+// Sizes of windows and splitters from one run to the next.
+#pragma once
+
+#include <QSize>
+
+class QWidget;
+
+namespace tallywick {
+
+/// Gives the window its last size, or the usual one, and never one larger than the screen; its splitters get
+/// their last places.
+void restoreLayout(QWidget& window, QSize usual);
+void saveLayout(const QWidget& window);
+
+}  // namespace tallywick

@@ -1,0 +1,48 @@
+// The boxes that the pages are laid out in, all in one rhythm.
+#pragma once
+
+#include "ui/qt/parts/theme.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <initializer_list>
+
+namespace tallywick {
+
+inline QVBoxLayout* columnIn(QWidget* parent, int margin = 0) {
+  auto* column = new QVBoxLayout(parent);
+  column->setContentsMargins(margin, margin, margin, margin);
+  column->setSpacing(theme::gap);
+  return column;
+}
+
+inline QHBoxLayout* row(int spacing = theme::gap) {
+  auto* boxes = new QHBoxLayout;
+  boxes->setSpacing(spacing);
+  return boxes;
+}
+
+inline QLabel* heading(QWidget* parent, const QString& text = {}) {
+  auto* label = new QLabel(text, parent);
+  label->setFont(theme::headingFont(label->font()));
+  return label;
+}
+
+/// A line of column names over a list, in the list's face and with the list's margin.
+inline QLabel* columnHeading(QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setFont(theme::listFont(label->font()));
+  label->setIndent(theme::halfGap);
+  return label;
+}
+
+inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {
+  auto* made = new QSplitter(orientation);
+  made->setChildrenCollapsible(false);
+  made->setHandleWidth(theme::gap);
+  made->setProperty("layoutName", name);
+  return made;
+}
+
+}  // namespace tallywick

@@ -1,0 +1,31 @@
+// The main window: the bar, the four pages, the menus and the status bar.
+#pragma once
+
+#include "ui/qt/form_window.h"
+
+class QTabWidget;
+
+namespace tallywick {
+
+class MainForm;
+class NavigationBarView;
+
+class MainWindow : public FormWindow {
+ public:
+  MainWindow(MainForm& form, const Desk& desk);
+
+  QString helpPage() const override;
+  void keepLayout() override;
+
+ private:
+  void addPages();
+  void addMenusAndStatus();
+  void addKeys();
+  QWidget* gameShown();
+
+  MainForm& main_;
+  NavigationBarView* bar_;
+  QTabWidget* pages_;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,77 @@
+#include "ui/qt/navigation_bar.h"
+
+#include "app/main_form.h"
+#include "ui/qt/form_window.h"
+#include "ui/qt/layouts.h"
+
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton* gameSwitch(QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setCheckable(true);
+  button->setFont(theme::headingFont(button->font()));
+  return button;
+}
+
+QToolButton* settingsButton(QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setText(u"Settings…"_s);
+  button->setToolTip(u"The update server and the web pages (Ctrl+,)"_s);
+  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+}  // namespace
+
+NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
+    : form_(form), powerBall_(gameSwitch(this)), megaMillions_(gameSwitch(this)) {
+  auto* selection = new QPushButton(this);
+  auto* update = new QPushButton(this);
+  auto* progress = new QProgressBar(this);
+  progress->setAccessibleName(u"Update progress"_s);
+  progress->setMaximumWidth(24 * theme::gap);
+  auto* next = new QPushButton(this);
+  auto* settings = settingsButton(this);
+
+  auto* games = row(0);
+  games->addWidget(powerBall_);
+  games->addWidget(megaMillions_);
+  auto* bar = new QHBoxLayout(this);
+  bar->setContentsMargins(0, 0, 0, 0);
+  bar->setSpacing(theme::gap);
+  bar->addLayout(games);
+  bar->addSpacing(theme::gap);
+  bar->addWidget(selection);
+  bar->addWidget(update);
+  bar->addWidget(progress, 1);
+  bar->addStretch();
+  bar->addWidget(next);
+  bar->addWidget(settings);
+
+  Binding& binding = window.binding();
+  binding.bind(form.bar.Command7, *powerBall_, withMnemonic('P'));
+  binding.bind(form.bar.Command4, *megaMillions_, withMnemonic('M'));
+  binding.bind(form.bar.Command48, *selection, withMnemonic('S'));
+  binding.bind(form.update.Command2, *update, withMnemonic('U'));
+  binding.bind(form.update.ProgressBar1, *progress);
+  binding.bind(form.bar.Command8, *next, withMnemonic('N'));
+  connect(settings, &QToolButton::clicked, &window, [&window] { window.desk().editSettings(); });
+  showGame();
+}
+
+void NavigationBarView::showGame() {
+  const GameFrames& frames = form_.frames;
+  powerBall_->setChecked(frames.Frame4.visible() || frames.Frame6.visible());
+  megaMillions_->setChecked(frames.Frame11.visible());
+}
+
+}  // namespace tallywick

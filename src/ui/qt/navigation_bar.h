@@ -1,0 +1,26 @@
+// The bar over the pages: the two games as a switch, the play selection, the update and the step to the next
+// page.
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+
+namespace tallywick {
+
+class FormWindow;
+class MainForm;
+
+class NavigationBarView : public QWidget {
+ public:
+  NavigationBarView(MainForm& form, FormWindow& window);
+  /// Presses the switch in for the game on show.
+  void showGame();
+
+ private:
+  MainForm& form_;
+  QPushButton* powerBall_;
+  QPushButton* megaMillions_;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,8 @@
+// The desktop program from its command line to its end.
+#pragma once
+
+namespace tallywick {
+
+int runProgram(int argumentCount, char** arguments);
+
+}  // namespace tallywick

@@ -1,0 +1,171 @@
+#include "ui/qt/qt_platform.h"
+
+#include "app/program_start.h"
+#include "core/os.h"
+#include "core/runtime_error.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QScreen>
+#include <QThread>
+#include <QUrl>
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <utility>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QMessageBox::Icon iconOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::none:
+      return QMessageBox::NoIcon;
+    case MessageBox::Icon::exclamation:
+      return QMessageBox::Warning;
+    case MessageBox::Icon::information:
+      return QMessageBox::Information;
+    case MessageBox::Icon::question:
+      return QMessageBox::Question;
+  }
+  return QMessageBox::NoIcon;
+}
+
+/// The window's top left corner where it stands in the middle of its screen, halved in whole units.
+QPoint centred(const QWidget& window) {
+  const QRect screen = window.screen()->availableGeometry();
+  return {screen.left() + std::max(0, (screen.width() - window.width()) / 2),
+          screen.top() + std::max(0, (screen.height() - window.height()) / 2)};
+}
+
+/// Puts a value back at the end of a scope.
+class Flag {
+ public:
+  explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+  ~Flag() { flag_ = before_; }
+  Flag(const Flag&) = delete;
+  Flag& operator=(const Flag&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
+QtPlatform::QtPlatform(const DataFolder& folder) : folder_(folder) {}
+
+QtPlatform::~QtPlatform() {
+  for (FormWindow* window : windows_) {
+    window->binding().release();
+    delete window;
+  }
+}
+
+void QtPlatform::run(const std::function<void()>& handler) {
+  if (running_ || ended_) return;
+  const Flag running(running_);
+  try {
+    handler();
+    showChanges();
+  } catch (const RuntimeError& error) {
+    endWithError(error.boxText(), error.where());
+  } catch (const std::exception& error) {
+    endWithError(error.what(), error.what());
+  }
+}
+
+MessageBox::Answer QtPlatform::show(const MessageBox& box) {
+  showChanges();
+  const bool isQuestion = box.buttons == MessageBox::Buttons::yesNo;
+  if (alone_) return isQuestion ? MessageBox::Answer::no : MessageBox::Answer::ok;
+  QMessageBox shown(iconOf(box.icon), toQString(box.title), toQString(box.text).remove(u'\r'),
+                    QMessageBox::NoButton, QApplication::activeWindow());
+  shown.setTextFormat(Qt::PlainText);
+  if (!isQuestion) {
+    shown.setStandardButtons(QMessageBox::Ok);
+    shown.exec();
+    return MessageBox::Answer::ok;
+  }
+  shown.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  shown.setDefaultButton(QMessageBox::No);
+  return shown.exec() == QMessageBox::Yes ? MessageBox::Answer::yes : MessageBox::Answer::no;
+}
+
+void QtPlatform::refresh() {
+  showChanges();
+  // What the user does meanwhile waits until the handler has ended.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtPlatform::start(std::string_view program, std::string_view workingFolder) {
+  const ProgramStart really = programStart(folder_, program, workingFolder);
+  if (os::canRun(really.program)) os::startProgram(really.program, really.argument, really.workingFolder);
+}
+
+void QtPlatform::openWindow(Form& form) {
+  const Desk desk = {*this, folder_, onClose, onEditSettings, onHelp};
+  FormWindow* window = makeWindow(form, desk).release();
+  windows_.push_back(window);
+  window->move(centred(*window));
+  window->show();
+  window->activateWindow();
+}
+
+void QtPlatform::closeWindow(Form& form) {
+  FormWindow* window = windowOf(form);
+  if (window == nullptr) return;
+  window->keepLayout();
+  window->binding().release();
+  window->hide();
+  // One of its own widgets may have asked for it.
+  window->deleteLater();
+  std::erase(windows_, window);
+}
+
+void QtPlatform::openPage(std::string_view address) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(toQString(address)));
+}
+
+std::string QtPlatform::registryValue(std::string_view key, std::string_view value) {
+  return os::registryValue(key, value);
+}
+
+bool QtPlatform::fileExists(std::string_view path) {
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(std::filesystem::path(path), ignored);
+}
+
+void QtPlatform::endProgram() {
+  end(0);
+}
+
+FormWindow* QtPlatform::windowOf(const Form& form) const {
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](FormWindow* window) { return &window->form() == &form; });
+  return found == windows_.end() ? nullptr : *found;
+}
+
+void QtPlatform::showChanges() {
+  for (FormWindow* window : std::vector<FormWindow*>(windows_)) window->binding().showChanges();
+}
+
+void QtPlatform::end(int exitCode) {
+  ended_ = true;
+  exitCode_ = exitCode;
+  // Without a running loop there is nothing to leave, and the next loop would end at once.
+  if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit(exitCode);
+}
+
+void QtPlatform::endWithError(const std::string& text, const std::string& where) {
+  std::cerr << "tallywick: " << where << std::endl;
+  show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+  for (FormWindow* window : windows_) window->keepLayout();
+  end(1);
+}
+
+}  // namespace tallywick

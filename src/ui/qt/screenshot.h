@@ -1,0 +1,13 @@
+// Pictures of the windows, for the documentation and for a look without a display.
+#pragma once
+
+namespace tallywick {
+
+class Application;
+class QtPlatform;
+struct Options;
+
+/// Opens the window that the options ask for and saves its picture. 0, or 1 where it cannot be taken.
+int takeScreenshot(Application& application, QtPlatform& platform, const Options& options);
+
+}  // namespace tallywick

@@ -1,0 +1,186 @@
+#include "ui/qt/selection_window.h"
+
+#include "selection/selection_form.h"
+#include "ui/qt/choice_list.h"
+#include "ui/qt/layout_memory.h"
+#include "ui/qt/layouts.h"
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/slip.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStatusBar>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize usualSize = {880, 720};
+/// An item's length: two blanks, the date, six blanks, six numbers with two blanks between.
+constexpr int itemColumns = 42;
+
+QPushButton* actionButton(QWidget* parent, QBoxLayout& line) {
+  auto* button = new QPushButton(parent);
+  // A hidden action keeps its place, so that nothing moves when it comes back.
+  QSizePolicy policy = button->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  button->setSizePolicy(policy);
+  line.addWidget(button);
+  return button;
+}
+
+QWidget* headedChoice(Label& label, char mnemonic, ComboBox& combo, Binding& binding) {
+  auto* box = new QWidget;
+  auto* column = columnIn(box);
+  column->setSpacing(theme::halfGap);
+  auto* title = heading(box);
+  auto* choice = new ChoiceList(combo.items(), box);
+  choice->list().setColumns(itemColumns);
+  title->setBuddy(&choice->list());
+  column->addWidget(title);
+  column->addWidget(choice, 1);
+  binding.bind(combo, *choice);
+  binding.bind(label, *title, asLabelOfControl(mnemonic));
+  return box;
+}
+
+Wording orElse(const QString& captionless) {
+  return [captionless](std::string_view caption) {
+    return caption.empty() ? captionless : literally()(caption);
+  };
+}
+
+}  // namespace
+
+SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
+    : FormWindow(form, desk), selection_(form) {
+  auto* content = new QWidget;
+  auto* sides = new QHBoxLayout(content);
+  sides->setContentsMargins(theme::pageMargin, theme::pageMargin, theme::pageMargin, theme::pageMargin);
+  sides->setSpacing(theme::pageMargin);
+  sides->addWidget(slipSide());
+  sides->addWidget(listSide(), 1);
+  auto* scroller = new QScrollArea;
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setWidgetResizable(true);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setWidget(content);
+  setCentralWidget(scroller);
+  addStatus();
+  answerHelpKey();
+  binding().afterChanges = [this] { showChosen(); };
+  showChosen();
+  restoreLayout(*this, usualSize);
+  slip_->setFocus();
+}
+
+QWidget* SelectionWindow::slipSide() {
+  auto* side = new QWidget;
+  auto* column = columnIn(side);
+  const bool isPowerBall = selection_.game.game == Game::powerBall;
+  column->addWidget(
+      heading(side, u"Mark five numbers and one %1"_s.arg(isPowerBall ? u"PowerBall"_s : u"Mega Ball"_s)));
+  slip_ = new Slip(selection_, binding());
+  column->addWidget(slip_, 0, Qt::AlignLeft);
+  chosen_ = new QLabel(side);
+  chosen_->setTextFormat(Qt::PlainText);
+  chosen_->setWordWrap(true);
+  column->addWidget(chosen_);
+  addActions(*column, side);
+  addDrawCount(*column, side);
+  column->addStretch();
+  return side;
+}
+
+void SelectionWindow::addActions(QBoxLayout& column, QWidget* parent) {
+  auto* first = row();
+  auto* second = row();
+  auto* select = actionButton(parent, *first);
+  auto* quickPick = actionButton(parent, *first);
+  auto* replay = actionButton(parent, *first);
+  auto* clear = actionButton(parent, *second);
+  auto* done = actionButton(parent, *second);
+  second->addStretch();
+  column.addLayout(first);
+  column.addLayout(second);
+  binding().bind(selection_.Command59, *select, withMnemonic('S'));
+  binding().bind(selection_.Command9, *quickPick, withMnemonic('Q'));
+  binding().bind(selection_.Command60, *replay, withMnemonic('R'));
+  binding().bind(selection_.Command84, *clear, withMnemonic('C'));
+  binding().bind(selection_.Command5, *done, withMnemonic('D'));
+}
+
+void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
+  auto* line = row();
+  auto* draw = actionButton(parent, *line);
+  auto* count = heading(parent);
+  count->setFont(theme::listFont(count->font()));
+  count->setMinimumWidth(count->fontMetrics().horizontalAdvance(u"  10 "_s));
+  line->addWidget(count);
+  auto* step = actionButton(parent, *line);
+  auto* showCount = actionButton(parent, *line);
+  line->addStretch();
+  column.addLayout(line);
+  binding().bind(selection_.Command1, *draw, withMnemonic('W'));
+  binding().bind(selection_.Label1, *count);
+  binding().announceChangesOf(selection_.Label1);
+  binding().bind(selection_.Command4, *step, withMnemonic('P'));
+  binding().bind(selection_.Command7, *showCount, orElse(u"Draw Count"_s));
+}
+
+QWidget* SelectionWindow::listSide() {
+  auto* lists = splitter(Qt::Vertical, u"lists"_s);
+  lists->addWidget(headedChoice(selection_.Label3, 'U', selection_.Combo1, binding()));
+  lists->addWidget(headedChoice(selection_.Label28, 'H', selection_.Combo7, binding()));
+  lists->addWidget(headedChoice(selection_.Label29, 'N', selection_.Combo8, binding()));
+  auto* box = new QWidget;
+  auto* column = columnIn(box);
+  column->setSpacing(theme::halfGap);
+  auto* title = heading(box, u"Sa&ved Play Texts:"_s);
+  auto* saved = new LineList(selection_.List1.items(), box);
+  saved->setColumns(itemColumns);
+  saved->setAccessibleName(u"Saved Play Texts"_s);
+  title->setBuddy(saved);
+  column->addWidget(title);
+  column->addWidget(saved, 1);
+  binding().bind(selection_.List1, *saved);
+  lists->addWidget(box);
+  return lists;
+}
+
+void SelectionWindow::addStatus() {
+  std::vector<QLabel*> panels;
+  for (std::size_t i = 0; i < selection_.StatusBar1.panels().size(); ++i) {
+    auto* panel = new QLabel;
+    panel->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(panel, 1);
+    panels.push_back(panel);
+  }
+  binding().bind(selection_.StatusBar1, panels);
+}
+
+void SelectionWindow::showChosen() {
+  chosen_->setText(chosenInWords(selection_));
+}
+
+QString SelectionWindow::helpPage() const {
+  return u"plays.html"_s;
+}
+
+void SelectionWindow::keepLayout() {
+  saveLayout(*this);
+}
+
+void SelectionWindow::keyPressEvent(QKeyEvent* event) {
+  const int digit = event->key() - Qt::Key_0;
+  if (event->modifiers() & ~Qt::KeypadModifier || digit < 0 || digit > 9) {
+    FormWindow::keyPressEvent(event);
+    return;
+  }
+  slip_->typeDigit(digit);
+}
+
+}  // namespace tallywick

@@ -1,0 +1,36 @@
+// The selection window of a game: the slip with its actions on the left, the lists of plays on the right.
+#pragma once
+
+#include "ui/qt/form_window.h"
+
+class QBoxLayout;
+
+namespace tallywick {
+
+class SelectionForm;
+class Slip;
+
+class SelectionWindow : public FormWindow {
+ public:
+  SelectionWindow(SelectionForm& form, const Desk& desk);
+
+  QString helpPage() const override;
+  void keepLayout() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QWidget* slipSide();
+  QWidget* listSide();
+  void addActions(QBoxLayout& column, QWidget* parent);
+  void addDrawCount(QBoxLayout& column, QWidget* parent);
+  void addStatus();
+  void showChosen();
+
+  SelectionForm& selection_;
+  Slip* slip_ = nullptr;
+  QLabel* chosen_ = nullptr;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,30 @@
+// The settings, each with a line that explains it.
+#pragma once
+
+#include "app/settings.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QFormLayout;
+class QLineEdit;
+
+namespace tallywick {
+
+class SettingsDialog : public QDialog {
+ public:
+  SettingsDialog(const Settings& settings, QWidget* parent);
+  /// As they stand in the dialog.
+  Settings settings() const;
+
+ private:
+  QLineEdit* addText(QFormLayout& form, const QString& label, const std::string& value,
+                     const QString& explanation);
+
+  QLineEdit* server_;
+  QCheckBox* tls_;
+  QLineEdit* webSite_;
+  QLineEdit* webHelp_;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,15 @@
+// The summary on paper.
+#pragma once
+
+class QString;
+class QWidget;
+
+namespace tallywick {
+
+class MainForm;
+
+/// The lists of the summary under their headings, as a page of HTML.
+QString summaryPage(const MainForm& form);
+void printSummary(const MainForm& form, QWidget& window);
+
+}  // namespace tallywick

@@ -1,0 +1,24 @@
+// The summary page: the last fifteen draws and the numbers that recur on the left, the player's winning
+// plays, the amounts and the earlier draws on the right.
+#pragma once
+
+#include <QWidget>
+
+namespace tallywick {
+
+class Binding;
+class MainForm;
+struct SummaryPage;
+
+class SummaryView : public QWidget {
+ public:
+  SummaryView(MainForm& form, Binding& binding);
+
+ private:
+  QWidget* drawsSide(MainForm& form, Binding& binding);
+  QWidget* playsSide(MainForm& form, Binding& binding);
+  QWidget* frequentNumbers(SummaryPage& page, Binding& binding);
+  QWidget* amounts(MainForm& form, Binding& binding);
+};
+
+}  // namespace tallywick

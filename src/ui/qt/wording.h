@@ -1,0 +1,30 @@
+// The model's texts as a widget shows them: ampersands, mnemonics, headings over columns.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace tallywick {
+
+QString toQString(std::string_view text);
+std::string toText(const QString& text);
+
+/// How a caption is put on the screen.
+using Wording = std::function<QString(std::string_view caption)>;
+
+/// As it stands, for a widget that knows mnemonics: an ampersand is one, not a mark.
+Wording literally();
+/// As literally(), with the first `letter` of the caption (in either case) as its mnemonic.
+Wording withMnemonic(char letter);
+/// A label's caption: a doubled ampersand is one. For labels that are nobody's buddy.
+Wording asLabel();
+/// A label's caption as the label of another control, with a mnemonic that leads there.
+Wording asLabelOfControl(char letter);
+/// A heading over columns: its words, which two or more blanks part, each at the column where the list's
+/// field begins.
+Wording overColumns(std::initializer_list<int> columns);
+
+}  // namespace tallywick
