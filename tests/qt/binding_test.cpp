@@ -1,0 +1,114 @@
+// Every control has its widget and every named widget its control; what changes on either side shows on the
+// other.
+#include "app/main_form.h"
+#include "qt/desk_fixture.h"
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/picker.h"
+
+#include <QAction>
+#include <QCompleter>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace tallywick::test {
+namespace {
+
+class EveryWindow : public Desktop, public testing::WithParamInterface<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Forms, EveryWindow,
+                         testing::Values("Form1", "Form3", "Form5", "frmSplash", "frmAbout"),
+                         [](const auto& instance) { return std::string(instance.param); });
+
+TEST_P(EveryWindow, HasOneNamedWidgetForEachControl) {
+  FormWindow& shown = open(GetParam());
+  for (const Control* control : shown.form().controls()) {
+    EXPECT_EQ(shown.findChildren<QObject*>(QString::fromStdString(control->name())).size(), 1)
+        << control->name();
+  }
+  for (const QObject* child : shown.findChildren<QObject*>()) {
+    const QString name = child->objectName();
+    if (name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
+        !(child->isWidgetType() || qobject_cast<const QAction*>(child)))
+      continue;
+    // What the toolkit makes inside of its own widgets has names too.
+    if (child->parent() != nullptr && child->parent()->inherits("QTabBar")) continue;
+    EXPECT_NE(shown.form().find(name.toStdString()), nullptr) << name.toStdString();
+  }
+}
+
+class Binding_ : public Desktop {};
+
+TEST_F(Binding_, NamesAControlThatNoWidgetShows) {
+  SplashForm form;
+  const Label forgotten(form, "lblForgotten");
+  Desk desk = {platform, scratch.folder(), {}, {}, {}};
+  try {
+    makeWindow(form, desk);
+    FAIL() << "a control without a widget went unnoticed";
+  } catch (const std::logic_error& error) {
+    EXPECT_STREQ(error.what(), "frmSplash: no widget for lblForgotten");
+  }
+}
+
+TEST_F(Binding_, ShowsWhatAHandlerChanges) {
+  open("Form1");
+  auto& form = static_cast<MainForm&>(*application.find("Form1"));
+  platform.run([&] {
+    form.summary.Label16.setCaption("Plays && Draws");
+    form.bar.Command48.setCaption("A & B Selection");
+    form.update.Command2.hide();
+    form.search.havePlayed.Command21.setEnabled(false);
+    form.search.twoThree.Combo4.add(" 11-21-2026    01 02 03 04 05   06");
+    form.search.twoThree.Combo4.setText("typed");
+  });
+  EXPECT_EQ(widget<QLabel>("Form1", "Label16").text(), QStringLiteral("Pla&ys && Draws"));
+  EXPECT_EQ(widget<QPushButton>("Form1", "Command48").text(), QStringLiteral("A && B &Selection"));
+  EXPECT_TRUE(widget<QPushButton>("Form1", "Command2").isHidden());
+  EXPECT_FALSE(widget<QPushButton>("Form1", "Command21").isEnabled());
+  EXPECT_EQ(widget<QComboBox>("Form1", "Combo4").currentText(), QStringLiteral("typed"));
+  EXPECT_EQ(widget<QComboBox>("Form1", "Combo4").count(), 1);
+}
+
+TEST_F(Binding_, TakesChosenAndTypedTextsAndTabs) {
+  open("Form1");
+  auto& form = static_cast<MainForm&>(*application.find("Form1"));
+  ComboBox& combo = form.search.twoThree.Combo4;
+  platform.run([&] {
+    combo.add(" 11-18-2026    06 08 30 51 55   13");
+    combo.add(" 11-16-2026    05 19 31 64 68   20");
+    form.bar.SSTab1.setTab(1);
+  });
+  auto& picker = widget<Picker>("Form1", "Combo4");
+  picker.setFocus();
+  // The date stands inside of the line, behind a blank.
+  picker.lineEdit()->selectAll();
+  QTest::keyClicks(picker.lineEdit(), QStringLiteral("11-16"));
+  EXPECT_EQ(combo.text(), "11-16");
+  ASSERT_EQ(picker.completer()->completionCount(), 1);
+  EXPECT_EQ(picker.completer()->currentCompletion(), QStringLiteral(" 11-16-2026    05 19 31 64 68   20"));
+  Q_EMIT picker.activated(1);
+  EXPECT_EQ(combo.text(), " 11-16-2026    05 19 31 64 68   20");
+  widget<QTabWidget>("Form1", "SSTab1").setCurrentIndex(3);
+  EXPECT_EQ(form.bar.SSTab1.tab(), 3);
+}
+
+TEST_F(Binding_, OpensAMillionLinesAtOnce) {
+  open("Form1").show();
+  auto& form = static_cast<MainForm&>(*application.find("Form1"));
+  for (int i = 0; i < 1'000'000; ++i) {
+    form.summary.List4.add("11-18-2026     06 08 30 51 55     13");
+    form.search.twoThree.Combo4.add(" 11-18-2026    06 08 30 51 55   13");
+  }
+  QElapsedTimer time;
+  time.start();
+  platform.refresh();
+  widget<LineList>("Form1", "List4").scrollToBottom();
+  platform.refresh();
+  EXPECT_LT(time.elapsed(), 100);
+  EXPECT_EQ(widget<LineList>("Form1", "List4").model()->rowCount(), 1'000'000);
+}
+
+}  // namespace
+}  // namespace tallywick::test

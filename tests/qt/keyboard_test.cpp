@@ -1,0 +1,122 @@
+// The windows by keyboard alone.
+#include "qt/desk_fixture.h"
+#include "ui/qt/parts/ball.h"
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <map>
+
+namespace tallywick::test {
+namespace {
+
+/// The mnemonics of what can be seen in the window, each with its texts.
+std::map<QString, QStringList> mnemonics(const QWidget& window) {
+  std::map<QString, QStringList> found;
+  const auto add = [&](const QString& text) {
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    if (!key.isEmpty()) found[key.toString()] += text;
+  };
+  for (const auto* button : window.findChildren<QAbstractButton*>()) {
+    if (button->isVisible()) add(button->text());
+  }
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    if (label->isVisible() && label->buddy() != nullptr) add(label->text());
+  }
+  for (const auto* tabs : window.findChildren<QTabWidget*>()) {
+    for (int i = 0; tabs->isVisible() && i < tabs->count(); ++i) add(tabs->tabText(i));
+  }
+  for (const auto* bar : window.findChildren<QMenuBar*>()) {
+    for (const QAction* action : bar->actions()) add(action->text());
+  }
+  return found;
+}
+
+void expectUniqueMnemonics(const QWidget& window) {
+  for (const auto& [key, texts] : mnemonics(window)) {
+    EXPECT_EQ(texts.size(), 1) << key.toStdString() << ": " << texts.join(QLatin1String(" | ")).toStdString();
+  }
+}
+
+class Keyboard : public Desktop {
+ protected:
+  void type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  }
+  SelectionForm& selection() { return static_cast<SelectionForm&>(*application.find("Form3")); }
+};
+
+TEST_F(Keyboard, MnemonicsAreUniqueOnEveryPage) {
+  FormWindow& main = open("Form1");
+  auto* pages = main.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+  for (int page = 0; page < pages->count(); ++page) {
+    pages->setCurrentIndex(page);
+    auto* panels = pages->widget(page)->findChild<QTabWidget*>();
+    auto* strip = panels != nullptr ? panels : qobject_cast<QTabWidget*>(pages->widget(page));
+    for (int panel = 0; panel < (strip != nullptr ? strip->count() : 1); ++panel) {
+      if (strip != nullptr) strip->setCurrentIndex(panel);
+      SCOPED_TRACE("page " + std::to_string(page) + " panel " + std::to_string(panel));
+      EXPECT_GE(mnemonics(main).size(), 12U);
+      expectUniqueMnemonics(main);
+    }
+  }
+  for (const char* name : {"Form3", "Form5"}) {
+    SCOPED_TRACE(name);
+    expectUniqueMnemonics(open(name));
+  }
+}
+
+TEST_F(Keyboard, MakesAPlayWithDigitsSpaceAndMnemonics) {
+  FormWindow& window = open("Form3");
+  QApplication::setActiveWindow(&window);
+  for (const char* number : {"05", "12", "33", "47", "69"}) {
+    type(QString::fromLatin1(number));
+    press(Qt::Key_Space);
+  }
+  type(QStringLiteral("26"));
+  press(Qt::Key_Space);
+  press(Qt::Key_Space);
+  EXPECT_EQ(widget<BallButton>("Form3", selection().button(26).name().c_str()).mark(), BallMark::extra);
+  press(Qt::Key_S, Qt::AltModifier);
+  // A mnemonic clicks as a finger does, with a moment between press and release.
+  QTest::qWait(200);
+  EXPECT_EQ(scratch.read(R"(QzrNumbers\QZR6PWR\QZR6PWR7.Ply)").substr(0, 42),
+            "\"11-21-2026\",\"05\",\"12\",\"33\",\"47\",\"69\",\"26\"");
+  ASSERT_EQ(selection().Combo1.items().size(), 1U);
+  press(Qt::Key_D, Qt::AltModifier);
+  QTest::qWait(200);
+  EXPECT_FALSE(scratch.read(R"(QzrNumbers\QZR6PWR\QZR6PWR1.Ply)").empty());
+}
+
+TEST_F(Keyboard, GoesOverTheSlipAsItsRowsStand) {
+  FormWindow& window = open("Form3");
+  QApplication::setActiveWindow(&window);
+  const auto focused = [] { return QApplication::focusWidget()->accessibleName().left(2).toStdString(); };
+  type(QStringLiteral("7"));
+  EXPECT_EQ(focused(), "07");
+  press(Qt::Key_Down);
+  EXPECT_EQ(focused(), "17");
+  press(Qt::Key_Right);
+  EXPECT_EQ(focused(), "18");
+  // 7 and 9 make no number of this slip; the 9 begins anew.
+  type(QStringLiteral("79"));
+  EXPECT_EQ(focused(), "09");
+  type(QStringLiteral("0"));
+  type(QStringLiteral("3"));
+  EXPECT_EQ(focused(), "03");
+}
+
+TEST_F(Keyboard, AsksForTheHelpOfThePageInFront) {
+  FormWindow& main = open("Form1");
+  QApplication::setActiveWindow(&main);
+  main.findChild<QTabWidget*>(QStringLiteral("SSTab1"))->setCurrentIndex(2);
+  QTest::keyClick(&main, Qt::Key_F1);
+  EXPECT_EQ(helpPage, QStringLiteral("winnings.html"));
+}
+
+}  // namespace
+}  // namespace tallywick::test

@@ -1,0 +1,112 @@
+// Windows, message boxes and errors: what the program does on the desktop.
+#include "core/runtime_error.h"
+#include "qt/desk_fixture.h"
+#include "ui/qt/first_start.h"
+#include "ui/qt/layout_memory.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QScreen>
+
+namespace tallywick::test {
+namespace {
+
+class Windows : public Desktop {};
+
+TEST_F(Windows, AsksTheDoublePlayQuestionInItsOwnWords) {
+  open("Form1");
+  std::string draws;
+  for (int i = 0; i < 16; ++i) draws += records({"11,18,2026,01,02,03,04,05,06,1,x,11,12,13,14,15,16,x"});
+  scratch.write(R"(QzrNumbers\QZR6PWR\QZRNUM72.Dat)", draws);
+  answerNextBox(QMessageBox::Yes);
+  widget<QPushButton>("Form1", "Command7").click();
+  EXPECT_EQ(boxTitle, QStringLiteral("TALLYWICK SOFTWARE"));
+  EXPECT_EQ(boxText, QStringLiteral("Display PowerBall Double Play Information  ?"));
+  EXPECT_EQ(boxIcon, QMessageBox::Question);
+  EXPECT_FALSE(widget<QLabel>("Form1", "Frame6").isHidden());
+  EXPECT_TRUE(widget<QLabel>("Form1", "Frame4").isHidden());
+}
+
+TEST_F(Windows, KeepsTheBlanksOfTheHelpMessage) {
+  open("Form1");
+  answerNextBox(QMessageBox::Ok);
+  window("Form1").findChild<QAction*>(QStringLiteral("mnuHelp"))->trigger();
+  EXPECT_EQ(boxTitle, QStringLiteral(" Tallywick Software  "));
+  EXPECT_EQ(boxText, QStringLiteral(" Please...,   Press  'F1'  for Help\n"));
+  EXPECT_EQ(boxIcon, QMessageBox::Warning);
+}
+
+TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {
+  open("Form1");
+  answerNextBox(QMessageBox::Ok);
+  platform.run([] { throw RuntimeError(ErrorNumber::fileNotFound, "somewhere"); });
+  EXPECT_EQ(boxText, QStringLiteral("Run-time error '53':\n\nFile not found"));
+  EXPECT_TRUE(platform.ended());
+  EXPECT_EQ(platform.exitCode(), 1);
+}
+
+TEST_F(Windows, PaintInTheMiddleOfAHandlerButTakeNoInput) {
+  FormWindow& main = open("Form1");
+  auto* next = main.findChild<QPushButton*>(QStringLiteral("Command8"));
+  const auto& tabs = static_cast<TabStrip&>(*application.find("Form1")->find("SSTab1"));
+  platform.run([&] {
+    next->click();
+    main.close();
+    platform.refresh();
+    EXPECT_EQ(tabs.tab(), 0);
+  });
+  ASSERT_NE(application.find("Form1"), nullptr);
+  next->click();
+  EXPECT_EQ(tabs.tab(), 1);
+}
+
+TEST_F(Windows, OfTheModelAndOfTheScreenAgree) {
+  open("Form1");
+  const FormWindow* first = &open("Form3");
+  open("Form5");
+  EXPECT_EQ(application.windows().size(), 3U);
+  EXPECT_NE(&open("Form3"), first);
+  EXPECT_EQ(application.windows().size(), 3U);
+  window("Form5").close();
+  EXPECT_EQ(application.find("Form5"), nullptr);
+  open("frmAbout");
+  widget<QPushButton>("frmAbout", "cmdOK").click();
+  EXPECT_EQ(application.find("frmAbout"), nullptr);
+  window("Form1").close();
+  EXPECT_TRUE(application.windows().empty());
+  EXPECT_TRUE(platform.ended());
+  EXPECT_EQ(platform.exitCode(), 0);
+}
+
+TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {
+  QTest::keyClick(&open("frmSplash"), Qt::Key_A);
+  EXPECT_TRUE(application.windows().empty());
+  EXPECT_TRUE(platform.ended());
+}
+
+TEST_F(Windows, ComeBackInTheirSizeButNeverLargerThanTheScreen) {
+  const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+  QMainWindow shown;
+  shown.setObjectName(QStringLiteral("sized"));
+  shown.resize(300, 200);
+  saveLayout(shown);
+  restoreLayout(shown, {100, 100});
+  EXPECT_EQ(shown.size(), QSize(300, 200));
+  shown.resize(2 * screen);
+  saveLayout(shown);
+  restoreLayout(shown, {100, 100});
+  EXPECT_LE(shown.width(), screen.width());
+  EXPECT_LE(shown.height(), screen.height());
+}
+
+TEST_F(Windows, ASecondStartOnTheFolderIsTold) {
+  const auto first = holdDataFolder(scratch.root());
+  ASSERT_TRUE(first.has_value());
+  answerNextBox(QMessageBox::Ok);
+  EXPECT_FALSE(holdDataFolder(scratch.root()).has_value());
+  EXPECT_TRUE(boxText.contains(QStringLiteral("is already open")));
+}
+
+}  // namespace
+}  // namespace tallywick::test
