@@ -7,6 +7,7 @@
 #include "ui/qt/chart_view.h"
 #include "ui/qt/choice_list.h"
 #include "ui/qt/handler_runner.h"
+#include "ui/qt/line_actions.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/picker.h"
@@ -107,6 +108,7 @@ void Binding::bind(Label& label, QLabel& widget, const Wording& wording) {
 }
 
 void Binding::bind(ListBox& list, LineList& widget) {
+  addLineActions(widget);
   enter(list, widget, [&list, &widget, watch = LineWatch(list.items())]() mutable {
     if (watch.changed()) widget.reload();
     widget.setEmphasis(list.emphasis());
@@ -128,6 +130,7 @@ void Binding::bind(ComboBox& combo, Picker& widget) {
 }
 
 void Binding::bind(ComboBox& combo, ChoiceList& widget) {
+  addLineActions(widget.list());
   widget.onChosen = [this, &combo](const QString& item) {
     if (form_ != nullptr) take([&] { combo.setText(toText(item)); });
   };

@@ -11,6 +11,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <algorithm>
+#include <cmath>
 #include <qcustomplot.h>
 
 namespace tallywick {
@@ -23,6 +24,7 @@ constexpr double barWidth = 0.6;
 /// Room over the tallest bar for its count.
 constexpr double headroom = 1.15;
 constexpr double leastHeight = 5;
+constexpr int wantedTicks = 5;
 
 }  // namespace
 
@@ -68,6 +70,10 @@ void ChartView::draw() {
   plot_->xAxis->setTicker(names);
   plot_->xAxis->setRange(-1, std::max(1, static_cast<int>(bars_.size())));
   plot_->yAxis->setRange(0, tallest * headroom);
+  // Counts are whole numbers.
+  auto counts = QSharedPointer<QCPAxisTickerFixed>::create();
+  counts->setTickStep(std::max(1.0, std::ceil(tallest / wantedTicks)));
+  plot_->yAxis->setTicker(counts);
   plot_->xAxis->setLabel(title_);
   colorAxes();
   plot_->replot();

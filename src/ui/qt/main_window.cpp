@@ -65,7 +65,7 @@ void MainWindow::addPages() {
 QWidget* MainWindow::gameShown() {
   auto* box = new QWidget;
   auto* line = new QHBoxLayout(box);
-  line->setContentsMargins(theme::gap, 0, theme::gap, 0);
+  line->setContentsMargins(theme::gap, 0, theme::gap, theme::gap);
   const std::array<std::pair<Frame*, QString>, 4> games = {
       {{&main_.frames.Frame4, u"PowerBall"_s},
        {&main_.frames.Frame5, u"Hoosier Lottery"_s},

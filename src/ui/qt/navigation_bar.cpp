@@ -21,6 +21,17 @@ QPushButton* gameSwitch(QWidget* parent) {
   return button;
 }
 
+/// Presses a side of the switch in, or lets it out; the colour tells it on dark desktops too.
+void showSide(QPushButton& button, bool on) {
+  button.setChecked(on);
+  QPalette colors;
+  if (on) {
+    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight));
+    colors.setColor(QPalette::ButtonText, theme::readableOn(colors.color(QPalette::Highlight)));
+  }
+  button.setPalette(colors);
+}
+
 QToolButton* settingsButton(QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setText(u"Settings…"_s);
@@ -70,8 +81,8 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
 
 void NavigationBarView::showGame() {
   const GameFrames& frames = form_.frames;
-  powerBall_->setChecked(frames.Frame4.visible() || frames.Frame6.visible());
-  megaMillions_->setChecked(frames.Frame11.visible());
+  showSide(*powerBall_, frames.Frame4.visible() || frames.Frame6.visible());
+  showSide(*megaMillions_, frames.Frame11.visible());
 }
 
 }  // namespace tallywick

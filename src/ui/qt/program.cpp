@@ -4,13 +4,13 @@
 #include "ui/qt/first_start.h"
 #include "ui/qt/help.h"
 #include "ui/qt/options.h"
+#include "ui/qt/program_icon.h"
 #include "ui/qt/qt_platform.h"
 #include "ui/qt/screenshot.h"
 #include "ui/qt/transfer_window.h"
 #include "update/curl_transfer.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
 #include <iostream>
@@ -45,7 +45,6 @@ void nameProgram(bool takesPicture) {
   QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
   QGuiApplication::setApplicationDisplayName(QString());
   QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
-  QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.tallywick.Tallywick"_s));
   // The model tells when the program ends.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
@@ -104,6 +103,7 @@ int runProgram(int argumentCount, char** arguments) {
     std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help tells them\n";
     return 2;
   }
+  QGuiApplication::setWindowIcon(programIcon());
   const auto folder = findDataFolder(options.folder, options.screenshot.empty() ? Offer::yes : Offer::no);
   if (!folder) return options.screenshot.empty() ? 0 : 1;
   const auto hold = holdDataFolder(*folder);

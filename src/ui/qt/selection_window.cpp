@@ -7,6 +7,7 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/slip.h"
 
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
@@ -22,13 +23,13 @@ constexpr QSize usualSize = {880, 720};
 /// An item's length: two blanks, the date, six blanks, six numbers with two blanks between.
 constexpr int itemColumns = 42;
 
-QPushButton* actionButton(QWidget* parent, QBoxLayout& line) {
+QPushButton* actionButton(QWidget* parent, QGridLayout& grid, int line, int column) {
   auto* button = new QPushButton(parent);
   // A hidden action keeps its place, so that nothing moves when it comes back.
-  QSizePolicy policy = button->sizePolicy();
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   policy.setRetainSizeWhenHidden(true);
   button->setSizePolicy(policy);
-  line.addWidget(button);
+  grid.addWidget(button, line, column);
   return button;
 }
 
@@ -87,43 +88,38 @@ QWidget* SelectionWindow::slipSide() {
   column->addWidget(slip_, 0, Qt::AlignLeft);
   chosen_ = new QLabel(side);
   chosen_->setTextFormat(Qt::PlainText);
-  chosen_->setWordWrap(true);
+  // However many numbers are marked, the slip keeps its width.
+  chosen_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   column->addWidget(chosen_);
-  addActions(*column, side);
-  addDrawCount(*column, side);
+  auto* actions = new QGridLayout;
+  actions->setSpacing(theme::gap);
+  addActions(*actions, side);
+  addDrawCount(*actions, side);
+  column->addLayout(actions);
   column->addStretch();
   return side;
 }
 
-void SelectionWindow::addActions(QBoxLayout& column, QWidget* parent) {
-  auto* first = row();
-  auto* second = row();
-  auto* select = actionButton(parent, *first);
-  auto* quickPick = actionButton(parent, *first);
-  auto* replay = actionButton(parent, *first);
-  auto* clear = actionButton(parent, *second);
-  auto* done = actionButton(parent, *second);
-  second->addStretch();
-  column.addLayout(first);
-  column.addLayout(second);
+void SelectionWindow::addActions(QGridLayout& grid, QWidget* parent) {
+  auto* select = actionButton(parent, grid, 0, 0);
+  auto* quickPick = actionButton(parent, grid, 0, 1);
+  auto* replay = actionButton(parent, grid, 0, 2);
+  auto* done = actionButton(parent, grid, 1, 0);
+  auto* clear = actionButton(parent, grid, 1, 1);
   binding().bind(selection_.Command59, *select, withMnemonic('S'));
   binding().bind(selection_.Command9, *quickPick, withMnemonic('Q'));
   binding().bind(selection_.Command60, *replay, withMnemonic('R'));
-  binding().bind(selection_.Command84, *clear, withMnemonic('C'));
   binding().bind(selection_.Command5, *done, withMnemonic('D'));
+  binding().bind(selection_.Command84, *clear, withMnemonic('C'));
 }
 
-void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
-  auto* line = row();
-  auto* draw = actionButton(parent, *line);
+void SelectionWindow::addDrawCount(QGridLayout& grid, QWidget* parent) {
+  auto* draw = actionButton(parent, grid, 2, 0);
   auto* count = heading(parent);
   count->setFont(theme::listFont(count->font()));
-  count->setMinimumWidth(count->fontMetrics().horizontalAdvance(u"  10 "_s));
-  line->addWidget(count);
-  auto* step = actionButton(parent, *line);
-  auto* showCount = actionButton(parent, *line);
-  line->addStretch();
-  column.addLayout(line);
+  grid.addWidget(count, 2, 1);
+  auto* step = actionButton(parent, grid, 2, 2);
+  auto* showCount = actionButton(parent, grid, 1, 2);
   binding().bind(selection_.Command1, *draw, withMnemonic('W'));
   binding().bind(selection_.Label1, *count);
   binding().announceChangesOf(selection_.Label1);
@@ -163,7 +159,10 @@ void SelectionWindow::addStatus() {
 }
 
 void SelectionWindow::showChosen() {
-  chosen_->setText(chosenInWords(selection_));
+  const QString words = chosenInWords(selection_);
+  if (chosen_->text() == words) return;
+  chosen_->setText(words);
+  chosen_->setToolTip(words);
 }
 
 QString SelectionWindow::helpPage() const {

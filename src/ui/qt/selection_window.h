@@ -3,7 +3,7 @@
 
 #include "ui/qt/form_window.h"
 
-class QBoxLayout;
+class QGridLayout;
 
 namespace tallywick {
 
@@ -23,8 +23,8 @@ class SelectionWindow : public FormWindow {
  private:
   QWidget* slipSide();
   QWidget* listSide();
-  void addActions(QBoxLayout& column, QWidget* parent);
-  void addDrawCount(QBoxLayout& column, QWidget* parent);
+  void addActions(QGridLayout& grid, QWidget* parent);
+  void addDrawCount(QGridLayout& grid, QWidget* parent);
   void addStatus();
   void showChosen();
 

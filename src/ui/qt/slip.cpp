@@ -100,11 +100,10 @@ QString chosenInWords(const SelectionForm& form) {
     if (mark == BallMark::main) mains += toQString(button->caption());
     if (mark == BallMark::extra) extras += toQString(button->caption());
   }
-  if (mains.isEmpty() && extras.isEmpty()) return u"No number is marked."_s;
   const QString extraName = form.game.game == Game::powerBall ? u"PowerBall"_s : u"Mega Ball"_s;
   const QString none = u"none"_s;
-  return u"Numbers: %1.  %2: %3."_s.arg(mains.isEmpty() ? none : mains.join(u", "_s), extraName,
-                                        extras.isEmpty() ? none : extras.join(u", "_s));
+  return u"Numbers: %1\n%2: %3"_s.arg(mains.isEmpty() ? none : mains.join(u", "_s), extraName,
+                                      extras.isEmpty() ? none : extras.join(u", "_s));
 }
 
 }  // namespace tallywick

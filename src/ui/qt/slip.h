@@ -35,7 +35,7 @@ class Slip : public QWidget {
   QElapsedTimer sinceTyped_;
 };
 
-/// The marked numbers in words: "Numbers: 05, 12 and PowerBall 07."
+/// The marked numbers in words, for example "Numbers: 05, 12" and in a second line "PowerBall: 07".
 QString chosenInWords(const SelectionForm& form);
 
 }  // namespace tallywick

@@ -1,0 +1,10 @@
+// The program's icon: that of the desktop's theme where the program is installed, else drawn.
+#pragma once
+
+#include <QIcon>
+
+namespace tallywick {
+
+QIcon programIcon();
+
+}  // namespace tallywick
