@@ -3,6 +3,7 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/theme.h"
 
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -24,6 +25,10 @@ ChoiceList::ChoiceList(const TextLines& lines, QWidget* parent)
   };
   connect(list_, &QAbstractItemView::clicked, this, choose);
   connect(list_, &QAbstractItemView::activated, this, choose);
+  connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this, choose](const QModelIndex& now) {
+            if (list_->hasFocus()) choose(now);
+          });
 }
 
 void ChoiceList::showText(const QString& text) {

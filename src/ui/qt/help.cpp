@@ -40,10 +40,12 @@ void openHelp(const DataFolder& folder, const QString& page) {
 void editSettings(Application& application, QtPlatform& platform) {
   SettingsDialog dialog(application.settings(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return;
-  platform.run([&] {
+  try {
     writeSettings(application.surroundings().folder, dialog.settings());
     application.setSettings(dialog.settings());
-  });
+  } catch (const std::exception& error) {
+    platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
+  }
 }
 
 }  // namespace tallywick

@@ -104,7 +104,11 @@ void QtPlatform::refresh() {
 
 void QtPlatform::start(std::string_view program, std::string_view workingFolder) {
   const ProgramStart really = programStart(folder_, program, workingFolder);
-  if (os::canRun(really.program)) os::startProgram(really.program, really.argument, really.workingFolder);
+  if (os::canRun(really.program)) {
+    os::startProgram(really.program, really.argument, really.workingFolder);
+  } else {
+    std::cerr << "tallywick: " << really.program.string() << " cannot be started\n";
+  }
 }
 
 void QtPlatform::openWindow(Form& form) {

@@ -1,0 +1,148 @@
+// The pieces that the windows are made of, each by itself.
+#include "app/main_form.h"
+#include "ui/qt/ball_picture.h"
+#include "ui/qt/chart_view.h"
+#include "ui/qt/choice_list.h"
+#include "ui/qt/line_actions.h"
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/settings_dialog.h"
+#include "ui/qt/summary_print.h"
+#include "ui/qt/transfer_window.h"
+#include "ui/qt/wording.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace tallywick::test {
+namespace {
+
+TEST(Wordings, PutCaptionsOnTheScreen) {
+  const struct {
+    const char* name;
+    Wording wording;
+    const char* caption;
+    const char* shown;
+  } cases[] = {
+      {"an ampersand in data is no mnemonic", literally(), "A & B", "A && B"},
+      {"a mnemonic is found in either case", withMnemonic('S'), "Mega Millions Play Selection",
+       "Mega Million&s Play Selection"},
+      {"a caption without the letter has none", withMnemonic('X'), "Draw & Go", "Draw && Go"},
+      {"a doubled ampersand of a label is one", asLabel(), "Your Play && Winning", "Your Play & Winning"},
+      {"a label of a control keeps it from being a mnemonic", asLabelOfControl('W'), "Play && Winning",
+       "Play && &Winning"},
+      {"words stand over their columns", overColumns({1, 15}),
+       "     Dates:             Amounts:", " Dates:        Amounts:"},
+      {"a word that is too long pushes the next one on", overColumns({0, 4}), "Long Date:  Next",
+       "Long Date: Next"},
+  };
+  for (const auto& each : cases) {
+    EXPECT_EQ(each.wording(each.caption).toStdString(), each.shown) << each.name;
+  }
+}
+
+TEST(Lists, CopyTheLinesThatAreSelected) {
+  TextLines lines;
+  for (const char* line :
+       {" 11-18-2026    06 08   13", " 11-16-2026    05 19   20", " 11-14-2026    09 10   04"})
+    lines.add(line);
+  LineList list(lines);
+  addLineActions(list);
+  list.show();
+  list.setCurrentIndex(list.model()->index(0, 0));
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            QStringLiteral(" 11-16-2026    05 19   20\n 11-14-2026    09 10   04"));
+}
+
+TEST(Lists, AreSavedAsTextAndWithCommas) {
+  TextLines lines;
+  lines.add(" 11-18-2026    06 08   13  *  40");
+  lines.add(" 06, 4 draws before:");
+  const LineList list(lines);
+  EXPECT_EQ(asText(list), " 11-18-2026    06 08   13  *  40\n 06, 4 draws before:\n");
+  EXPECT_EQ(asCommaSeparated(list), "11-18-2026,06,08,13,*,40\r\n\"06,\",4,draws,before:\r\n");
+}
+
+TEST(ChoiceLists, TellWhatIsChosenByMouseAndByKeyboard) {
+  TextLines lines;
+  lines.add("first");
+  lines.add("second");
+  ChoiceList choice(lines);
+  QStringList chosen;
+  choice.onChosen = [&](const QString& item) { chosen += item; };
+  choice.show();
+  QApplication::setActiveWindow(&choice);
+  choice.list().setFocus();
+  QTest::keyClick(&choice.list(), Qt::Key_Down);
+  EXPECT_EQ(chosen.last(), QStringLiteral("second"));
+  QTest::mouseClick(choice.list().viewport(), Qt::LeftButton, {},
+                    choice.list().visualRect(choice.list().model()->index(0, 0)).center());
+  EXPECT_EQ(chosen.last(), QStringLiteral("first"));
+}
+
+TEST(Charts, CanBeReadAsText) {
+  const std::vector<Chart::Bar> bars = {{7, "06", colors::yellow}, {0, "13", Color::rgb(153, 153, 153)}};
+  EXPECT_EQ(ChartView::inWords(QStringLiteral("Tallywick Last 100 Draws"), bars).toStdString(),
+            "Tallywick Last 100 Draws. 06: 7, 13: 0");
+}
+
+TEST(BallPictures, ShowThePictureOrDrawTheBall) {
+  BallPicture shown;
+  shown.resize(shown.sizeHint());
+  const auto middle = [&] { return shown.grab().toImage().pixelColor(shown.rect().center() / 2); };
+  const QColor empty = middle();
+  QPixmap green(8, 8);
+  green.fill(Qt::green);
+  shown.showNumber(QStringLiteral("07"), false, green);
+  EXPECT_EQ(middle(), QColor(Qt::green));
+  shown.showNumber(QStringLiteral("07"), true, {});
+  EXPECT_NE(middle(), QColor(Qt::green));
+  EXPECT_NE(middle(), empty);
+  EXPECT_EQ(shown.accessibleName(), QStringLiteral("extra ball 07"));
+}
+
+TEST(SettingsDialogs, GiveBackWhatTheyWereGiven) {
+  const Settings settings = {"host:2121", Settings::Tls::required, "https://a.example/",
+                             "https://b.example/?x=1&y=2"};
+  SettingsDialog dialog(settings, nullptr);
+  EXPECT_EQ(dialog.settings(), settings);
+  // A quote would end the value in the settings file.
+  for (auto* edit : dialog.findChildren<QLineEdit*>()) QTest::keyClicks(edit, QStringLiteral("\""));
+  EXPECT_EQ(dialog.settings(), settings);
+}
+
+TEST(Summaries, ArePrintedWithTheirHeadings) {
+  MainForm form;
+  form.summary.Label16.setCaption("Your Play && Winning Lotto Ticket(s):");
+  form.summary.List2.add(" 11-18-2026    <05>");
+  const QString page = summaryPage(form);
+  EXPECT_TRUE(page.contains(
+      QStringLiteral("<h3>Your Play &amp; Winning Lotto Ticket(s):</h3><pre> 11-18-2026    &lt;05&gt;\n")))
+      << page.toStdString();
+}
+
+TEST(TransferWindows, ShowTheFileInHand) {
+  QtTransferWindow window;
+  window.show({"QZRNUM6.Dat", 500, 1000});
+  const auto shown = [] {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (auto* dialog = qobject_cast<QProgressDialog*>(widget)) return dialog;
+    }
+    return static_cast<QProgressDialog*>(nullptr);
+  };
+  ASSERT_NE(shown(), nullptr);
+  EXPECT_EQ(shown()->value(), 50);
+  EXPECT_TRUE(shown()->labelText().contains(QStringLiteral("QZRNUM6.Dat")));
+  window.close();
+  EXPECT_EQ(shown(), nullptr);
+}
+
+}  // namespace
+}  // namespace tallywick::test
