@@ -11,10 +11,14 @@ std::optional<SequentialReader> openHistory(const DataFolder& folder, std::strin
   try {
     return std::make_optional<SequentialReader>(folder, written, SequentialReader::Reading::inPieces);
   } catch (const RuntimeError& error) {
-    boxes.show({join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
-                std::string(programTitle), MessageBox::Icon::exclamation});
+    tellUnreadable(written, error, boxes);
     return std::nullopt;
   }
+}
+
+void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes) {
+  boxes.show({join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
+              std::string(programTitle), MessageBox::Icon::exclamation});
 }
 
 }  // namespace tallywick

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/surroundings.h"
+#include "core/runtime_error.h"
 #include "core/sequential_reader.h"
 #include "core/text.h"
 
@@ -15,6 +16,23 @@ namespace tallywick {
 /// Nothing where the file cannot be read; then a message that names it has been shown.
 std::optional<SequentialReader> openHistory(const DataFolder& folder, std::string_view written,
                                             MessageBoxes& boxes);
+
+/// Shows the message that names a history file that cannot be read.
+void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes);
+
+/// Runs `read` on an open history. False where the disk fails it meanwhile; the player has been told then. A
+/// file that ends inside a record is raised.
+template <typename Read>
+bool readToEnd(std::string_view written, MessageBoxes& boxes, Read read) {
+  try {
+    read();
+    return true;
+  } catch (const RuntimeError& error) {
+    if (error.is(ErrorNumber::inputPastEnd)) throw;
+    tellUnreadable(written, error, boxes);
+    return false;
+  }
+}
 
 /// Whether one of the `count` fields from `first` on, which counts from 0, is `number`.
 template <std::size_t Count>

@@ -106,17 +106,20 @@ class Count {
 /// How often the number came up; nothing where the history cannot be read.
 std::optional<std::size_t> countDraws(Count count, const History& history, const DataFolder& folder,
                                       MessageBoxes& boxes) {
-  std::optional<SequentialReader> reader = openHistory(folder, join(history.gameFolder, history.file), boxes);
+  const std::string file = join(history.gameFolder, history.file);
+  std::optional<SequentialReader> reader = openHistory(folder, file, boxes);
   if (!reader) return std::nullopt;
-  if (history.isDoublePlay) {
-    forEachRecordView<doublePlayFields>(*reader, [&](const RecordView<doublePlayFields>& record) {
-      count.take(record, 11, doublePlayDrawOf);
-    });
-  } else {
-    forEachRecordView<drawFields>(
-        *reader, [&](const RecordView<drawFields>& record) { count.take(record, 3, drawOf); });
-  }
-  return count.times();
+  const bool whole = readToEnd(file, boxes, [&] {
+    if (history.isDoublePlay) {
+      forEachRecordView<doublePlayFields>(*reader, [&](const RecordView<doublePlayFields>& record) {
+        count.take(record, 11, doublePlayDrawOf);
+      });
+    } else {
+      forEachRecordView<drawFields>(
+          *reader, [&](const RecordView<drawFields>& record) { count.take(record, 3, drawOf); });
+    }
+  });
+  return whole ? std::make_optional(count.times()) : std::nullopt;
 }
 
 std::string havePlayedTally(std::string_view number, std::size_t times) {

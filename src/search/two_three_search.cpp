@@ -182,7 +182,8 @@ void searchCombination(const Combination& combination, const Member& member, Two
 
 void search(const Member& member, TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes) {
   page.Combo7.clear();
-  std::optional<SequentialReader> history = openHistory(folder, join(member.gameFolder, member.file), boxes);
+  const std::string file = join(member.gameFolder, member.file);
+  std::optional<SequentialReader> history = openHistory(folder, file, boxes);
   if (!history) return;
   const auto marked = std::count_if(page.numbers.begin(), page.numbers.end(), isMarked);
   if (marked == 0 && !member.noneMarkedTitle.empty()) {
@@ -191,7 +192,7 @@ void search(const Member& member, TwoThreePage& page, const DataFolder& folder, 
     boxes.show({join(member.tooManyText, "\r\nPlease Retry."), std::string(member.tooManyTitle),
                 MessageBox::Icon::exclamation});
   } else if (const Combination* combination = chosenCombination(page.numbers)) {
-    searchCombination(*combination, member, page, *history);
+    readToEnd(file, boxes, [&] { searchCombination(*combination, member, page, *history); });
   }
 }
 
