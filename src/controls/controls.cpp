@@ -31,6 +31,12 @@ void ListBox::clear() {
   touch();
 }
 
+void ListBox::setEmphasis(std::vector<std::string> texts) {
+  std::erase(texts, "");
+  emphasis_ = std::move(texts);
+  touch();
+}
+
 void ComboBox::clear() {
   items_.clear();
   text_.clear();

@@ -124,7 +124,7 @@ class ListBox : public VisibleControl {
   /// Texts that a binding may emphasise in the items, for example the numbers searched for; clear() empties
   /// them.
   const std::vector<std::string>& emphasis() const { return emphasis_; }
-  void setEmphasis(std::vector<std::string> texts) { change(emphasis_, texts); }
+  void setEmphasis(std::vector<std::string> texts);
 
  private:
   TextLines items_;

@@ -74,6 +74,7 @@ std::string_view SequentialReader::cutField() {
     while (here != end && *here != ',' && !endsLine(*here)) ++here;
     last = here;
   }
+  endedByComma_ = here != end && *here == ',';
   if (here != end) {
     const bool returned = *here++ == '\r';
     if (returned && here != end && *here == '\n') ++here;
@@ -104,7 +105,7 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
     if (atEnd()) {
       if (isOpen()) return false;
       // The file ends behind a comma: what follows it is an empty field, as it is before a line end.
-      if (i > 0 && i + 1 == fieldCount && text_.back() == ',') {
+      if (i > 0 && i + 1 == fieldCount && endedByComma_) {
         cut_[i] = {position_ - recordBegin_, 0};
         continue;
       }

@@ -111,6 +111,7 @@ class SequentialReader {
   std::string name_;
   std::size_t position_ = 0;
   std::size_t recordBegin_ = 0;
+  bool endedByComma_ = false;
   std::size_t recordNumber_ = 0;
   RecordShapes shapes_;
   FieldPlaces cut_{};

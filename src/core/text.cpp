@@ -10,6 +10,17 @@ char lower(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
+/// The bytes that the first `characters` of `text` take up.
+std::size_t bytesOf(std::string_view text, std::size_t characters) {
+  const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
+  std::size_t bytes = 0;
+  for (; characters > 0 && bytes < text.size(); --characters) {
+    ++bytes;
+    while (bytes < text.size() && continues(text[bytes])) ++bytes;
+  }
+  return bytes;
+}
+
 }  // namespace
 
 std::string_view trimmed(std::string_view text) {
@@ -19,8 +30,8 @@ std::string_view trimmed(std::string_view text) {
 }
 
 std::string_view cut(std::string_view text, std::size_t position, std::size_t length) {
-  if (position == 0 || position > text.size()) return {};
-  return text.substr(position - 1, length);
+  const std::size_t begin = bytesOf(text, position - 1);
+  return text.substr(begin, length == std::string_view::npos ? length : bytesOf(text.substr(begin), length));
 }
 
 bool equalIgnoringCase(std::string_view left, std::string_view right) {

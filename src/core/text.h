@@ -26,7 +26,7 @@ std::string join(const Pieces&... pieces) {
 /// `text` without blanks at either end.
 std::string_view trimmed(std::string_view text);
 
-/// `length` characters from the 1-based `position`; what lies beyond the end is left out.
+/// `length` characters of the UTF-8 `text` from the 1-based `position`; what lies beyond the end is left out.
 std::string_view cut(std::string_view text, std::size_t position, std::size_t length);
 
 /// Whether two number texts are the same. Nearly all have two digits, and these cost neither a call nor a
