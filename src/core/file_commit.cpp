@@ -34,7 +34,9 @@ std::vector<fs::path> workFiles(const fs::path& folder) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     const std::string name = nameOf(entry->path());
-    if (isOwnWorkName(name) && !equalIgnoringCase(name, lockName)) found.push_back(entry->path());
+    std::error_code ignored;
+    if (!isOwnWorkName(name) || equalIgnoringCase(name, lockName) || entry->is_directory(ignored)) continue;
+    found.push_back(entry->path());
   }
   if (error) throw runtimeErrorFrom(error, folder);
   return found;
@@ -113,18 +115,15 @@ FileCommit::~FileCommit() {
 }
 
 void FileCommit::stage(std::string_view name, std::string_view contents) {
-  os::writeDurably(stageByCaller(name), contents);
-}
-
-fs::path FileCommit::stageByCaller(std::string_view name) {
   names_.emplace_back(name);
-  return stagedPath(folder_, name);
+  os::writeDurably(stagedPath(folder_, name), contents);
 }
 
 void FileCommit::commit() {
   for (const std::string& name : names_) {
     const fs::path staged = stagedPath(folder_, name);
     if (!stands(staged)) throw RuntimeError(ErrorNumber::fileNotFound, staged.string());
+    os::checkReplaceable(entryInAnyCase(folder_, name));
   }
   try {
     // The journal may name only what a cut of the power leaves standing.
@@ -136,7 +135,11 @@ void FileCommit::commit() {
     throw;
   }
   names_.clear();
-  os::removeDurably(folder_ / journalName);
+  try {
+    os::removeDurably(folder_ / journalName);
+  } catch (const RuntimeError&) {
+    // The change is made; a journal that stays has nothing left to take over.
+  }
 }
 
 /// While every staged file still stands, nothing has been taken over and the journal can go. It goes first:

@@ -40,9 +40,6 @@ class FileCommit {
   /// Stages new contents for the file `name`, in whatever letter case it stands in the folder.
   void stage(std::string_view name, std::string_view contents);
 
-  /// Where the caller itself is to write the new file `name`, which it closes and has synced before commit().
-  std::filesystem::path stageByCaller(std::string_view name);
-
   /// Takes over the staged files in the order in which they were staged. Where it fails, everything is as
   /// before or, once a name has been taken over, finished by the next one who takes the folder's lock.
   void commit();

@@ -59,10 +59,15 @@ void syncFile(const std::filesystem::path& file);
 /// Gives `from` the name `to` in one step, whether or not `to` stands, and waits until the folder knows it.
 void takeName(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// Raises a RuntimeError where takeName() could not take over from `file`: a folder, or a file that may not
+/// be changed. A missing file can be replaced.
+void checkReplaceable(const std::filesystem::path& file);
+
 /// Removes `file` where it stands and waits until the folder knows it. A missing file is no error.
 void removeDurably(const std::filesystem::path& file);
 
-/// An exclusive lock on a lock file, released when it goes or when its holder dies. The lock file goes with it.
+/// An exclusive lock on a lock file, released when it goes or when its holder dies. The lock file goes with
+/// it.
 class FileLock {
  public:
   enum class Wait { no, yes };

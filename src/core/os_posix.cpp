@@ -174,6 +174,14 @@ void takeName(const fs::path& from, const fs::path& to) {
   syncFolderOf(to);
 }
 
+void checkReplaceable(const fs::path& file) {
+  std::error_code ignored;
+  if (fs::is_directory(file, ignored)) fail(EISDIR, file);
+  // A file without the right to write can be replaced all the same; one that is locked against changes
+  // cannot.
+  if (::access(file.c_str(), W_OK) != 0 && (errno == EPERM || errno == EROFS)) fail(errno, file);
+}
+
 void removeDurably(const fs::path& file) {
   if (::unlink(file.c_str()) != 0) {
     if (errno == ENOENT) return;

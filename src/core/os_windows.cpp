@@ -171,6 +171,15 @@ void takeName(const fs::path& from, const fs::path& to) {
   }
 }
 
+void checkReplaceable(const fs::path& file) {
+  const DWORD attributes = ::GetFileAttributesW(file.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return;
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    throw RuntimeError(ErrorNumber::pathFileAccess, file.string());
+  }
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED, file);
+}
+
 void removeDurably(const fs::path& file) {
   if (::DeleteFileW(file.c_str()) == 0) {
     const DWORD error = ::GetLastError();

@@ -52,21 +52,7 @@ TEST_F(FileCommits, WhatIsNotCommittedLeavesNoTrace) {
   EXPECT_EQ(files(), "A=old ");
 }
 
-TEST_F(FileCommits, AFailureBeforeTheFirstFileIsTakenOverLeavesEverythingAsBefore) {
-  fs::create_directories(folder / "A" / "in the way");
-  put("B", "old");
-  {
-    FileCommit change(folder);
-    change.stage("A", "new");
-    change.stage("B", "new");
-    EXPECT_THROW(change.commit(), RuntimeError);
-  }
-  EXPECT_EQ(files(), "B=old ");
-  recoverFolder(folder);
-  EXPECT_EQ(files(), "B=old ");
-}
-
-TEST_F(FileCommits, AFailureAfterwardsIsFinishedByTheNextOneWhoLocksTheFolder) {
+TEST_F(FileCommits, WhatCannotBeReplacedStopsTheChangeBeforeItBegins) {
   put("A", "old");
   fs::create_directories(folder / "B" / "in the way");
   {
@@ -75,7 +61,17 @@ TEST_F(FileCommits, AFailureAfterwardsIsFinishedByTheNextOneWhoLocksTheFolder) {
     change.stage("B", "new");
     EXPECT_THROW(change.commit(), RuntimeError);
   }
-  EXPECT_THROW(lockFolder(folder), RuntimeError) << "it still cannot be finished";
+  lockFolder(folder);
+  fs::remove_all(folder / "B");
+  EXPECT_EQ(files(), "A=old ");
+}
+
+TEST_F(FileCommits, AFailureAfterwardsIsFinishedByTheNextOneWhoLocksTheFolder) {
+  put("A.tw~", "new");
+  put("B.tw~", "new");
+  put(std::string(journalName), "tallywick-journal 1\nA\nB\n/\n");
+  fs::create_directories(folder / "B" / "in the way");
+  EXPECT_THROW(lockFolder(folder), RuntimeError) << "it cannot be finished yet";
   fs::remove_all(folder / "B");
   lockFolder(folder);
   EXPECT_EQ(files(), "A=new B=new ");
@@ -85,7 +81,8 @@ TEST_F(FileCommits, AStagedFileThatIsGoneStopsTheChange) {
   put("A", "old");
   FileCommit change(folder);
   change.stage("A", "new");
-  change.stageByCaller("B");
+  change.stage("B", "new");
+  fs::remove(folder / "B.tw~");
   EXPECT_THROW(change.commit(), RuntimeError);
   EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/A"), "old");
 }
