@@ -51,8 +51,12 @@ std::string textOf(const std::vector<Play>& plays) {
 
 /// The dates of the draws for which the plays are entered: the first play's, and the draw days after it.
 std::vector<std::string> drawDates(const SelectionForm& form, const std::vector<Play>& plays, int draws) {
-  if (plays.empty()) return {};
-  return drawDatesFrom(form.surroundings.folder, form.rules.drawDays, plays.front().date, draws);
+  const DataFolder& folder = form.surroundings.folder;
+  if (plays.empty()) {
+    requireCalendar(folder);
+    return {};
+  }
+  return drawDatesFrom(folder, form.rules.drawDays, plays.front().date, draws);
 }
 
 /// Replaces the committed plays, empties the current ones and keeps the copy, all three or none.
@@ -60,6 +64,7 @@ Committed commit(const SelectionForm& form, int draws) {
   const DataFolder& folder = form.surroundings.folder;
   FileCommit files(gameFolder(form));
   const PlayFile current(folder, playFilePath(form, PlaySlot::current));
+  if (current.empty() && !form.Combo1.items().empty()) throw PlaysGone();
   std::vector<std::string> dates;
   std::vector<Play> plays = current.plays();
   if (draws > 1) {
@@ -72,7 +77,10 @@ Committed commit(const SelectionForm& form, int draws) {
   files.stage(playFileName(form.game, PlaySlot::current), {});
   files.stage(saveFileName(form.game, PlaySlot::committed), text);
   files.commit();
-  if (draws > 1) os::removeDurably(folder.resolve(playFilePath(form, PlaySlot::multiDraw)));
+  if (draws > 1) {
+    std::error_code ignored;  // the plays are committed; a work file that stays is in nobody's way
+    std::filesystem::remove(folder.resolve(playFilePath(form, PlaySlot::multiDraw)), ignored);
+  }
   return summaryOf(plays);
 }
 
@@ -89,9 +97,11 @@ void showCommitted(StatusBar& bar, const Committed& committed) {
 void Command5_Click(SelectionForm& form) {
   Committed committed;
   const int draws = drawCountOf(form.Label1.caption());
+  // Read first: once the plays are committed nothing may fail any more.
+  const PlayFile history(form.surroundings.folder, playFilePath(form, PlaySlot::played));
   if (!entered(form, [&] { committed = commit(form, draws); })) return;
   form.closeForPlays();
-  showHistory(form);
+  showHistory(form, history);
   showCommitted(form.StatusBar1, committed);
 }
 

@@ -52,6 +52,10 @@ Now readClock(const Clock& clock) {
 
 }  // namespace
 
+void requireCalendar(const DataFolder& folder) {
+  lookUp(folder, [](const Calendar&) { return true; });
+}
+
 std::string drawDateOfPlayMadeNow(const DataFolder& folder, const Clock& clock, std::string_view drawDays) {
   const Now now = readClock(clock);
   return lookUp(folder, [&](Calendar& calendar) {

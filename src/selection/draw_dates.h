@@ -17,6 +17,9 @@ class CalendarGap : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// Raises CalendarGap where the calendar is missing.
+void requireCalendar(const DataFolder& folder);
+
 /// The draw for which a play made now is entered: today's up to 18:00:00 on a draw day, the next one
 /// otherwise. Raises CalendarGap.
 std::string drawDateOfPlayMadeNow(const DataFolder& folder, const Clock& clock, std::string_view drawDays);

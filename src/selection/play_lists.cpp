@@ -40,14 +40,12 @@ void showNextPlays(SelectionForm& form) {
   }
 }
 
-std::size_t showHistory(SelectionForm& form) {
-  const PlayFile history(form.surroundings.folder, playFilePath(form, PlaySlot::played));
+void showHistory(SelectionForm& form, const PlayFile& history) {
   form.Combo7.clear();
   for (const Play& play : history.plays()) {
     if (play.isListed()) list(form.Combo7, play);
   }
   form.Command60.setEnabled(!history.empty());
-  return history.plays().size();
 }
 
 void showSavedTexts(SelectionForm& form) {

@@ -3,12 +3,12 @@
 
 #include "core/games.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <string>
 
 namespace tallywick {
 
+class PlayFile;
 class SelectionForm;
 
 /// A play file of the window's game, as the handlers write its path.
@@ -23,9 +23,8 @@ void emptyCurrentPlays(SelectionForm& form);
 /// Lists the committed plays of the first record's draw date.
 void showNextPlays(SelectionForm& form);
 
-/// Lists the play history and lets it be replayed where it has a record. Tells how many records it has, those
-/// that are never listed among them.
-std::size_t showHistory(SelectionForm& form);
+/// Lists the play history and lets it be replayed where it has a record.
+void showHistory(SelectionForm& form, const PlayFile& history);
 
 void showSavedTexts(SelectionForm& form);
 

@@ -114,7 +114,9 @@ void append(SelectionForm& form, const Play& play) {
   const os::FileLock lock = lockFolder(gameFolder(form));
   const PlayFile current(folder, name);
   std::string text(current.text());
-  if (!text.empty() && text.back() != '\n') text.append("\r\n");
+  // A file that others have written may end without a line end.
+  if (text.ends_with(',')) text.pop_back();
+  if (!text.empty() && text.back() != '\n' && text.back() != '\r') text.append("\r\n");
   appendRecord(text, play);
   replaceFile(folder.resolve(name), text);
 

@@ -1,5 +1,6 @@
 #include "selection/selection_form.h"
 
+#include "core/plays.h"
 #include "core/text.h"
 #include "selection/draw_count.h"
 #include "selection/marks.h"
@@ -8,6 +9,23 @@
 #include "selection/selection_handlers.h"
 
 namespace tallywick {
+
+namespace {
+
+/// Drops the plays that were selected and not committed. False where another program is at the play files.
+bool emptied(SelectionForm& form) {
+  try {
+    emptyCurrentPlays(form);
+    return true;
+  } catch (const LockedByAnother&) {
+    form.surroundings.boxes.show(
+        {"Another program is changing the play files. Please open the play selection again in a moment.",
+         std::string(programTitle), MessageBox::Icon::exclamation});
+    return false;
+  }
+}
+
+}  // namespace
 
 SelectionForm::SelectionForm(const GameInfo& gameInfo, SelectionSurroundings around)
     : Form(std::string(selectionRulesOf(gameInfo.game).form)),
@@ -61,7 +79,7 @@ void SelectionForm::wire() {
   Command7.onClick = [this] { Command7_Click(*this); };
 }
 
-void SelectionForm::load() {
+bool SelectionForm::load() {
   unmarkAll(*this);
   Command59.setBackColor(colors::threeDLight);
   Command59.hide();
@@ -71,17 +89,17 @@ void SelectionForm::load() {
   for (Button* action : {&Command59, &Command9, &Command5, &Command84, &Command7}) action->setEnabled(true);
   for (Button* waiting : {&Command1, &Command4}) waiting->setEnabled(false);
 
-  if (!entered(*this, [this] { emptyCurrentPlays(*this); })) {
-    closeForPlays();
-    Command60.setEnabled(false);
-    return;
-  }
+  const bool isOpen = emptied(*this);
+  if (!isOpen) closeForPlays();
   showNextPlays(*this);
-  const std::size_t played = showHistory(*this);
+  const PlayFile history(surroundings.folder, playFilePath(*this, PlaySlot::played));
+  showHistory(*this, history);
   showSavedTexts(*this);
+  const std::size_t played = history.plays().size();
   StatusBar1.setPanel(1, played == 0 ? "" : join(":    ", std::to_string(played)));
   StatusBar1.setPanel(2, "");
   StatusBar1.setPanel(3, "");
+  return isOpen;
 }
 
 void SelectionForm::closeForPlays() {

@@ -28,8 +28,10 @@ class SelectionForm : public Form {
   /// to come.
   SelectionForm(const GameInfo& game, SelectionSurroundings surroundings);
 
-  /// What opening the window does: empties the current selections and fills the lists.
-  void load();
+  /// What opening the window does: empties the current selections and fills the lists. False where another
+  /// program is changing the play files: the player has been told, the selections stay and the window takes
+  /// no plays.
+  bool load();
 
   /// Lets the window accept no further plays until it is opened again.
   void closeForPlays();
