@@ -10,22 +10,6 @@
 
 namespace tallywick {
 
-namespace {
-
-/// What a crash cut short is finished before anything is read. Where it cannot be, the next action on the
-/// folder tries again and tells.
-void recover(const DataFolder& folder) {
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
-    try {
-      recoverFolder(folder.resolve(game->folder));
-    } catch (const std::exception&) {
-      continue;
-    }
-  }
-}
-
-}  // namespace
-
 Application::Application(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
 void Application::showSplash() {
@@ -40,12 +24,23 @@ void Application::splashTimer() {
 }
 
 void Application::showMainWindow() {
-  recover(surroundings_.folder);
+  recover();
   auto form = std::make_unique<MainForm>();
   startUp(*form, surroundings_.folder);
   main_ = form.get();
   wireMainWindow();
   open(std::move(form));
+}
+
+/// Where it cannot be finished now, the next action on the folder tries again and tells.
+void Application::recover() const {
+  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    try {
+      recoverFolder(surroundings_.folder.resolve(game->folder));
+    } catch (const std::exception&) {
+      continue;
+    }
+  }
 }
 
 std::vector<Form*> Application::windows() const {
@@ -78,8 +73,10 @@ void Application::openSelection(const GameInfo& game) {
   const Surroundings& around = surroundings_;
   auto window = std::make_unique<SelectionForm>(
       game, SelectionSurroundings{around.folder, around.clock, around.random, around.platform});
-  if (const Form* old = find(window->name())) close(*old);
-  window->load();
+  const Form* old = find(window->name());
+  // While another program is at the play files, the open window keeps the plays selected in it.
+  if (!window->load() && old != nullptr) return;
+  if (old != nullptr) close(*old);
   open(std::move(window));
 }
 

@@ -59,7 +59,10 @@ class Application {
  private:
   template <typename Window>
   Window& open(std::unique_ptr<Window> window);
+  /// Finishes what a crash, of this program or of another on the same folder, cut short.
+  void recover() const;
   void wireMainWindow();
+  void recoverBeforeEachAction();
   void wireMenus();
   void wireSearches();
   void wireDisplays();

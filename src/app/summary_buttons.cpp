@@ -48,7 +48,6 @@ void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game)
 
 void showDoublePlayDisplay(MainForm& form, const DataFolder& folder) {
   showGameFrame(form.frames, form.frames.Frame6);
-  nameSelection(form.bar.Command48, powerBall);
   showDoublePlay(form.summary, folder);
   fillDoublePlayLists(form.search, folder);
   setSearchCaptions(form.search, newestNumbers(form.summary));
@@ -67,16 +66,16 @@ void switchGame(MainForm& form) {
 }  // namespace
 
 void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes) {
+  const bool showedMegaMillions = form.menu.mnuMegaMillions3.enabled();
   layOut(form, powerBall);
   if (form.updateHiddenByGameSwitch) form.update.Command2.show();
   form.updateHiddenByGameSwitch = false;
   const MessageBox question = {"Display PowerBall Double Play Information  ?", "TALLYWICK SOFTWARE",
                                MessageBox::Icon::question, MessageBox::Buttons::yesNo};
-  if (boxes.show(question) == MessageBox::Answer::yes) {
-    showDoublePlayDisplay(form, folder);
-  } else {
-    showSummary(form, folder, powerBall);
-  }
+  const bool doublePlay = boxes.show(question) == MessageBox::Answer::yes;
+  // Double Play fills a part of the pages; the rest is PowerBall's and may not stay another game's.
+  if (!doublePlay || showedMegaMillions) showSummary(form, folder, powerBall);
+  if (doublePlay) showDoublePlayDisplay(form, folder);
 }
 
 void Command4_Click(MainForm& form, const DataFolder& folder) {

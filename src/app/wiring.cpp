@@ -5,6 +5,9 @@
 #include "update/curl_transfer.h"
 #include "update/maintenance.h"
 
+#include <functional>
+#include <utility>
+
 namespace tallywick {
 
 void Application::wireMainWindow() {
@@ -31,6 +34,21 @@ void Application::wireMainWindow() {
   wireMenus();
   wireSearches();
   wireDisplays();
+  recoverBeforeEachAction();
+}
+
+void Application::recoverBeforeEachAction() {
+  const auto guard = [this](std::function<void()>& onClick) {
+    if (!onClick) return;
+    onClick = [this, action = std::move(onClick)] {
+      recover();
+      action();
+    };
+  };
+  for (Control* control : main_->controls()) {
+    if (auto* button = dynamic_cast<Button*>(control)) guard(button->onClick);
+    if (auto* entry = dynamic_cast<MenuEntry*>(control)) guard(entry->onClick);
+  }
 }
 
 void Application::wireMenus() {

@@ -125,6 +125,18 @@ TEST(DoublePlay, StandsInThePlaceOfPowerBallUntilTheNextSummary) {
   EXPECT_EQ(visibleGameFrames(form.frames), "Frame4 ");
 }
 
+TEST(DoublePlay, LeavesNothingOfMegaMillionsBehind) {
+  ApplicationTest test;
+  MainForm& form = test.start();
+  test.press("mnuMegaMillions");
+  test.platform.boxes.answers = {MessageBox::Answer::yes};
+  test.press("mnuPowerBall");
+  EXPECT_EQ(form.summary.List1.items()[0], " 12-28-2026    01 02 03 04 05   01  *  40");
+  EXPECT_EQ(form.summary.Label16.caption(), "PowerBall Double Play Display");
+  EXPECT_EQ(form.bar.Command48.caption(), "PowerBall Play Selection");
+  EXPECT_EQ(form.search.havePlayedPlays.Combo8.items().size(), 2U);
+}
+
 TEST(Windows, OneSelectionWindowAGameAndTheMainWindowEndsEverything) {
   ApplicationTest test;
   const MainForm& form = test.start();
@@ -192,7 +204,13 @@ TEST(Recovery, RunsBeforeAnythingIsRead) {
   const std::string folder = "QzrNumbers/QZR6PWR/";
   test.scratch.write(folder + "QZRNUM6.Dat.tw~", test::dailyDraws(120, "\"2\"", 2030));
   test.scratch.write(folder + "TALLYWICK.JNL", "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
-  EXPECT_EQ(test.start().summary.List1.items()[0].substr(0, 11), " 12-28-2030");
+  const MainForm& form = test.start();
+  EXPECT_EQ(form.summary.List1.items()[0].substr(0, 11), " 12-28-2030");
+
+  test.scratch.write(folder + "QZRNUM6.Dat.tw~", test::dailyDraws(120, "\"2\"", 2040));
+  test.scratch.write(folder + "TALLYWICK.JNL", "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
+  test.press("Command7");
+  EXPECT_EQ(form.summary.List1.items()[0].substr(0, 11), " 12-28-2040") << "left by another program since";
 }
 
 }  // namespace
