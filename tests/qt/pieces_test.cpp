@@ -52,7 +52,9 @@ TEST(Lists, CopyTheLinesThatAreSelected) {
     lines.add(line);
   LineList list(lines);
   addLineActions(list);
+  list.resize(300, 200);
   list.show();
+  QCoreApplication::processEvents();
   list.setCurrentIndex(list.model()->index(0, 0));
   QTest::keyClick(&list, Qt::Key_Down);
   QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
