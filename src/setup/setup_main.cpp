@@ -1,0 +1,8 @@
+// tallywick-setup: makes a data folder or an update server's tree.
+#include "setup/setup_program.h"
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+  return tallywick::setup::runSetup(argc, argv, std::cout, std::cerr);
+}
