@@ -108,5 +108,28 @@ TEST_F(Windows, ASecondStartOnTheFolderIsTold) {
   EXPECT_TRUE(boxText.contains(QStringLiteral("is already open")));
 }
 
+TEST_F(Windows, AFirstStartOffersTheLastFolderOrToMakeOne) {
+  const std::filesystem::path missing = scratch.root() / "nowhere";
+  const auto answer = [&](const char* button) {
+    QTimer::singleShot(0, [this, button] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      boxText = box->text();
+      for (QAbstractButton* each : box->buttons()) {
+        if (each->text() == QString::fromLatin1(button)) each->click();
+      }
+    });
+  };
+  // Opened once, the folder is the last one.
+  EXPECT_EQ(findDataFolder(scratch.root().string(), Offer::yes), scratch.root());
+  answer("Open the &Last One");
+  EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), scratch.root());
+  EXPECT_TRUE(boxText.contains(QString::fromStdString(missing.string())));
+  answer("&Quit");
+  EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), std::nullopt);
+  EXPECT_EQ(findDataFolder(missing.string(), Offer::no), std::nullopt);
+  EXPECT_FALSE(std::filesystem::exists(missing));
+}
+
 }  // namespace
 }  // namespace tallywick::test

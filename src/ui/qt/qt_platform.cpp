@@ -73,7 +73,7 @@ void QtPlatform::run(const std::function<void()>& handler) {
     handler();
     showChanges();
   } catch (const RuntimeError& error) {
-    endWithError(error.boxText(), error.where());
+    endWithError(error.boxText(), error.what());
   } catch (const std::exception& error) {
     endWithError(error.what(), error.what());
   }
@@ -165,8 +165,8 @@ void QtPlatform::end(int exitCode) {
   if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit(exitCode);
 }
 
-void QtPlatform::endWithError(const std::string& text, const std::string& where) {
-  std::cerr << "tallywick: " << where << std::endl;
+void QtPlatform::endWithError(const std::string& text, const std::string& whatAndWhere) {
+  std::cerr << "tallywick: " << whatAndWhere << std::endl;
   show({text, std::string(programTitle), MessageBox::Icon::exclamation});
   for (FormWindow* window : windows_) window->keepLayout();
   end(1);

@@ -45,7 +45,7 @@ class QtPlatform : public Platform, public HandlerRunner {
  private:
   void showChanges();
   void end(int exitCode);
-  void endWithError(const std::string& text, const std::string& where);
+  void endWithError(const std::string& text, const std::string& whatAndWhere);
 
   const DataFolder& folder_;
   std::vector<FormWindow*> windows_;

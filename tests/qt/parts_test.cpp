@@ -1,0 +1,112 @@
+// Balls that everybody can read, and lists that find, emphasise and hold many lines.
+#include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/parts/line_text.h"
+#include "ui/qt/parts/theme.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace tallywick::test {
+namespace {
+
+const Color ballColors_[] = {colors::buttonFace, colors::threeDLight, colors::cyan,
+                             colors::magenta,    colors::red,         colors::lightBlue,
+                             colors::green,      colors::yellow,      colors::lightCyan};
+
+QPalette palette(bool dark) {
+  return dark ? QPalette(QColor(60, 60, 64), QColor(45, 45, 48)) : QPalette(QColor(239, 239, 239));
+}
+
+BallLook lookOf(Color color) {
+  BallLook look;
+  look.number = QStringLiteral("27");
+  if (color.kind == Color::Kind::rgb) look.fill = theme::toQColor(color, palette(false));
+  look.mark = markOf(color);
+  look.dots = repeatOf(color);
+  return look;
+}
+
+QImage imageOf(const BallLook& look, const QPalette& colors) {
+  QImage image(40, 40, QImage::Format_Grayscale8);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  paintBall(painter, image.rect(), look, colors);
+  return image;
+}
+
+TEST(Balls, HaveReadableNumbersInEveryColourLightAndDark) {
+  for (const bool dark : {false, true}) {
+    ASSERT_EQ(theme::isDark(palette(dark)), dark);
+    for (const Color color : ballColors_) {
+      BallLook look = lookOf(color);
+      for (const bool pressed : {false, true}) {
+        look.pressed = pressed;
+        const BallColors painted = ballColors(look, palette(dark));
+        EXPECT_GE(theme::contrast(painted.text, painted.ground), theme::textContrast)
+            << color.text() << dark << pressed;
+      }
+      const BallColors painted = ballColors(look, palette(dark));
+      EXPECT_GE(theme::contrast(painted.outline, palette(dark).color(QPalette::Window)), theme::shapeContrast)
+          << color.text() << dark;
+    }
+  }
+}
+
+TEST(Balls, AreToldApartWithoutTheirColours) {
+  std::vector<QImage> images;
+  for (Color color : {colors::buttonFace, colors::cyan, colors::magenta, colors::red, colors::lightBlue,
+                      colors::green, colors::yellow, colors::lightCyan}) {
+    BallLook look = lookOf(color);
+    look.fill = Qt::lightGray;
+    const QImage image = imageOf(look, palette(false));
+    EXPECT_FALSE(std::find(images.begin(), images.end(), image) != images.end()) << color.text();
+    images.push_back(image);
+  }
+}
+
+TEST(Balls, SayWhatTheirColourMeans) {
+  BallButton ball;
+  ball.setCaption(QStringLiteral("07"));
+  std::set<QString> names;
+  for (const Color color :
+       {colors::buttonFace, colors::cyan, colors::magenta, colors::red, colors::lightCyan}) {
+    ball.setColor(color);
+    names.insert(ball.accessibleName());
+    EXPECT_TRUE(ball.accessibleName().contains(QStringLiteral("07")));
+  }
+  EXPECT_EQ(names.size(), 5U);
+}
+
+TEST(LineTexts, EmphasiseWholeFieldsOnly) {
+  EXPECT_THAT(emphasisedRuns(" 11-06-2026    06 08 30 51 55   13", {"06", "13"}),
+              testing::ElementsAre(TextRun{15, 2}, TextRun{32, 2}));
+  EXPECT_THAT(emphasisedRuns(" 06 106 6", {"6"}), testing::ElementsAre(TextRun{8, 1}));
+}
+
+TEST(LineTexts, QuoteWhatCommasWouldPart) {
+  EXPECT_EQ(csvLine("  11-18-2026   06  * "), "11-18-2026,06,*");
+  EXPECT_EQ(csvLine(" 06, \"x\" "), "\"06,\",\"\"\"x\"\"\"");
+}
+
+TEST(LineLists, FindADateThatIsTyped) {
+  TextLines lines;
+  for (const char* line :
+       {" 11-18-2026    06", " 11-16-2026    05", " 10-31-2026    11", " 10-28-2026    36"})
+    lines.add(line);
+  LineList list(lines);
+  QTest::keyClicks(&list, QStringLiteral("10-2"));
+  EXPECT_EQ(list.currentIndex().row(), 3);
+  list.keyboardSearch(QString());
+  TextLines none;
+  LineList empty(none);
+  QTest::keyClicks(&empty, QStringLiteral("1"));
+  EXPECT_FALSE(empty.currentIndex().isValid());
+}
+
+}  // namespace
+}  // namespace tallywick::test
