@@ -38,9 +38,9 @@ TEST_P(EveryWindow, HasOneNamedWidgetForEachControl) {
   }
 }
 
-class Binding_ : public Desktop {};
+class Bindings : public Desktop {};
 
-TEST_F(Binding_, NamesAControlThatNoWidgetShows) {
+TEST_F(Bindings, NamesAControlThatNoWidgetShows) {
   SplashForm form;
   const Label forgotten(form, "lblForgotten");
   Desk desk = {platform, scratch.folder(), {}, {}, {}};
@@ -52,7 +52,7 @@ TEST_F(Binding_, NamesAControlThatNoWidgetShows) {
   }
 }
 
-TEST_F(Binding_, ShowsWhatAHandlerChanges) {
+TEST_F(Bindings, ShowsWhatAHandlerChanges) {
   open("Form1");
   auto& form = static_cast<MainForm&>(*application.find("Form1"));
   platform.run([&] {
@@ -71,7 +71,7 @@ TEST_F(Binding_, ShowsWhatAHandlerChanges) {
   EXPECT_EQ(widget<QComboBox>("Form1", "Combo4").count(), 1);
 }
 
-TEST_F(Binding_, TakesChosenAndTypedTextsAndTabs) {
+TEST_F(Bindings, TakesChosenAndTypedTextsAndTabs) {
   open("Form1");
   auto& form = static_cast<MainForm&>(*application.find("Form1"));
   ComboBox& combo = form.search.twoThree.Combo4;
@@ -94,7 +94,7 @@ TEST_F(Binding_, TakesChosenAndTypedTextsAndTabs) {
   EXPECT_EQ(form.bar.SSTab1.tab(), 3);
 }
 
-TEST_F(Binding_, OpensAMillionLinesAtOnce) {
+TEST_F(Bindings, OpensAMillionLinesAtOnce) {
   open("Form1").show();
   auto& form = static_cast<MainForm&>(*application.find("Form1"));
   for (int i = 0; i < 1'000'000; ++i) {
@@ -105,6 +105,7 @@ TEST_F(Binding_, OpensAMillionLinesAtOnce) {
   time.start();
   platform.refresh();
   widget<LineList>("Form1", "List4").scrollToBottom();
+  widget<Picker>("Form1", "Combo4").showPopup();
   platform.refresh();
   EXPECT_LT(time.elapsed(), 100);
   EXPECT_EQ(widget<LineList>("Form1", "List4").model()->rowCount(), 1'000'000);

@@ -2,6 +2,7 @@
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"
 #include "ui/qt/first_start.h"
+#include "ui/qt/help.h"
 #include "ui/qt/layout_memory.h"
 
 #include <QLabel>
@@ -106,6 +107,22 @@ TEST_F(Windows, ASecondStartOnTheFolderIsTold) {
   answerNextBox(QMessageBox::Ok);
   EXPECT_FALSE(holdDataFolder(scratch.root()).has_value());
   EXPECT_TRUE(boxText.contains(QStringLiteral("is already open")));
+}
+
+TEST_F(Windows, TheCompiledHelpOpensWhereThereIsAViewer) {
+  namespace fs = std::filesystem;
+  const fs::path viewer = scratch.root() / "kchmviewer";
+  const fs::path seen = scratch.root() / "seen";
+  std::ofstream(viewer) << "#!/bin/sh\necho \"$1\" >" << seen << ".new; mv " << seen << ".new " << seen
+                        << "\n";
+  fs::permissions(viewer, fs::perms::owner_all);
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(scratch.root().string()) + ':' + path);
+  scratch.write("QZRHELP.CHM", "");
+  openHelp(scratch.folder(), QStringLiteral("index.html"));
+  for (int wait = 0; wait < 100 && !fs::exists(seen); ++wait) QTest::qWait(20);
+  EXPECT_EQ(scratch.read("seen"), (scratch.root() / "QZRHELP.CHM").string() + "\n");
+  qputenv("PATH", path);
 }
 
 TEST_F(Windows, AFirstStartOffersTheLastFolderOrToMakeOne) {

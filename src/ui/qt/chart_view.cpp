@@ -3,10 +3,8 @@
 #include "ui/qt/layouts.h"
 #include "ui/qt/wording.h"
 
-#include <QContextMenuEvent>
+#include <QAction>
 #include <QFileDialog>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -36,6 +34,7 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(t
   plot_->xAxis->grid()->setVisible(false);
   plot_->xAxis->setSubTicks(false);
   plot_->yAxis->setSubTicks(false);
+  addActions();
   draw();
 }
 
@@ -114,23 +113,18 @@ void ChartView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
-void ChartView::contextMenuEvent(QContextMenuEvent* event) {
-  showMenu(event->globalPos());
-}
-
-void ChartView::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Save)) {
-    saveAsPicture();
-  } else {
-    QWidget::keyPressEvent(event);
+void ChartView::addActions() {
+  auto* save = new QAction(u"&Save as Picture…"_s, this);
+  save->setShortcut(QKeySequence::Save);
+  connect(save, &QAction::triggered, this, &ChartView::saveAsPicture);
+  auto* paper = new QAction(u"&Print…"_s, this);
+  paper->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+  connect(paper, &QAction::triggered, this, &ChartView::print);
+  for (QAction* action : {save, paper}) {
+    action->setShortcutContext(Qt::WidgetShortcut);
+    addAction(action);
   }
-}
-
-void ChartView::showMenu(const QPoint& at) {
-  QMenu menu;
-  menu.addAction(u"&Save as Picture…"_s, this, &ChartView::saveAsPicture);
-  menu.addAction(u"&Print…"_s, this, &ChartView::print);
-  menu.exec(at);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void ChartView::saveAsPicture() {

@@ -20,14 +20,12 @@ class ChartView : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void draw();
   void addBar(int place, const Chart::Bar& bar);
   void colorAxes();
-  void showMenu(const QPoint& at);
+  void addActions();
   void saveAsPicture();
   void print();
 

@@ -43,7 +43,6 @@ void nameProgram(bool takesPicture) {
   // A picture shows the usual layout, whatever the user's own is.
   QCoreApplication::setApplicationName(takesPicture ? u"tallywick-picture"_s : u"tallywick"_s);
   QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
-  QGuiApplication::setApplicationDisplayName(QString());
   QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
   // The model tells when the program ends.
   QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -72,10 +72,8 @@ void QtPlatform::run(const std::function<void()>& handler) {
   try {
     handler();
     showChanges();
-  } catch (const RuntimeError& error) {
-    endWithError(error.boxText(), error.what());
-  } catch (const std::exception& error) {
-    endWithError(error.what(), error.what());
+  } catch (...) {
+    endWithError(currentRuntimeError());
   }
 }
 
@@ -165,9 +163,9 @@ void QtPlatform::end(int exitCode) {
   if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit(exitCode);
 }
 
-void QtPlatform::endWithError(const std::string& text, const std::string& whatAndWhere) {
-  std::cerr << "tallywick: " << whatAndWhere << std::endl;
-  show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+void QtPlatform::endWithError(const RuntimeError& error) {
+  std::cerr << "tallywick: " << error.what() << std::endl;
+  show({error.boxText(), std::string(programTitle), MessageBox::Icon::exclamation});
   for (FormWindow* window : windows_) window->keepLayout();
   end(1);
 }

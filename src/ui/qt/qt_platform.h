@@ -11,6 +11,8 @@
 
 namespace tallywick {
 
+class RuntimeError;
+
 class QtPlatform : public Platform, public HandlerRunner {
  public:
   explicit QtPlatform(const DataFolder& folder);
@@ -45,7 +47,7 @@ class QtPlatform : public Platform, public HandlerRunner {
  private:
   void showChanges();
   void end(int exitCode);
-  void endWithError(const std::string& text, const std::string& whatAndWhere);
+  void endWithError(const RuntimeError& error);
 
   const DataFolder& folder_;
   std::vector<FormWindow*> windows_;
