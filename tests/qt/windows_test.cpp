@@ -146,6 +146,9 @@ TEST_F(Windows, AFirstStartOffersTheLastFolderOrToMakeOne) {
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), std::nullopt);
   EXPECT_EQ(findDataFolder(missing.string(), Offer::no), std::nullopt);
   EXPECT_FALSE(std::filesystem::exists(missing));
+  answer("&Make One with Samples");
+  EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), missing);
+  EXPECT_TRUE(DataFolder(missing).exists(R"(QzrNumbers\QZR6MEG\QZRNUM6.Dat)"));
 }
 
 }  // namespace

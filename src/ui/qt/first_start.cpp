@@ -3,13 +3,14 @@
 #include "app/data_folder_choice.h"
 #include "controls/surroundings.h"
 #include "core/file_commit.h"
+#include "core/random.h"
 #include "core/runtime_error.h"
+#include "setup/new_folder.h"
 #include "ui/qt/wording.h"
 
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <iostream>
@@ -38,13 +39,16 @@ void tell(const QString& text) {
 }
 
 bool makeSample(const fs::path& folder) {
-  const fs::path self = os::programFile();
-  const fs::path setup = (self.parent_path() / "tallywick-setup").replace_extension(self.extension());
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const bool made = QProcess::execute(shown(setup), {shown(folder)}) == 0;
+  QString failure;
+  try {
+    setup::makeSampleFolder(folder, entropy());
+  } catch (const std::exception& error) {
+    failure = QString::fromUtf8(error.what());
+  }
   QGuiApplication::restoreOverrideCursor();
-  if (!made) tell(u"The record book in %1 could not be made."_s.arg(shown(folder)));
-  return made;
+  if (!failure.isEmpty()) tell(u"The record book in %1 could not be made: %2"_s.arg(shown(folder), failure));
+  return failure.isEmpty();
 }
 
 /// A record book that the user points at; nothing where it is none.
