@@ -158,8 +158,10 @@ void FileCommit::takeBack() noexcept {
 }
 
 void recoverFolder(const fs::path& folder) {
-  if (!stands(folder) || workFiles(folder).empty()) return;
-  const os::FileLock lock = lockFolder(folder);
+  if (!stands(folder) || (workFiles(folder).empty() && !stands(folder / lockName))) return;
+  // Who holds the lock is at work now and finishes what it finds; nobody has to wait for that.
+  const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);
+  finishCommit(folder);
 }
 
 }  // namespace tallywick

@@ -52,8 +52,8 @@ class FileCommit {
   std::vector<std::string> names_;
 };
 
-/// Finishes what was cut short, for the start of the program. Where there is nothing to finish it takes no
-/// lock, so that a folder that cannot be written is no error.
+/// Finishes what was cut short. Where there is nothing to finish it takes no lock, so that a folder that
+/// cannot be written is no error. Raises LockedByAnother at once where somebody is at work in the folder.
 void recoverFolder(const std::filesystem::path& folder);
 
 }  // namespace tallywick

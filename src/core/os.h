@@ -56,7 +56,8 @@ void syncFolder(const std::filesystem::path& folder);
 /// Waits until what was written to `file` by others (the transfer library) is on the disk.
 void syncFile(const std::filesystem::path& file);
 
-/// Gives `from` the name `to` in one step, whether or not `to` stands, and waits until the folder knows it.
+/// Gives `from` the name `to` in one step, whether or not `to` stands, with the access rights of an old `to`,
+/// and waits until the folder knows it.
 void takeName(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Raises a RuntimeError where takeName() could not take over from `file`: a folder, or a file that may not

@@ -170,6 +170,9 @@ void syncFile(const fs::path& file) {
 }
 
 void takeName(const fs::path& from, const fs::path& to) {
+  std::error_code ignored;
+  const fs::file_status old = fs::status(to, ignored);
+  if (fs::is_regular_file(old)) fs::permissions(from, old.permissions(), ignored);
   if (::rename(from.c_str(), to.c_str()) != 0) fail(errno, to);
   syncFolderOf(to);
 }

@@ -46,6 +46,14 @@ TEST_F(FileCommits, TakesOverAllFilesInWhateverCaseTheyStand) {
   EXPECT_EQ(files(), "Other=made qzr6pwr1.ply=new ");
 }
 
+TEST_F(FileCommits, AReplacedFileKeepsItsRights) {
+  put("A", "old");
+  const fs::perms mine = fs::perms::owner_read | fs::perms::owner_write;
+  fs::permissions(folder / "A", mine);
+  replaceFile(folder / "A", "new");
+  EXPECT_EQ(fs::status(folder / "A").permissions(), mine);
+}
+
 TEST_F(FileCommits, WhatIsNotCommittedLeavesNoTrace) {
   put("A", "old");
   FileCommit(folder).stage("A", "new");
