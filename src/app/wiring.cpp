@@ -150,6 +150,8 @@ TransferFactory Application::transferFactory() const {
 UpdateSurroundings Application::updateSurroundings() {
   MainForm& form = *main_;
   Platform& platform = surroundings_.platform;
+  // An update hides the button for good.
+  form.updateHiddenByGameSwitch = false;
   return {form.update,
           form.menu.mnuPowerBall2,
           form.menu.mnuMegaMillions2,
