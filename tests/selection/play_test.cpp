@@ -1,5 +1,6 @@
 // Select and Done: what is accepted, for which draw, and what the files hold afterwards.
 #include "core/file_commit.h"
+#include "core/plays.h"
 #include "selection/selection_fixture.h"
 
 namespace tallywick::test {
@@ -242,6 +243,30 @@ TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   EXPECT_EQ(get("7.Ply"), play);
   EXPECT_EQ(boxes.shown.size(), 2U);
   EXPECT_FALSE(form->Command9.enabled() || form->Command5.enabled() || form->Command60.enabled());
+}
+
+// Without this, Done would replace the committed plays by nothing while the window still shows the selected
+// ones.
+TEST_F(Selection, DoneTellsWhereAnotherProgramHasEmptiedTheCurrentPlays) {
+  open();
+  scratch.write(path("1.Ply"), "committed");
+  select("05 11 23 42 59", "26");
+  scratch.write(path("7.Ply"), "");
+  press("Command5");
+  EXPECT_THAT(boxes.only(), testing::HasSubstr("are gone from their file"));
+  EXPECT_EQ(get("1.Ply"), "committed");
+}
+
+TEST_F(Selection, SelectAppendsBehindWhateverEndsTheFile) {
+  const std::string record = R"("11-23-2026","01","02","03","04","05","06","5000000")";
+  for (const char* end : {"\r\n", "\n", "\r", "", ","}) {
+    open();
+    scratch.write(path("7.Ply"), record + end);
+    select("05 11 23 42 59", "26");
+    EXPECT_EQ(itemsOf(form->Combo1).size(), 2U) << end;
+    const PlayFile current(scratch.folder(), path("7.Ply"));
+    EXPECT_EQ(current.plays().at(1).main[0], "05") << end;
+  }
 }
 
 TEST_F(Selection, WhatACrashLeftBehindIsFinishedBeforeThePlaysAreRead) {
