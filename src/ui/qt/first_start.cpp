@@ -64,8 +64,8 @@ std::optional<fs::path> askForFolder() {
 std::optional<fs::path> offerFolder(const fs::path& folder, const fs::path& last) {
   QMessageBox box(
       QMessageBox::Question, toQString(programTitle),
-      u"There is no record book in %1 yet.\n\nA new one can begin with sample draws and plays, which "
-      u"the first update replaces."_s.arg(shown(folder)));
+      u"There is no record book in %1 yet.\n\nA new one begins with sample draws and plays; an update brings the real draws."_s
+          .arg(shown(folder)));
   box.setTextFormat(Qt::PlainText);
   const auto* make = box.addButton(u"&Make One with Samples"_s, QMessageBox::AcceptRole);
   const QAbstractButton* openLast = nullptr;

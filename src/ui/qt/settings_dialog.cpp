@@ -15,11 +15,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void addExplanation(QFormLayout& form, const QString& text, QWidget& field) {
-  auto* label = new QLabel(text);
-  label->setWordWrap(true);
-  form.addRow(QString(), label);
-  field.setAccessibleDescription(text);
+/// A field with its explanation close below it.
+void addField(QFormLayout& form, const QString& label, QWidget& field, const QString& explanation) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(theme::halfGap);
+  column->addWidget(&field);
+  auto* text = new QLabel(explanation);
+  text->setWordWrap(true);
+  column->addWidget(text);
+  auto* name = new QLabel(label);
+  name->setBuddy(&field);
+  form.addRow(name, column);
+  field.setAccessibleDescription(explanation);
 }
 
 }  // namespace
@@ -28,12 +35,12 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
     : QDialog(parent), tls_(new QCheckBox(u"Only with &encryption"_s)) {
   setWindowTitle(u"Settings"_s);
   auto* form = new QFormLayout;
-  form->setSpacing(theme::gap);
+  form->setHorizontalSpacing(theme::gap);
+  form->setVerticalSpacing(theme::pageMargin);
   server_ = addText(*form, u"&Update server:"_s, settings.server,
                     u"Its name or address, with a colon and a port where that is not 21."_s);
   tls_->setChecked(settings.tls == Settings::Tls::required);
-  form->addRow(QString(), tls_);
-  addExplanation(*form, u"Asks the server for TLS and sends no password without it."_s, *tls_);
+  addField(*form, QString(), *tls_, u"Asks the server for TLS and sends no password without it."_s);
   webSite_ = addText(*form, u"Web &site:"_s, settings.webSite,
                      u"The page about the games that the Help menu opens."_s);
   webHelp_ = addText(*form, u"Web &help:"_s, settings.webHelp, u"The help page that the Help menu opens."_s);
@@ -52,8 +59,7 @@ QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, cons
   auto* edit = new QLineEdit(toQString(value));
   // The settings file holds a value between quotes.
   edit->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[^\"]*"_s), edit));
-  form.addRow(label, edit);
-  addExplanation(form, explanation, *edit);
+  addField(form, label, *edit, explanation);
   return edit;
 }
 
