@@ -1,0 +1,144 @@
+#include "setup/publish.h"
+
+#include "core/data_folder.h"
+#include "core/draws.h"
+#include "core/file_commit.h"
+#include "core/games.h"
+#include "core/os.h"
+#include "core/runtime_error.h"
+#include "core/sequential_reader.h"
+#include "core/text.h"
+#include "core/winnings.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tallywick::setup {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Where the server keeps a game, below the drive's folder "QZR". The program spells both parts in two ways,
+/// the first with its update button, the second from its menus.
+struct ServerFolder {
+  const GameInfo& game;
+  std::array<std::string_view, 2> outer;
+  std::array<std::string_view, 2> inner;
+};
+
+constexpr std::array<std::string_view, 2> innerNames = {"Qzr6", "QZR6"};
+constexpr std::array serverFolders = {ServerFolder{powerBall, {"Z1-Pwr", "Z1-PWR"}, innerNames},
+                                      ServerFolder{megaMillions, {"Z2-Meg", "Z2-MEG"}, innerNames}};
+
+struct PublishedFile {
+  std::string name;
+  std::string bytes;
+};
+
+struct PublishedGame {
+  const ServerFolder& place;
+  std::vector<PublishedFile> files;
+  std::string newestDraw;
+};
+
+/// Reads a file whose records all have `Fields` fields. An empty one, or a cut record, is error 62.
+template <std::size_t FieldCount>
+PublishedFile readPublished(const DataFolder& folder, const GameInfo& game, std::string_view name) {
+  SequentialReader reader(folder, inFolder(game, name));
+  reader.record<FieldCount>();
+  forEachRecord<FieldCount>(reader, [](const Fields<FieldCount>&) {});
+  return {std::string(name), std::string(reader.text())};
+}
+
+PublishedGame readGame(const DataFolder& folder, const ServerFolder& place) {
+  const GameInfo& game = place.game;
+  // An update of this very folder is not to be caught in its middle.
+  const os::FileLock lock = lockFolder(folder.resolve(game.folder));
+  PublishedGame published{place, {}, {}};
+  published.files.push_back(readPublished<winningsFields>(folder, game, game.winningsFile));
+  published.files.push_back(readPublished<drawFields>(folder, game, searchDrawsFile));
+  if (game.game == Game::powerBall) {
+    published.files.push_back(readPublished<doublePlayFields>(folder, game, doublePlayFile));
+  }
+  published.files.push_back(readPublished<drawFields>(folder, game, drawsFile));
+  SequentialReader draws(published.files.back().bytes, std::string(drawsFile));
+  published.newestDraw = drawOf(draws.record<drawFields>()).displayDate();
+  return published;
+}
+
+/// The folder that a server shows as "/D:/". Where a folder cannot have that name, a drive has it, the tree
+/// itself has to be served under it.
+fs::path driveFolder(const fs::path& tree) {
+  const fs::path drive("D:");
+  return drive.has_root_name() ? tree : tree / drive;
+}
+
+/// Makes `folder / spelling` the same folder as `made`: it is already where the letter case counts for
+/// nothing, else by a link that stays within the tree, else by a second folder.
+fs::path spelledAlso(const fs::path& made, std::string_view spelling) {
+  const fs::path other = made.parent_path() / spelling;
+  std::error_code noLinks;
+  if (!fs::exists(other)) fs::create_directory_symlink(made.filename(), other, noLinks);
+  fs::create_directories(other);
+  return other;
+}
+
+/// All the folders in which a game is looked for: one, or several where there are no links.
+std::vector<fs::path> foldersOf(const fs::path& tree, const ServerFolder& place) {
+  std::vector<fs::path> folders;
+  const auto add = [&](const fs::path& folder) {
+    const auto isSame = [&](const fs::path& known) { return fs::equivalent(known, folder); };
+    if (std::ranges::none_of(folders, isSame)) folders.push_back(folder);
+  };
+  const fs::path outer = driveFolder(tree) / "QZR" / place.outer[0];
+  fs::create_directories(outer);
+  for (const fs::path& spelled : {outer, spelledAlso(outer, place.outer[1])}) {
+    const fs::path inner = spelled / place.inner[0];
+    fs::create_directories(inner);
+    add(inner);
+    add(spelledAlso(inner, place.inner[1]));
+  }
+  return folders;
+}
+
+bool holds(const fs::path& file, std::string_view bytes) {
+  return fs::is_regular_file(file) && os::readFile(file).view() == bytes;
+}
+
+/// A work file among the published ones would be listed to a client and refused by it, so it is written
+/// beside their folder.
+void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files) {
+  std::vector<std::pair<fs::path, fs::path>> names;
+  for (const PublishedFile& file : files) {
+    const fs::path target = entryInAnyCase(folder, file.name);
+    if (holds(target, file.bytes)) continue;
+    const fs::path work = (folder.parent_path() / file.name).concat(stagedSuffix);
+    os::writeDurably(work, file.bytes);
+    names.emplace_back(work, target);
+  }
+  for (const auto& [work, target] : names) os::takeName(work, target);
+}
+
+}  // namespace
+
+void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
+  const DataFolder folder(from);
+  std::vector<PublishedGame> games;
+  for (const ServerFolder& place : serverFolders) games.push_back(readGame(folder, place));
+  fs::create_directories(tree);
+  const os::FileLock lock(tree / lockName, os::FileLock::Wait::yes);
+  for (const PublishedGame& game : games) {
+    const std::vector<fs::path> folders = foldersOf(tree, game.place);
+    for (const fs::path& target : folders) publishInto(target, game.files);
+    out << game.place.game.name << ": " << game.files.size() << " files, newest draw " << game.newestDraw
+        << ", in " << folders.front().string() << "\n";
+  }
+}
+
+}  // namespace tallywick::setup
