@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/text.h"
 #include "setup/new_folder.h"
+#include "setup/publish.h"
 #include "setup/sample.h"
 
 #include <CLI/CLI.hpp>
@@ -22,15 +23,25 @@ struct Options {
   std::string now;
   std::uint64_t seed = 1;
   bool withoutPlays = false;
+  std::string tree;
+  std::string from;
 };
 
 void describe(CLI::App& app, Options& options) {
   app.set_version_flag("--version", "tallywick-setup " TALLYWICK_VERSION);
-  app.add_option("DIR", options.folder, "The data folder to make")->required();
+  CLI::Option* folder = app.add_option("DIR", options.folder, "The data folder to make");
   app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
   app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
   app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
+  CLI::Option* tree =
+      app.add_option("--publish", options.tree, "Write an update server's folder tree instead");
+  CLI::Option* from = app.add_option("--from", options.from, "The data folder whose draws are published");
+  tree->type_name("TREE")->needs(from)->excludes(folder);
+  from->type_name("DIR")->needs(tree);
+  app.final_callback([folder, tree] {
+    if (folder->empty() && tree->empty()) throw CLI::RequiredError("DIR or --publish");
+  });
 }
 
 Day lastDrawn(const Options& options) {
@@ -60,7 +71,7 @@ void makeFolder(const Options& options, std::ostream& out) {
 
 int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream& errors) {
   Options options;
-  CLI::App app("Makes a data folder for Tallywick.", "tallywick-setup");
+  CLI::App app("Makes a data folder for Tallywick, or an update server's folder tree.", "tallywick-setup");
   describe(app, options);
   try {
     app.parse(argc, argv);
@@ -68,7 +79,11 @@ int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream&
     return app.exit(error, out, errors) == 0 ? 0 : 2;
   }
   try {
-    makeFolder(options, out);
+    if (options.tree.empty()) {
+      makeFolder(options, out);
+    } else {
+      publish(options.tree, options.from, out);
+    }
     return 0;
   } catch (const std::exception& error) {
     errors << "tallywick-setup: " << error.what() << "\n";
