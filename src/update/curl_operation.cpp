@@ -117,6 +117,15 @@ void CurlOperation::setManners(const CurlSession& session) {
   set(CURLOPT_HEADERDATA, this);
 }
 
+void CurlOperation::giveCommand(const std::string& command) {
+  curl_slist* const list = curl_slist_append(commands_.get(), command.c_str());
+  if (list == nullptr) throw std::bad_alloc();
+  // The list begins where it began, or is the first.
+  static_cast<void>(commands_.release());
+  commands_.reset(list);
+  set(CURLOPT_QUOTE, list);
+}
+
 void CurlOperation::send(std::string_view bytes) {
   unsent_ = bytes;
   set(CURLOPT_UPLOAD, 1L);

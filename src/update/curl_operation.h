@@ -41,6 +41,9 @@ class CurlOperation {
   /// Without a transfer: only goes to the folder.
   void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
   void setLimit(std::uint64_t bytes) { limit_ = bytes; }
+  /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" stands
+  /// before the command.
+  void giveCommand(const std::string& command);
   /// Sends `bytes`, which outlive the operation.
   void send(std::string_view bytes);
 
@@ -72,6 +75,7 @@ class CurlOperation {
   std::uint64_t lines_ = 0;
   std::uint64_t limit_;
   bool tooLong_ = false;
+  std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands_{nullptr, curl_slist_free_all};
   /// The last member: the library may still call back while it closes.
   std::unique_ptr<CURL, Close> handle_;
 };

@@ -3,6 +3,7 @@
 #include "update/transfer_errors.h"
 
 #include <chrono>
+#include <utility>
 
 namespace tallywick {
 
@@ -11,6 +12,7 @@ namespace {
 using Steady = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds paintEvery(40);
+constexpr std::chrono::milliseconds farewellTime(1'000);
 
 /// A share of TLS sessions, the first thing that is asked of the library.
 CURLSH* newShare() {
@@ -23,7 +25,8 @@ CURLSH* newShare() {
   return share;
 }
 
-/// An operation among those that the library works on.
+/// An operation among those that the library works on. One that goes before its end takes its connection with
+/// it, and the library does not wait for a word of the server's.
 struct Attached {
   Attached(CURLM* multi, CURL* handle) : multi_(multi), handle_(handle) {
     curl_multi_add_handle(multi_, handle_);
@@ -42,39 +45,86 @@ std::chrono::milliseconds patienceWith(const CurlOperation& operation, const Tra
   return operation.bytesDone() == 0 ? times.answer : times.stall;
 }
 
+/// Keeps the window painted during an operation, and an eye on the server.
+class Watch {
+ public:
+  Watch(const CurlOperation& operation, const TransferTimes& times, Screen& screen)
+      : operation_(operation), times_(times), screen_(screen) {}
+
+  /// False once the server has been silent for too long.
+  bool goesOn() {
+    const Steady::time_point now = Steady::now();
+    if (operation_.signsOfLife() != std::exchange(signs_, operation_.signsOfLife())) lastSign_ = now;
+    if (now - lastPaint_ >= paintEvery) {
+      lastPaint_ = now;
+      screen_.refresh();
+    }
+    return now - lastSign_ <= patienceWith(operation_, times_);
+  }
+
+ private:
+  const CurlOperation& operation_;
+  const TransferTimes& times_;
+  Screen& screen_;
+  Steady::time_point lastSign_ = Steady::now();
+  Steady::time_point lastPaint_;
+  std::uint64_t signs_ = 0;
+};
+
+/// Goes on as far as it is possible without waiting; whether there is more to do.
+bool perform(CURLM* multi) {
+  int running = 0;
+  if (curl_multi_perform(multi, &running) != CURLM_OK) {
+    throw transferError(TransferFault::protocol, "the transfer library cannot go on");
+  }
+  return running != 0;
+}
+
+void waitForServer(CURLM* multi) {
+  curl_multi_poll(multi, nullptr, 0, static_cast<int>(paintEvery.count()), nullptr);
+}
+
+bool leavesConnection(const CurlOperation& operation) {
+  curl_socket_t socket = CURL_SOCKET_BAD;
+  curl_easy_getinfo(operation.handle(), CURLINFO_ACTIVESOCKET, &socket);
+  return socket != CURL_SOCKET_BAD;
+}
+
 }  // namespace
 
 CurlRunner::CurlRunner(Screen& screen) : screen_(screen), sessions_(newShare()) {}
 
 CURLcode CurlRunner::run(CurlOperation& operation, const TransferTimes& times,
                          const std::function<void()>& progress) {
-  if (!multi_) multi_.reset(curl_multi_init());
   operation.set(CURLOPT_SHARE, sessions_.get());
-  const Attached attached(multi_.get(), operation.handle());
-  Steady::time_point lastSign = Steady::now();
-  Steady::time_point lastPaint;
-  std::uint64_t signs = 0;
-  int running = 1;
+  connected_ = false;
+  const Attached attached(multi(), operation.handle());
+  Watch watch(operation, times, screen_);
+  std::uint64_t bytes = 0;
   while (true) {
-    if (curl_multi_perform(multi_.get(), &running) != CURLM_OK) return CURLE_FAILED_INIT;
-    const Steady::time_point now = Steady::now();
-    if (operation.signsOfLife() != signs) {
-      signs = operation.signsOfLife();
-      lastSign = now;
-      if (operation.bytesDone() != 0) progress();
+    const bool isRunning = perform(multi());
+    if (operation.bytesDone() != std::exchange(bytes, operation.bytesDone())) progress();
+    const bool goesOn = watch.goesOn();
+    if (!isRunning) {
+      connected_ = leavesConnection(operation);
+      return resultOf(operation);
     }
-    if (now - lastPaint >= paintEvery) {
-      lastPaint = now;
-      screen_.refresh();
-    }
-    if (running == 0) return resultOf(operation);
-    if (now - lastSign > patienceWith(operation, times)) return CURLE_OPERATION_TIMEDOUT;
-    curl_multi_poll(multi_.get(), nullptr, 0, static_cast<int>(paintEvery.count()), nullptr);
+    if (!goesOn) return CURLE_OPERATION_TIMEDOUT;
+    waitForServer(multi());
   }
 }
 
-void CurlRunner::close() {
-  multi_.reset();
+void CurlRunner::leave(CurlOperation& farewell) {
+  connected_ = false;
+  const Attached attached(multi(), farewell.handle());
+  const TransferTimes times{farewellTime, farewellTime, farewellTime};
+  Watch watch(farewell, times, screen_);
+  while (perform(multi()) && farewell.signsOfLife() == 0 && watch.goesOn()) waitForServer(multi());
+}
+
+CURLM* CurlRunner::multi() {
+  if (!multi_) multi_.reset(curl_multi_init());
+  return multi_.get();
 }
 
 CURLcode CurlRunner::resultOf(const CurlOperation& operation) const {

@@ -17,10 +17,14 @@ class CurlRunner {
   /// Runs to the end; `progress` is called when bytes have flowed. A server that is silent for longer than
   /// `times` allow ends it with CURLE_OPERATION_TIMEDOUT.
   CURLcode run(CurlOperation& operation, const TransferTimes& times, const std::function<void()>& progress);
-  /// Ends the connections.
-  void close();
+  /// Whether the last operation has left a connection.
+  bool isConnected() const { return connected_; }
+  /// Says `farewell` on that connection and closes it as soon as the server has answered or has been silent
+  /// for a second.
+  void leave(CurlOperation& farewell);
 
  private:
+  CURLM* multi();
   CURLcode resultOf(const CurlOperation& operation) const;
 
   struct Close {
@@ -33,6 +37,7 @@ class CurlRunner {
   /// Servers may want the TLS session of the commands again where a file goes over.
   std::unique_ptr<CURLSH, CloseShare> sessions_;
   std::unique_ptr<CURLM, Close> multi_;
+  bool connected_ = false;
 };
 
 }  // namespace tallywick

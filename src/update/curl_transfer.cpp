@@ -27,6 +27,9 @@ class CurlTransfer : public TransferComponent {
       : folder_(folder), clock_(clock), settings_(std::move(settings)), window_(window), runner_(screen) {
     prepare();
   }
+  ~CurlTransfer() override { leave(); }
+  CurlTransfer(const CurlTransfer&) = delete;
+  CurlTransfer& operator=(const CurlTransfer&) = delete;
 
   void prepare() override;
   void setUserName(std::string_view name) override { session_.userName = name; }
@@ -46,6 +49,7 @@ class CurlTransfer : public TransferComponent {
   void createDirectory(std::string_view serverFolder) override;
 
  private:
+  void leave() noexcept;
   CURLcode run(CurlOperation& operation, const TransferInfo& info = {});
   /// `subject` is what the operation is about, for an error's text; `path` is for standard error.
   void runOrRaise(CurlOperation& operation, std::string_view subject, std::string_view path,
@@ -107,7 +111,7 @@ std::string certificatesOfUser() {
 }
 
 void CurlTransfer::prepare() {
-  runner_.close();
+  leave();
   session_ = {};
   session_.tlsRequired = settings_.tlsRequired;
   session_.certificates = settings_.certificates.empty() ? certificatesOfUser() : settings_.certificates;
@@ -176,11 +180,23 @@ void CurlTransfer::createDirectory(std::string_view serverFolder) {
   }
   CurlOperation operation(session_, "");
   operation.goThereOnly();
-  const std::string command = join("MKD ", serverFolder);
-  const std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands(
-      curl_slist_append(nullptr, command.c_str()), curl_slist_free_all);
-  operation.set(CURLOPT_QUOTE, commands.get());
+  operation.giveCommand(join("MKD ", serverFolder));
   runOrRaise(operation, inQuotes(serverFolder), serverFolder);
+}
+
+/// Ends the connection. A server that does not answer must not hold the program up.
+void CurlTransfer::leave() noexcept {
+  if (!runner_.isConnected()) return;
+  try {
+    CurlOperation farewell(session_, "");
+    farewell.goThereOnly();
+    farewell.giveCommand("*QUIT");
+    // Keeps the operation from its end, so that the connection goes with it.
+    farewell.giveCommand("*NOOP");
+    runner_.leave(farewell);
+  } catch (const std::exception&) {
+    // The connection is gone all the same.
+  }
 }
 
 CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
@@ -203,7 +219,7 @@ Listing CurlTransfer::machineListing(std::string_view serverFolder) {
   if (result == CURLE_OK) return readMachineListing(operation.received());
   if (result == CURLE_FTP_COULDNT_RETR_FILE && operation.responseCode() >= 500) {
     // A connection on which a transfer was refused is not to be trusted with the next one.
-    runner_.close();
+    leave();
     return std::nullopt;
   }
   throw curlError(result, operation, inQuotes(serverFolder), whereIs(serverFolder));

@@ -45,6 +45,7 @@ class RealServer : public TransferTest {
 TEST_F(RealServer, GivesEveryPlainFileOfItsFolder) {
   const ServerProcess server = serve();
   connected("ftp://" + server.address())->download(folderThere, "*.*", pwrHere);
+  EXPECT_EQ(commands("QUIT").size(), 1U);
   expectAllFetched();
   EXPECT_EQ(commands("CWD"), std::vector<std::string>{"CWD /D:/QZR/Z1-Pwr/Qzr6"});
   EXPECT_EQ(commands("MLSD").size(), 1U);

@@ -1,6 +1,9 @@
 // Whatever a server does wrong, the error tells what happened and the folder stays as it was, to the byte.
 #include "transfer_test.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tallywick::test {
 namespace {
 
@@ -33,6 +36,10 @@ class BadServer : public TransferTest {
     putText(tree.root() / "LIST", list);
     const ServerProcess server("bad_server.py", {tree.root().string(), fault});
     connected(server.address())->download("/D:/QZR/", "*.*", pwrHere);
+  }
+  long commands(const std::string& command) {
+    std::istringstream log(textOf(tree.root() / "log"));
+    return std::count(std::istream_iterator<std::string>(log), {}, command);
   }
 
   TreeFolder tree;
@@ -79,6 +86,16 @@ TEST_F(BadServer, IsUnderstoodWithoutTheExtendedCommands) {
   download("no epsv", first + draws);
   EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));
   EXPECT_EQ(get("first.Dat"), "one");
+}
+
+TEST_F(BadServer, NeedNotAnswerTheFarewell) {
+  const auto started = std::chrono::steady_clock::now();
+  download("no farewell", first);
+  EXPECT_EQ(get("first.Dat"), "one");
+  EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
+  // One from the change to the other kind of listing, one at the end.
+  EXPECT_EQ(commands("QUIT"), 2);
+  EXPECT_GT(screen.refreshed, 30) << "the window was not painted meanwhile";
 }
 
 TEST_F(BadServer, GetsNoLoginWithoutTlsWhereThatIsRequired) {

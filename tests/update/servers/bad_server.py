@@ -108,6 +108,9 @@ class Session:
             self.send_file(contents(argument))
         elif command == "RETR":
             self.say("550 No such file")
+        elif command == "QUIT":
+            time.sleep(60 if fault == "no farewell" else 0)
+            self.say("221 Bye")
         elif command in ("CWD", "TYPE", "PBSZ", "PROT"):
             self.say("200 Yes")
         else:
