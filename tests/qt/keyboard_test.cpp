@@ -1,7 +1,10 @@
 // The windows by keyboard alone.
+#include "app/main_form.h"
 #include "qt/desk_fixture.h"
 #include "ui/qt/parts/ball.h"
 
+#include <QAccessible>
+#include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -68,6 +71,36 @@ TEST_F(Keyboard, MnemonicsAreUniqueOnEveryPage) {
     SCOPED_TRACE(name);
     expectUniqueMnemonics(open(name));
   }
+}
+
+/// What the Tab key reaches without a name for screen readers.
+std::string unnamedStops(const QWidget& window) {
+  std::string unnamed;
+  for (auto* widget : window.findChildren<QWidget*>()) {
+    const bool inner =
+        qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr || widget->window() != &window;
+    if (inner || widget->focusProxy() != nullptr || !(widget->focusPolicy() & Qt::TabFocus)) continue;
+    const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+    if (spoken != nullptr && spoken->text(QAccessible::Name).isEmpty())
+      unnamed +=
+          std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString() + "; ";
+  }
+  return unnamed;
+}
+
+TEST_F(Keyboard, EveryStopHasANameForScreenReaders) {
+  open("Form1");
+  // The headings and captions come with a summary.
+  auto& form = static_cast<MainForm&>(*application.find("Form1"));
+  platform.run([&] {
+    for (Control* control : form.controls()) {
+      if (control->type() == ControlType::button) static_cast<Button*>(control)->setCaption("caption");
+    }
+    setSummaryHeadings(form.summary, megaMillions);
+  });
+  EXPECT_EQ(unnamedStops(window("Form1")), "");
+  EXPECT_EQ(unnamedStops(open("Form3")), "");
+  EXPECT_EQ(unnamedStops(open("frmAbout")), "");
 }
 
 TEST_F(Keyboard, MakesAPlayWithDigitsSpaceAndMnemonics) {
