@@ -3,6 +3,7 @@
 #include "update/transfer_errors.h"
 
 #include <chrono>
+#include <exception>
 #include <utility>
 
 namespace tallywick {
@@ -45,14 +46,23 @@ std::chrono::milliseconds patienceWith(const CurlOperation& operation, const Tra
   return operation.bytesDone() == 0 ? times.answer : times.stall;
 }
 
-/// Keeps the window painted during an operation, and an eye on the server.
+/// Keeps the window painted during an operation, and an eye on the server. The library asks it too: at the
+/// end of a file it waits for the server's closing word before it returns.
 class Watch {
  public:
-  Watch(const CurlOperation& operation, const TransferTimes& times, Screen& screen)
-      : operation_(operation), times_(times), screen_(screen) {}
+  Watch(CurlOperation& operation, const TransferTimes& times, Screen& screen)
+      : operation_(operation), times_(times), screen_(screen) {
+    operation.set(CURLOPT_XFERINFOFUNCTION, askedByLibrary);
+    operation.set(CURLOPT_XFERINFODATA, this);
+    operation.set(CURLOPT_NOPROGRESS, 0L);
+  }
+  ~Watch() { operation_.set(CURLOPT_NOPROGRESS, 1L); }
+  Watch(const Watch&) = delete;
+  Watch& operator=(const Watch&) = delete;
 
   /// False once the server has been silent for too long.
   bool goesOn() {
+    if (failure_) std::rethrow_exception(failure_);
     const Steady::time_point now = Steady::now();
     if (operation_.signsOfLife() != std::exchange(signs_, operation_.signsOfLife())) lastSign_ = now;
     if (now - lastPaint_ >= paintEvery) {
@@ -63,12 +73,25 @@ class Watch {
   }
 
  private:
-  const CurlOperation& operation_;
+  /// Another answer than 0 ends the operation.
+  static int askedByLibrary(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    auto& watch = *static_cast<Watch*>(self);
+    try {
+      return watch.goesOn() ? 0 : 1;
+    } catch (...) {
+      watch.failure_ = std::current_exception();
+      return 1;
+    }
+  }
+
+  CurlOperation& operation_;
   const TransferTimes& times_;
   Screen& screen_;
   Steady::time_point lastSign_ = Steady::now();
   Steady::time_point lastPaint_;
   std::uint64_t signs_ = 0;
+  /// From painting; it must not pass through the library.
+  std::exception_ptr failure_;
 };
 
 /// Goes on as far as it is possible without waiting; whether there is more to do.
@@ -98,8 +121,8 @@ CURLcode CurlRunner::run(CurlOperation& operation, const TransferTimes& times,
                          const std::function<void()>& progress) {
   operation.set(CURLOPT_SHARE, sessions_.get());
   connected_ = false;
-  const Attached attached(multi(), operation.handle());
   Watch watch(operation, times, screen_);
+  const Attached attached(multi(), operation.handle());
   std::uint64_t bytes = 0;
   while (true) {
     const bool isRunning = perform(multi());
@@ -116,9 +139,9 @@ CURLcode CurlRunner::run(CurlOperation& operation, const TransferTimes& times,
 
 void CurlRunner::leave(CurlOperation& farewell) {
   connected_ = false;
-  const Attached attached(multi(), farewell.handle());
   const TransferTimes times{farewellTime, farewellTime, farewellTime};
   Watch watch(farewell, times, screen_);
+  const Attached attached(multi(), farewell.handle());
   while (perform(multi()) && farewell.signsOfLife() == 0 && watch.goesOn()) waitForServer(multi());
 }
 
@@ -131,7 +154,8 @@ CURLcode CurlRunner::resultOf(const CurlOperation& operation) const {
   int left = 0;
   while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
     if (message->msg == CURLMSG_DONE && message->easy_handle == operation.handle()) {
-      return message->data.result;
+      const CURLcode result = message->data.result;
+      return result == CURLE_ABORTED_BY_CALLBACK ? CURLE_OPERATION_TIMEDOUT : result;
     }
   }
   return CURLE_RECV_ERROR;

@@ -77,6 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{"otherLength", "none", first + "-rw-r--r-- 1 o g 19999 Nov 21 10:35 QZRNUM6.Dat\r\n",
                 "\"QZRNUM6.Dat\" came down with another length than the server told"},
         Misdeed{"stall", "stall", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
+        Misdeed{"noEnd", "no end", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
         Misdeed{"noAnswer", "no answer", draws,
                 "timed out while waiting for an answer, in hand was \"QZRNUM6.Dat\""},
         Misdeed{"endless", "endless", draws, "too large: \"QZRNUM6.Dat\""}),

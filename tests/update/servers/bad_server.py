@@ -59,6 +59,7 @@ class Session:
         self.say("150 Here it comes")
         with self.open_data() as data:
             data.sendall(body)
+        time.sleep(60 if fault == "no end" and body == contents("QZRNUM6.Dat") else 0)
         self.say(end)
 
     def send_file(self, body):
