@@ -38,8 +38,10 @@ class CurlOperation {
   void set(CURLoption option, Value value) {
     curl_easy_setopt(handle_.get(), option, value);
   }
-  /// Without a transfer: only goes to the folder.
+  /// Without a transfer: only goes to the folder, or asks for the file's length.
   void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
+  /// Takes what comes until the server ends it, not only as many bytes as the server told.
+  void takeAllBytes() { set(CURLOPT_IGNORE_CONTENT_LENGTH, 1L); }
   void setLimit(std::uint64_t bytes) { limit_ = bytes; }
   /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" stands
   /// before the command.

@@ -57,6 +57,7 @@ class CurlTransfer : public TransferComponent {
   Listing machineListing(std::string_view serverFolder);
   Listing peopleListing(std::string_view serverFolder);
   std::vector<ListedFile> filesOf(std::string_view serverFolder, std::string_view wildcard);
+  std::optional<std::uint64_t> lengthOf(std::string_view path, const ListedFile& file);
   std::string fetch(std::string_view serverFolder, const ListedFile& file);
   fs::path localFolderOf(std::string_view written) const;
   void tell(std::string_view status) const;
@@ -243,15 +244,27 @@ std::vector<ListedFile> CurlTransfer::filesOf(std::string_view serverFolder, std
   return std::move(*files);
 }
 
+/// What the list tells, or else the server when it is asked; none where it does not know.
+std::optional<std::uint64_t> CurlTransfer::lengthOf(std::string_view path, const ListedFile& file) {
+  if (file.size) return file.size;
+  CurlOperation operation(session_, path);
+  operation.goThereOnly();
+  runOrRaise(operation, inQuotes(file.name), path);
+  const std::int64_t told = operation.toldLength();
+  return told < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(told));
+}
+
 std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile& file) {
   const std::string path = join(serverFolder, file.name);
+  const std::optional<std::uint64_t> length = lengthOf(path, file);
   CurlOperation operation(session_, path);
   operation.setLimit(settings_.limits.fileSize);
-  tell({file.name, 0, file.size.value_or(0)});
-  runOrRaise(operation, inQuotes(file.name), path, {file.name, 0, file.size.value_or(0)});
+  operation.takeAllBytes();
+  const TransferInfo info{file.name, 0, length.value_or(0)};
+  tell(info);
+  runOrRaise(operation, inQuotes(file.name), path, info);
   const std::uint64_t got = operation.received().size();
-  const std::int64_t told = operation.toldLength();
-  if (got != file.size.value_or(got) || (told >= 0 && got != static_cast<std::uint64_t>(told))) {
+  if (got != length.value_or(got)) {
     throw transferError(TransferFault::length,
                         join(inQuotes(file.name), " came down with another length than the server told"),
                         whereIs(path));

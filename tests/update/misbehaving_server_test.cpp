@@ -72,16 +72,28 @@ INSTANTIATE_TEST_SUITE_P(
                 "the server lists \"tallywick.jnl\", a name that this program keeps for itself"},
         Misdeed{"goneMeanwhile", "none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 gone\r\n",
                 "the server does not give \"gone\""},
-        Misdeed{"drop", "drop", draws, "interrupted in the middle of \"QZRNUM6.Dat\""},
-        Misdeed{"short", "short", draws, "interrupted in the middle of \"QZRNUM6.Dat\""},
+        Misdeed{"drop", "drop", draws, "connection lost, in hand was \"QZRNUM6.Dat\""},
+        Misdeed{"short", "short", draws,
+                "\"QZRNUM6.Dat\" came down with another length than the server told"},
         Misdeed{"otherLength", "none", first + "-rw-r--r-- 1 o g 19999 Nov 21 10:35 QZRNUM6.Dat\r\n",
                 "\"QZRNUM6.Dat\" came down with another length than the server told"},
+        Misdeed{"long", "long", draws, "\"QZRNUM6.Dat\" came down with another length than the server told"},
         Misdeed{"stall", "stall", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
         Misdeed{"noEnd", "no end", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
         Misdeed{"noAnswer", "no answer", draws,
                 "timed out while waiting for an answer, in hand was \"QZRNUM6.Dat\""},
         Misdeed{"endless", "endless", draws, "too large: \"QZRNUM6.Dat\""}),
     [](const auto& tested) { return tested.param.name; });
+
+TEST_F(BadServer, IsAskedForALengthThatItsListDoesNotTell) {
+  putText(tree.root() / "MLSD", "type=file; QZRNUM6.Dat\r\n");
+  for (const char* fault : {"long", "short"}) {
+    EXPECT_THAT(errorOf([&] { download(fault, ""); }), testing::HasSubstr("another length")) << fault;
+  }
+  EXPECT_EQ(scratch.snapshot(), before);
+  download("none", "");
+  EXPECT_EQ(get("qzrnum6.dat"), std::string(20'000, 'd'));
+}
 
 TEST_F(BadServer, IsUnderstoodWithoutTheExtendedCommands) {
   download("no epsv", first + draws);

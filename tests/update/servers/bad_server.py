@@ -73,6 +73,8 @@ class Session:
             if fault == "stall":
                 time.sleep(60)
             self.control.close()
+        elif fault == "long":
+            self.send(body + b"!!")
         elif fault == "endless":
             self.say("150 Here it comes")
             with self.open_data() as data:
