@@ -17,8 +17,16 @@ constexpr std::uint64_t largestAnswer = std::uint64_t{4} << 20U;
 /// A transfer slower than this many bytes a second counts as stalled.
 constexpr long slowest = 16;
 
+/// The greeting, AUTH, USER, PASS, PBSZ, PROT, PWD and SYST: to the library all of them are connecting. Each
+/// answer has a limit of its own, that of all keeps a server from dribbling a greeting without end.
+constexpr int loginAnswers = 8;
+
 long milliseconds(std::chrono::milliseconds time) {
   return static_cast<long>(time.count());
+}
+
+long secondsUpTo(std::chrono::milliseconds time) {
+  return static_cast<long>(std::chrono::ceil<std::chrono::seconds>(time).count());
 }
 
 struct AddressParts {
@@ -107,10 +115,11 @@ void CurlOperation::setAddress(const CurlSession& session, std::string_view path
 
 void CurlOperation::setManners(const CurlSession& session) {
   set(CURLOPT_NOSIGNAL, 1L);
-  set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds(session.times.connect));
+  set(CURLOPT_CONNECTTIMEOUT_MS, milliseconds(session.times.connect + loginAnswers * session.times.answer));
+  set(CURLOPT_SERVER_RESPONSE_TIMEOUT, secondsUpTo(std::max(session.times.answer, session.times.stall)));
   set(CURLOPT_ACCEPTTIMEOUT_MS, milliseconds(session.times.answer));
   set(CURLOPT_LOW_SPEED_LIMIT, slowest);
-  set(CURLOPT_LOW_SPEED_TIME, std::max(1L, milliseconds(session.times.stall) / 1000));
+  set(CURLOPT_LOW_SPEED_TIME, secondsUpTo(session.times.stall));
   set(CURLOPT_WRITEFUNCTION, takeBytes);
   set(CURLOPT_WRITEDATA, this);
   set(CURLOPT_HEADERFUNCTION, takeLine);

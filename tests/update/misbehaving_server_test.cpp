@@ -101,6 +101,12 @@ TEST_F(BadServer, IsUnderstoodWithoutTheExtendedCommands) {
   EXPECT_EQ(get("first.Dat"), "one");
 }
 
+TEST_F(BadServer, HasTheTimeOfAnAnswerForEachStepOfTheLogin) {
+  settings.times = {300ms, 1100ms, 500ms};
+  download("slow", first);
+  EXPECT_EQ(get("first.Dat"), "one");
+}
+
 TEST_F(BadServer, NeedNotAnswerTheFarewell) {
   const auto started = std::chrono::steady_clock::now();
   download("no farewell", first);

@@ -86,6 +86,8 @@ class Session:
             self.send(body)
 
     def answer(self, command, argument):
+        if fault == "slow" and command in ("USER", "PASS", "PWD"):
+            time.sleep(0.4)
         if command == "AUTH" and contents("certificate") is not None:
             self.start_tls()
         elif command == "USER":
