@@ -1,0 +1,71 @@
+// The whole way: a published tree, a real server, the real program and the sort tool that it starts.
+#include "ftp_servers.h"
+#include "setup/new_folder.h"
+#include "setup/publish.h"
+#include "support/scratch_folder.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace tallywick::test {
+namespace {
+
+constexpr std::uint64_t seed = 7;
+const setup::Day olderDay = setup::dayOf(2026, 11, 17);
+const setup::Day newerDay = setup::dayOf(2026, 11, 21);
+
+/// What the program prints; it is killed where it does not end.
+std::string outputOf(const std::string& lines, const ScratchFolder& book, const std::string& server) {
+  putText(book.root() / "lines", lines);
+  const std::string command = "timeout 60 '" TALLYWICK_SCRIPT "' --folder '" + book.root().string() +
+                              "' --server " + server + " '" + (book.root() / "lines").string() + "' > '" +
+                              (book.root() / "out").string() + "'";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  return textOf(book.root() / "out");
+}
+
+TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
+  const ScratchFolder newer;
+  const ScratchFolder book;
+  setup::writeFolder(newer.root(), setup::sampleContents(newerDay, seed));
+  setup::writeFolder(book.root(), setup::sampleContents(olderDay, seed));
+  book.write("PWF.TXT", serverPassword);
+  book.write("PWF2.TXT", serverLogin);
+  const std::string drawn = records({"11-18-2026,01,02,03,04,05,06,5000000"});
+  const std::string next = records({"11-28-2026,01,02,03,04,05,06,5000000"});
+  const std::string later = records({"12-02-2026,01,02,03,04,05,06,5000000"});
+  book.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", later + drawn + next);
+
+  const TreeFolder tree;
+  std::ostringstream told;
+  setup::publish(tree.root() / "root", newer.root(), told);
+  const ServerProcess server("good_server.py",
+                             {(tree.root() / "root").string(), (tree.root() / "log").string()});
+  const std::string pictures = "click Command3\nshow Image1 Image6\n";
+  const std::string before = outputOf(pictures, book, server.address());
+  const std::string after =
+      outputOf("now 11-21-2026 07:00:01\nclick Command2\nshow Image1 Image6\n", book, server.address());
+
+  for (const char* draws : {"QZR6PWR/QZRNUM6.Dat", "QZR6PWR/QZRNUM62.Dat", "QZR6PWR/QZRNUM72.Dat",
+                            "QZR6PWR/QzrPwr.Win", "QZR6MEG/QZRNUM6.Dat", "QZR6MEG/QzrMeg.Win"}) {
+    const std::string file = std::string("QzrNumbers/") + draws;
+    EXPECT_EQ(book.read(file), newer.read(file)) << file;
+  }
+  EXPECT_EQ(book.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), drawn);
+  EXPECT_EQ(after.substr(after.rfind("{\"name\":\"Image1\"")), outputOf(pictures, newer, server.address()));
+  EXPECT_NE(after.substr(after.rfind("{\"name\":\"Image1\"")), before) << "the pictures of the older draw";
+  for (int wait = 0; wait < 500 && book.read("QzrNumbers/QZR6PWR/QZR6PWR1.Ply") != next + later; ++wait) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  EXPECT_EQ(book.read("QzrNumbers/QZR6PWR/QZR6PWR1.Ply"), next + later) << "by the sort tool";
+
+  // The menu entries spell the server's folders in another way.
+  for (const auto& part : setup::sampleContents(olderDay, seed).games) setup::replaceDraws(book.root(), part);
+  outputOf("click mnuPowerBall2\nclick Command4\nclick mnuMegaMillions2\n", book, server.address());
+  for (const std::string file : {"QzrNumbers/QZR6PWR/QZRNUM6.Dat", "QzrNumbers/QZR6MEG/QZRNUM6.Dat"})
+    EXPECT_EQ(book.read(file), newer.read(file)) << file;
+}
+
+}  // namespace
+}  // namespace tallywick::test
