@@ -43,6 +43,8 @@ constexpr std::array meanings = {
     Meaning{CURLE_GOT_NOTHING, TransferFault::interrupted, "connection lost, in hand was ", true},
 };
 
+constexpr long serviceClosing = 421;
+
 std::string_view timedOutAt(const CurlOperation& operation) {
   if (!operation.isConnected()) return "timed out while connecting";
   return operation.bytesDone() == 0 ? "timed out while waiting for an answer, in hand was "
@@ -57,6 +59,10 @@ bool wasRefused(const CurlOperation& operation) {
 
 Meaning meaningOf(CURLcode result, const CurlOperation& operation) {
   if (operation.isTooLong()) return {result, TransferFault::limit, "too large: ", true};
+  // The library counts a server that closes down among the time-outs.
+  if (operation.responseCode() == serviceClosing) {
+    return {result, TransferFault::connection, "the server is busy or closing down"};
+  }
   if (result == CURLE_OPERATION_TIMEDOUT) {
     return {result, TransferFault::timeOut, timedOutAt(operation), operation.isConnected()};
   }

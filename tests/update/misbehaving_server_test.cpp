@@ -60,6 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
     Server, Misbehaving,
     testing::Values(
         Misdeed{"silent", "silent", "", "timed out while waiting for an answer, in hand was the login"},
+        Misdeed{"full", "full", "", "the server is busy or closing down"},
+        Misdeed{"closing", "closing", "", "the server is busy or closing down"},
         Misdeed{"deny", "deny", "", "login denied"},
         Misdeed{"noFolder", "no folder", "", "the server does not open the folder \"/D:/QZR/\""},
         Misdeed{"empty", "none", "", "the server's folder holds no files"},

@@ -98,6 +98,8 @@ class Session:
             self.say("230 Welcome")
         elif command == "PWD":
             self.say('257 "/"')
+        elif command == "CWD" and fault == "closing":
+            self.say("421 Come back later")
         elif command == "CWD" and fault == "no folder":
             self.say("550 No such folder")
         elif command == "EPSV" and fault != "no epsv":
@@ -124,6 +126,8 @@ class Session:
     def run(self):
         if fault == "silent":
             time.sleep(60)
+        if fault == "full":
+            self.say("421 Too many users")
         self.say("220 Ready")
         while line := self.read_line():
             command, _, argument = line.partition(" ")
