@@ -26,11 +26,13 @@ constexpr int wantedTicks = 5;
 
 }  // namespace
 
-ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)) {
+ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
   columnIn(this)->addWidget(plot_);
   setFocusPolicy(Qt::StrongFocus);
   setMinimumHeight(22 * theme::gap);
   plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  plot_->plotLayout()->insertRow(0);
+  plot_->plotLayout()->addElement(0, 0, heading_);
   plot_->xAxis->grid()->setVisible(false);
   plot_->xAxis->setSubTicks(false);
   plot_->yAxis->setSubTicks(false);
@@ -73,7 +75,7 @@ void ChartView::draw() {
   auto counts = QSharedPointer<QCPAxisTickerFixed>::create();
   counts->setTickStep(std::max(1.0, std::ceil(tallest / wantedTicks)));
   plot_->yAxis->setTicker(counts);
-  plot_->xAxis->setLabel(title_);
+  heading_->setText(title_);
   colorAxes();
   plot_->replot();
 }
@@ -97,13 +99,13 @@ void ChartView::colorAxes() {
   const QColor text = palette().text().color();
   const QColor ground = palette().base().color();
   plot_->setBackground(ground);
+  heading_->setTextColor(text);
+  heading_->setFont(theme::headingFont(font()));
   for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
     axis->setBasePen(text);
     axis->setTickPen(text);
     axis->setTickLabelColor(text);
-    axis->setLabelColor(text);
     axis->setTickLabelFont(font());
-    axis->setLabelFont(theme::headingFont(font()));
     axis->grid()->setPen(QPen(theme::mixed(ground, text, 0.25), 0, Qt::DotLine));
   }
 }

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class QCPTextElement;
 class QCustomPlot;
 
 namespace tallywick {
@@ -30,6 +31,7 @@ class ChartView : public QWidget {
   void print();
 
   QCustomPlot* plot_;
+  QCPTextElement* heading_;
   QString title_;
   std::vector<Chart::Bar> bars_;
 };
