@@ -114,6 +114,7 @@ bool holds(const fs::path& file, std::string_view bytes) {
 /// A work file among the published ones would be listed to a client and refused by it, so it is written
 /// beside their folder.
 void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files) {
+  for (const PublishedFile& file : files) os::checkReplaceable(entryInAnyCase(folder, file.name));
   std::vector<std::pair<fs::path, fs::path>> names;
   for (const PublishedFile& file : files) {
     const fs::path target = entryInAnyCase(folder, file.name);

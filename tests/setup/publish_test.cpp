@@ -72,7 +72,8 @@ TEST_F(Publishing, AgainReplacesInOneStepWhatDiffers) {
   fs::last_write_time(pwr / "QzrPwr.Win", amountsTime);
   scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", newer);
   auto end = test::RunEnd::killed;
-  for (int call = 1; end == test::RunEnd::killed && !HasFailure(); ++call) {
+  // A file that is written in its place or beside its target is so for longer than three calls.
+  for (int call = 1; end == test::RunEnd::killed && !HasFailure(); call += 3) {
     end = test::runKilledAt(call, [this] { run(); });
     if (end == test::RunEnd::untraced) GTEST_SKIP() << "no tracing of children here";
     const std::string now = textOf(draws);
@@ -85,7 +86,7 @@ TEST_F(Publishing, AgainReplacesInOneStepWhatDiffers) {
   EXPECT_EQ(namesIn(pwr.parent_path()), (std::set<std::string>{"QZR6", "Qzr6"}));
 }
 
-TEST_F(Publishing, WritesNothingWhereAFileIsMissingOrCut) {
+TEST_F(Publishing, WritesNothingWhereAFileIsMissingOrCutOrInTheWay) {
   run();
   const std::string before = textOf(pwr / "QZRNUM6.Dat");
   scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", newer);
@@ -105,6 +106,11 @@ TEST_F(Publishing, WritesNothingWhereAFileIsMissingOrCut) {
   }
   fs::remove(scratch.folder().resolve("QzrNumbers/QZR6MEG/QzrMeg.Win"));
   fails(53, "QzrMeg.Win");
+  scratch.write("QzrNumbers/QZR6MEG/QzrMeg.Win", records({"11,25,2026,40,0"}));
+  scratch.write("QzrNumbers/QZR6MEG/QZRNUM62.Dat", newer);
+  fs::remove(pwr / "QzrPwr.Win");
+  fs::create_directory(pwr / "qzrpwr.win");
+  fails(75, "qzrpwr.win");
 }
 
 }  // namespace
