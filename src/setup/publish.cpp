@@ -47,7 +47,7 @@ struct PublishedGame {
   std::string newestDraw;
 };
 
-/// Reads a file whose records all have `Fields` fields. An empty one, or a cut record, is error 62.
+/// Reads a file whose records all have `FieldCount` fields. An empty one, or a cut record, is error 62.
 template <std::size_t FieldCount>
 PublishedFile readPublished(const DataFolder& folder, const GameInfo& game, std::string_view name) {
   SequentialReader reader(folder, inFolder(game, name));
