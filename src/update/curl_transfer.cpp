@@ -62,7 +62,9 @@ class CurlTransfer : public TransferComponent {
   fs::path localFolderOf(std::string_view written) const;
   void tell(std::string_view status) const;
   void tell(const TransferInfo& info) const;
-  std::string whereIs(std::string_view path) const { return join("server ", session_.host, " ", path); }
+  std::string whereIs(std::string_view path) const {
+    return printable(join("server ", session_.host, " ", path));
+  }
 
   const DataFolder& folder_;
   const Clock& clock_;

@@ -4,14 +4,42 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstddef>
 
 namespace tallywick {
 
 namespace {
 
-bool isForbidden(char letter) {
-  const auto code = static_cast<unsigned char>(letter);
-  return code < 0x20 || code == 0x7F || letter == '/' || letter == '\\' || letter == ':';
+/// Takes the letter that begins `text` off it. A byte that begins none in UTF-8 is one in itself, as in
+/// Latin-1.
+char32_t takeLetter(std::string_view& text) {
+  constexpr std::array<char32_t, 5> smallest = {0, 0, 0x80, 0x800, 0x10000};
+  const auto lead = static_cast<unsigned char>(text.front());
+  const auto length = static_cast<std::size_t>(std::countl_one(lead));
+  const std::string_view behind = text.substr(1, length < 2 ? 0 : length - 1);
+  text.remove_prefix(1);
+  if (length < 2 || length > 4 || behind.size() != length - 1) return lead;
+  char32_t letter = lead & (0x7FU >> length);
+  for (const char byte : behind) {
+    if ((static_cast<unsigned char>(byte) & 0xC0U) != 0x80) return lead;
+    letter = letter << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+  }
+  if (letter < smallest[length]) return lead;
+  text.remove_prefix(behind.size());
+  return letter;
+}
+
+bool isForbidden(char32_t letter) {
+  const bool isControl = letter < 0x20 || (letter >= 0x7F && letter < 0xA0);
+  return isControl || letter == '/' || letter == '\\' || letter == ':';
+}
+
+bool hasForbidden(std::string_view name) {
+  while (!name.empty()) {
+    if (isForbidden(takeLetter(name))) return true;
+  }
+  return false;
 }
 
 /// A device's name stays one with any extension.
@@ -36,8 +64,8 @@ bool matches(std::string_view wildcard, std::string_view name) {
 }  // namespace
 
 bool isPlainFileName(std::string_view name) {
-  return !name.empty() && std::ranges::none_of(name, isForbidden) && !name.ends_with('.') &&
-         !name.ends_with(' ') && !isDeviceName(name);
+  return !name.empty() && !hasForbidden(name) && !name.ends_with('.') && !name.ends_with(' ') &&
+         !isDeviceName(name);
 }
 
 bool matchesWildcard(std::string_view wildcard, std::string_view name) {

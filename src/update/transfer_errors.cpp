@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tallywick {
@@ -12,10 +13,15 @@ RuntimeError transferError(TransferFault fault, std::string_view what, std::stri
   return RuntimeError(number, join("The transfer failed: ", what), std::move(where), "ftp.Transfer");
 }
 
+std::string printable(std::string_view text) {
+  std::string shown(text);
+  std::ranges::replace_if(
+      shown, [](char letter) { return letter < ' ' || letter > '~'; }, '?');
+  return shown;
+}
+
 std::string inQuotes(std::string_view name) {
-  std::string text = "\"";
-  for (const char letter : name) text += letter >= ' ' && letter <= '~' ? letter : '?';
-  return text += '"';
+  return join("\"", printable(name), "\"");
 }
 
 }  // namespace tallywick

@@ -30,7 +30,9 @@ enum class TransferFault : int {
 /// "The transfer failed: " and `what`; `where` is for standard error.
 RuntimeError transferError(TransferFault fault, std::string_view what, std::string where = {});
 
-/// `name` in double quotes for a message, with "?" for what a screen cannot show.
+/// `text` with "?" for what a screen cannot show.
+std::string printable(std::string_view text);
+/// `name` in double quotes for a message, printable.
 std::string inQuotes(std::string_view name);
 
 }  // namespace tallywick

@@ -25,11 +25,13 @@ TEST(CheckIncoming, RefusesWhatIsNoPlainNameOfAnothersFile) {
   using namespace std::string_literals;
   for (const std::string& name :
        {""s, "../up"s, "a/b"s, R"(a\b)"s, "C:x"s, "line\nend"s, "nul\0l"s, "NUL"s, "com1.txt"s, "aux .Dat"s,
-        "a."s, "a "s, "del\x7f"s, "Tallywick.jnl"s, "TALLYWICK.LCK"s, "QZRNUM6.Dat.tw~"s}) {
+        "a."s, "a "s, "del\x7f"s, "csi\xC2\x9B"s, "csi\x9B"s, "x\xE2\x9B"s, "Tallywick.jnl"s,
+        "TALLYWICK.LCK"s, "QZRNUM6.Dat.tw~"s}) {
     EXPECT_NE(refusal({{"good", 1}, {name, 1}}), "") << name;
   }
   for (const char* name :
-       {".hidden", "no extension", "QZR6PWR1.Ply", "com10", "console", "a;b %41#?.Dat", "\xC3\xBC.Dat"}) {
+       {".hidden", "no extension", "QZR6PWR1.Ply", "com10", "console", "a;b %41#?.Dat", "\xC3\xBC.Dat",
+        "\xC3\x9B.Dat", "\xE2\x82\x9B.Dat", "\xF0\x9F\x8E\xB1", "\xFC.Dat"}) {
     EXPECT_EQ(refusal({{name, {}}}), "");
   }
 }

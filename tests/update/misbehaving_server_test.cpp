@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
                 "the server lists \"tallywick.jnl\", a name that this program keeps for itself"},
         Misdeed{"goneMeanwhile", "none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 gone\r\n",
                 "the server does not give \"gone\""},
+        Misdeed{"goneWithOddName", "none", "-rw-r--r-- 1 o g 3 Nov 21 10:35 g\xFF\xFEne\r\n",
+                "the server does not give \"g??ne\""},
         Misdeed{"drop", "drop", draws, "connection lost, in hand was \"QZRNUM6.Dat\""},
         Misdeed{"short", "short", draws,
                 "\"QZRNUM6.Dat\" came down with another length than the server told"},

@@ -9,6 +9,7 @@
 #include "support/scratch_folder.h"
 #include "update/curl_transfer.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -74,6 +75,9 @@ class TransferTest : public testing::Test {
       const std::string all = join(error.what(), error.where(), error.boxText());
       EXPECT_EQ(all.find(serverPassword), std::string::npos) << all;
       EXPECT_EQ(all.find(serverLogin), std::string::npos) << all;
+      EXPECT_TRUE(std::ranges::all_of(all, [](char byte) {
+        return byte == '\n' || (byte >= ' ' && byte <= '~');
+      })) << "bytes of the server's choice reach the terminal";
       return error.description();
     }
     return "";

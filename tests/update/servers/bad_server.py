@@ -28,7 +28,7 @@ class Session:
     def __init__(self, control):
         self.control = control
         self.tls = None
-        self.log = open(os.path.join(folder, "log"), "a", buffering=1)
+        self.log = open(os.path.join(folder, "log"), "a", buffering=1, errors="surrogateescape")
 
     def say(self, text):
         self.control.sendall(text.encode() + b"\r\n")
@@ -141,7 +141,7 @@ class Session:
             if not letter:
                 return ""
             line += letter
-        return line.decode().rstrip("\r\n")
+        return line.decode(errors="surrogateescape").rstrip("\r\n")
 
 
 def serve(control):
