@@ -49,10 +49,13 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
 
 IncomingFiles::IncomingFiles(fs::path folder, const std::vector<ListedFile>& files, const Clock& clock)
     : folder_(std::move(folder)), commit_(folder_), date_(sortableDate(clock)) {
-  for (const ListedFile& file : files) takenNames_.insert(lowered(file.name));
+  std::set<std::string> listed;
+  for (const ListedFile& file : files) listed.insert(lowered(file.name));
+  takenNames_ = listed;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
     const std::string name = lowered(nameOf(entry.path()));
-    if (!takenNames_.insert(name).second && entry.is_directory()) {
+    takenNames_.insert(name);
+    if (listed.contains(name) && entry.is_directory()) {
       throw transferError(TransferFault::name, join("the file ", inQuotes(name), " would replace a folder"));
     }
   }
