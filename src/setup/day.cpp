@@ -19,10 +19,14 @@ std::optional<Day> parseDay(std::string_view text) {
     if (error != std::errc()) return {};
     at = next;
   }
-  if (at != end || parts[2] < 1000 || parts[2] > 9999) return {};
-  const std::chrono::year_month_day day(std::chrono::year(parts[2]),
-                                        std::chrono::month(static_cast<unsigned>(parts[0])),
-                                        std::chrono::day(static_cast<unsigned>(parts[1])));
+  const auto [month, dayOfMonth, year] = parts;
+  if (at != end || month < 1 || month > 12 || dayOfMonth < 1 || dayOfMonth > 31 || year < 1000 ||
+      year > 9999) {
+    return {};
+  }
+  const std::chrono::year_month_day day(std::chrono::year(year),
+                                        std::chrono::month(static_cast<unsigned>(month)),
+                                        std::chrono::day(static_cast<unsigned>(dayOfMonth)));
   if (!day.ok()) return {};
   return Day(day);
 }

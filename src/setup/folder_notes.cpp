@@ -17,7 +17,7 @@ std::string folderNotes(const FolderContents& contents) {
   return text +=
          "\r\nDraws and amounts that are called sample were made up by the games' rules. They never took "
          "place:\r\n"
-         "buy, keep and throw away no ticket because of them. The plays of a new folder are samples "
+         "buy, keep and throw away no ticket because of them. A game with sample draws has sample plays "
          "too.\r\n\r\n"
          "tallywick.ini       the update server and other settings\r\n"
          "PWF2.TXT, PWF.TXT   login and password for the update server\r\n"

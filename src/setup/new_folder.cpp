@@ -81,8 +81,8 @@ void writeRoot(const fs::path& root, const FolderContents& contents) {
   files.add(loginFile, "\"tallywick\"\r\n");
   files.add(passwordFile, "\"change-me\"\r\n");
   files.add(settingsFile, settingsText({"127.0.0.1:2121", Settings::Tls::off, "", ""}));
-  files.replace("README.txt", folderNotes(contents));
   files.commit();
+  writeNotes(root, contents);
 }
 
 }  // namespace
@@ -131,6 +131,10 @@ void replaceDraws(const fs::path& folder, const FolderContents::Part& part) {
   FolderFiles files(folder, infoOf(part.game).folder);
   stageDraws(files, part);
   files.commit();
+}
+
+void writeNotes(const fs::path& folder, const FolderContents& contents) {
+  replaceFile(entryInAnyCase(folder, "README.txt"), folderNotes(contents));
 }
 
 void makeSampleFolder(const fs::path& folder, std::uint64_t seed) {

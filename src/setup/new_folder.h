@@ -39,6 +39,9 @@ void writeFolder(const std::filesystem::path& folder, const FolderContents& cont
 /// Replaces the draws and amounts of one game in a folder that stands, and nothing else.
 void replaceDraws(const std::filesystem::path& folder, const FolderContents::Part& part);
 
+/// The README of the folder, which tells what of it is made up.
+void writeNotes(const std::filesystem::path& folder, const FolderContents& contents);
+
 /// A new data folder with sample draws, for a first start: today's clock, any seed.
 void makeSampleFolder(const std::filesystem::path& folder, std::uint64_t seed);
 

@@ -70,7 +70,7 @@ std::string drawsText(const std::vector<DrawEntry>& draws) {
 std::string doublePlayText(const std::vector<DrawEntry>& draws) {
   std::string text;
   const auto isKnown = [](const DrawEntry& draw) { return draw.doublePlay.has_value(); };
-  auto missing = static_cast<std::ptrdiff_t>(shownDraws) - std::ranges::count_if(draws, isKnown);
+  auto missing = static_cast<std::ptrdiff_t>(chartedDraws) - std::ranges::count_if(draws, isKnown);
   for (const DrawEntry& draw : draws) {
     if (isKnown(draw)) appendDoublePlay(text, draw);
   }

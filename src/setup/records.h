@@ -15,8 +15,11 @@ inline constexpr std::size_t shownDraws = 15;
 /// A draw history of ten-field records.
 std::string drawsText(const std::vector<DrawEntry>& draws);
 
+/// The charts read a hundred draws without looking for the end of the file.
+inline constexpr std::size_t chartedDraws = 100;
+
 /// The Double Play history: the draws whose Double Play numbers are known. Where these are fewer than the
-/// displays read, further draws follow with the Double Play numbers left blank.
+/// chart reads, further draws follow with the Double Play numbers left blank.
 std::string doublePlayText(const std::vector<DrawEntry>& draws);
 
 /// The winnings file. A draw that the displays show and that has no amount gets a blank one, or it would be

@@ -1,5 +1,6 @@
 #include "setup/schedule.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -20,6 +21,9 @@ constexpr std::array megaMillionsEras = {
     Era{dayOf(2002, 5, 17), {52, 52}}, Era{dayOf(2005, 6, 24), {56, 46}}, Era{dayOf(2013, 10, 22), {75, 15}},
     Era{dayOf(2017, 10, 31), {70, 25}}, Era{dayOf(2025, 4, 8), {70, 24}}};
 
+/// Mega Millions was not drawn on these Christmas days.
+constexpr std::array megaMillionsHolidays = {dayOf(2007, 12, 25), dayOf(2009, 12, 25)};
+
 std::span<const Era> erasOf(Game game) {
   if (game == Game::powerBall) return powerBallEras;
   return megaMillionsEras;
@@ -38,7 +42,10 @@ std::optional<Matrix> matrixOn(Game game, Day day) {
 bool isDrawDay(Game game, Day day) {
   using namespace std::chrono;
   const weekday weekday(day);
-  if (game == Game::megaMillions) return weekday == Tuesday || weekday == Friday;
+  if (game == Game::megaMillions) {
+    const bool holiday = std::ranges::find(megaMillionsHolidays, day) != megaMillionsHolidays.end();
+    return (weekday == Tuesday || weekday == Friday) && !holiday;
+  }
   return weekday == Wednesday || weekday == Saturday || (weekday == Monday && day >= doublePlayBegin);
 }
 

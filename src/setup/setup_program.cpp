@@ -3,10 +3,13 @@
 #include "core/clock.h"
 #include "core/text.h"
 #include "setup/new_folder.h"
+#include "setup/public_draws.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <ostream>
 #include <stdexcept>
@@ -18,8 +21,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// The exports of one game; empty where there are none.
+struct Exports {
+  std::string draws;
+  std::string amounts;
+};
+
 struct Options {
   std::string folder;
+  std::array<Exports, 2> exports;
+  bool forceDraws = false;
   std::string now;
   std::uint64_t seed = 1;
   bool withoutPlays = false;
@@ -27,9 +38,22 @@ struct Options {
   std::string from;
 };
 
+void addExports(CLI::App& app, const std::string& name, Exports& exports) {
+  CLI::Option* draws =
+      app.add_option(name, exports.draws, "Real draws, from a public export")->type_name("CSV");
+  app.add_option(name + "-amounts", exports.amounts, "Their amounts: draw date, amount, mark count")
+      ->type_name("CSV")
+      ->needs(draws);
+}
+
 void describe(CLI::App& app, Options& options) {
   app.set_version_flag("--version", "tallywick-setup " TALLYWICK_VERSION);
   CLI::Option* folder = app.add_option("DIR", options.folder, "The data folder to make");
+  auto& [powerBallExports, megaMillionsExports] = options.exports;
+  addExports(app, "--powerball", powerBallExports);
+  addExports(app, "--mega-millions", megaMillionsExports);
+  app.add_flag("--force-draws", options.forceDraws,
+               "Replace the draws and amounts of a folder that holds plays; the plays stay");
   app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
   app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
   app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
@@ -50,21 +74,43 @@ Day lastDrawn(const Options& options) {
   return lastDrawnDay(clock.date(), clock.time());
 }
 
-void makeFolder(const Options& options, std::ostream& out) {
-  if (holdsPlays(options.folder)) {
-    throw std::runtime_error(options.folder + " already holds plays; nothing was changed");
-  }
+/// Sample draws, and real ones in their place for each game that has an export. Sample plays go with sample
+/// draws. In a folder that is somebody's, a game without an export is left alone where the other one has one.
+FolderContents contentsOf(const Options& options, bool isSomebodys, std::ostream& out) {
+  const auto hasExport = [](const Exports& exports) { return !exports.draws.empty(); };
+  const bool onlyExports = isSomebodys && std::ranges::any_of(options.exports, hasExport);
   const Day last = lastDrawn(options);
   FolderContents contents = sampleContents(last, options.seed);
-  if (!options.withoutPlays) {
-    for (FolderContents::Part& part : contents.games) {
-      addSamplePlays(part.game, part.book, last, options.seed);
+  for (std::size_t i = 0; i < contents.games.size(); ++i) {
+    FolderContents::Part& part = contents.games[i];
+    const Exports& exports = options.exports[i];
+    if (hasExport(exports)) {
+      readPublicDraws(part.game, exports.draws, exports.amounts, part.book, out);
+      part.origin = join("real draws from ", fs::path(exports.draws).filename().string());
+    } else if (onlyExports) {
+      part.book = {};
+      part.origin = "draws and amounts left as they were";
+    } else {
+      if (!options.withoutPlays) addSamplePlays(part.game, part.book, last, options.seed);
+      out << infoOf(part.game).name << ": " << part.book.draws.size() << " draws, " << part.origin << "\n";
     }
   }
-  writeFolder(options.folder, contents);
-  for (const FolderContents::Part& part : contents.games) {
-    out << infoOf(part.game).name << ": " << part.book.draws.size() << " draws, " << part.origin << "\n";
+  return contents;
+}
+
+void makeFolder(const Options& options, std::ostream& out) {
+  const bool isSomebodys = holdsPlays(options.folder);
+  if (isSomebodys && !options.forceDraws) {
+    throw std::runtime_error(
+        options.folder +
+        " already holds plays; nothing was changed. --force-draws replaces its draws and amounts");
   }
+  const FolderContents contents = contentsOf(options, isSomebodys, out);
+  if (!isSomebodys) return writeFolder(options.folder, contents);
+  for (const FolderContents::Part& part : contents.games) {
+    if (!part.book.draws.empty()) replaceDraws(options.folder, part);
+  }
+  writeNotes(options.folder, contents);
 }
 
 }  // namespace

@@ -1,0 +1,56 @@
+// Reading the exports, and what the user is told about them.
+#include "core/os.h"
+#include "core/text.h"
+#include "setup/csv_table.h"
+#include "setup/public_draws.h"
+
+#include <ostream>
+#include <stdexcept>
+
+namespace tallywick::setup {
+
+namespace {
+
+/// Runs `read` on the table of `file`; whatever is wrong is told with the file's name.
+template <typename Read>
+auto readTable(const std::filesystem::path& file, Read read) {
+  try {
+    const os::FileBytes bytes = os::readFile(file);
+    return read(CsvTable(bytes.view()));
+  } catch (const std::exception& error) {
+    throw std::runtime_error(join(file.string(), ": ", error.what()));
+  }
+}
+
+void tellRefused(const std::vector<RefusedRow>& refused, std::ostream& out) {
+  for (const RefusedRow& row : refused) out << "  refused line " << row.line << ": " << row.reason << "\n";
+}
+
+void tellMissing(const std::vector<Day>& missing, std::ostream& out) {
+  if (missing.empty()) return;
+  out << "  scheduled draws that are missing:";
+  for (Day day : missing) out << ' ' << displayDate(day);
+  out << "\n";
+}
+
+}  // namespace
+
+void readPublicDraws(Game game, const std::filesystem::path& draws, const std::filesystem::path& amounts,
+                     GameBook& book, std::ostream& out) {
+  ImportedDraws imported = readTable(draws, [&](const CsvTable& table) { return importDraws(game, table); });
+  out << infoOf(game).name << ": " << imported.draws.size() << " draws taken from " << draws.string() << "\n";
+  tellRefused(imported.refused, out);
+  if (imported.draws.empty()) throw std::runtime_error(join(draws.string(), ": it holds no draw"));
+  tellMissing(missingDraws(game, imported.draws), out);
+  book.draws = std::move(imported.draws);
+  book.amounts.clear();
+  if (amounts.empty()) return;
+
+  ImportedAmounts won = readTable(amounts, [](const CsvTable& table) { return importAmounts(table); });
+  out << infoOf(game).name << ": " << won.amounts.size() << " amounts taken from " << amounts.string()
+      << "\n";
+  tellRefused(won.refused, out);
+  book.amounts = std::move(won.amounts);
+}
+
+}  // namespace tallywick::setup
