@@ -132,7 +132,7 @@ TEST_F(Maintenance, KilledAnywhereAndRunAgainEndsAsOneUndisturbedOrTwo) {
   const auto twice = scratch.snapshot();
 
   int call = 1;
-  bool changed = false;
+  int seconds = 0;
   for (RunEnd end = RunEnd::killed; end == RunEnd::killed; ++call) {
     for (const auto& file : scratch.snapshot()) std::filesystem::remove(scratch.root() / file.first);
     for (const auto& [name, text] : before) scratch.write(name, text);
@@ -140,10 +140,11 @@ TEST_F(Maintenance, KilledAnywhereAndRunAgainEndsAsOneUndisturbedOrTwo) {
     if (end == RunEnd::untraced) GTEST_SKIP() << "this system does not let a test trace its own child";
     ASSERT_NE(end, RunEnd::failed) << "call " << call;
     run();
-    changed = changed || get("QZR6PWR3.Ply") == records({laterDraw});
-    ASSERT_EQ(scratch.snapshot(), changed ? twice : once) << "killed at call " << call;
+    const bool isSecond = get("QZR6PWR3.Ply") == records({laterDraw});
+    seconds += isSecond ? 1 : 0;
+    ASSERT_EQ(scratch.snapshot(), isSecond ? twice : once) << "killed at call " << call;
   }
-  EXPECT_TRUE(changed && once != twice);
+  EXPECT_TRUE(seconds > 5 && seconds < call - 5) << seconds << " of " << call;
   EXPECT_GT(call, 60) << "the runs were not killed where files change";
 }
 
