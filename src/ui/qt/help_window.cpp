@@ -21,7 +21,7 @@ constexpr QSize usualSize = {760, 640};
 }  // namespace
 
 QString manualFolder() {
-  const QDir folder(QCoreApplication::applicationDirPath() + u"/../share/doc/tallywick/manual"_s);
+  const QDir folder(QCoreApplication::applicationDirPath() + u"/../share/tallywick/manual"_s);
   return folder.exists(u"index.html"_s) ? folder.canonicalPath() : QString();
 }
 

@@ -1,4 +1,4 @@
-// The program's icon: that of the desktop's theme where the program is installed, else drawn.
+// The program's icon: that of the desktop's theme where the program is installed, else its own.
 #pragma once
 
 #include <QIcon>
