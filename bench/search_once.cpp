@@ -1,7 +1,7 @@
 // One search over a data folder, as a program of its own whose time can be taken from outside; and the
 // folder.
-#include "draw_history.h"
 #include "core/data_folder.h"
+#include "draw_history.h"
 #include "search/marks.h"
 #include "search/search_pages.h"
 

@@ -5,6 +5,9 @@ if(CLANG_FORMAT)
        "${PROJECT_SOURCE_DIR}/src/*.cpp" "${PROJECT_SOURCE_DIR}/src/*.h"
        "${PROJECT_SOURCE_DIR}/tests/*.cpp" "${PROJECT_SOURCE_DIR}/tests/*.h"
        "${PROJECT_SOURCE_DIR}/bench/*.cpp" "${PROJECT_SOURCE_DIR}/bench/*.h")
-  add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${formatted} VERBATIM)
-  add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${formatted} VERBATIM)
+  string(JOIN "\n" formatted ${formatted})
+  file(WRITE "${CMAKE_BINARY_DIR}/formatted-files.txt" "${formatted}\n")
+  set(listed "--files=${CMAKE_BINARY_DIR}/formatted-files.txt")
+  add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${listed} VERBATIM)
+  add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${listed} VERBATIM)
 endif()

@@ -49,8 +49,8 @@ struct SummaryPage {
 /// Label15 to Label22.
 void setSummaryHeadings(SummaryPage& page, const GameInfo& game);
 
-/// What List1 shows where the winnings file is missing, empty or torn: an error, or blanks for the amounts that
-/// cannot be read.
+/// What List1 shows where the winnings file is missing, empty or torn: an error, or blanks for the amounts
+/// that cannot be read.
 enum class MissingAmounts { raise, areBlank };
 
 /// List1: the first fifteen draws, fewer where the file is shorter.

@@ -26,7 +26,8 @@ constexpr int wantedTicks = 5;
 
 }  // namespace
 
-ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
+ChartView::ChartView(QWidget* parent)
+    : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
   columnIn(this)->addWidget(plot_);
   setFocusPolicy(Qt::StrongFocus);
   setMinimumHeight(22 * theme::gap);
