@@ -70,6 +70,11 @@ class Binding : public QObject {
 
   HandlerRunner& runner() const { return runner_; }
 
+ protected:
+  /// A mnemonic presses its button at once; the toolkit's own way takes a tenth of a second, in which keys
+  /// get lost.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   struct Bound {
     QPointer<QObject> widget;

@@ -12,6 +12,8 @@
 #include "ui/qt/picker.h"
 
 #include <QAction>
+#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -56,7 +58,19 @@ QPixmap loadPicture(const DataFolder& folder, const std::string& written) {
 
 }  // namespace
 
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+  auto* button = qobject_cast<QAbstractButton*>(watched);
+  if (button == nullptr || event->type() != QEvent::Shortcut) return QObject::eventFilter(watched, event);
+  if (static_cast<const QShortcutEvent*>(event)->isAmbiguous()) {
+    button->setFocus(Qt::ShortcutFocusReason);
+  } else {
+    button->click();
+  }
+  return true;
+}
+
 void Binding::bind(Button& button, QAbstractButton& widget, const Wording& wording) {
+  widget.installEventFilter(this);
   connect(&widget, &QAbstractButton::clicked, this, [this, &button] { press(button); });
   enter(button, widget, [&button, &widget, wording] {
     widget.setText(wording(button.caption()));
