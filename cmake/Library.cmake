@@ -14,5 +14,5 @@ function(tallywick_test name)
   target_include_directories(${name}_test PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES} tallywick_warnings GTest::gtest GTest::gmock
                                              GTest::gtest_main)
-  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES PROPERTIES TIMEOUT 120)
 endfunction()
