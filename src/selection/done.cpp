@@ -1,4 +1,5 @@
 // Done: the current plays become the committed ones.
+#include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
@@ -56,7 +57,7 @@ std::vector<std::string> drawDates(const SelectionForm& form, const std::vector<
     requireCalendar(folder);
     return {};
   }
-  return drawDatesFrom(folder, form.rules.drawDays, plays.front().date, draws);
+  return drawDatesFrom(folder, drawDayCodes(form.game.game), plays.front().date, draws);
 }
 
 /// Replaces the committed plays, empties the current ones and keeps the copy, all three or none.

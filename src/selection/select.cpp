@@ -1,4 +1,5 @@
 // Select: forms the play from the marks, checks it, dates it and adds it to the current plays.
+#include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
@@ -100,7 +101,7 @@ struct DatedPlay {
 
 DatedPlay date(const SelectionForm& form, const MarkedPlay& play) {
   const SelectionSurroundings& around = form.surroundings;
-  DatedPlay dated = {drawDateOfPlayMadeNow(around.folder, around.clock, form.rules.drawDays),
+  DatedPlay dated = {drawDateOfPlayMadeNow(around.folder, around.clock, drawDayCodes(form.game.game)),
                      {},
                      decadePattern(form.rules, play)};
   std::transform(play.places.begin(), play.places.end(), dated.numbers.begin(), twoDigits);

@@ -35,8 +35,6 @@ struct SelectionRules {
   int numbers;
   /// Presses take "01" to this number through main and extra, the others through main only.
   int threeMarks;
-  /// The calendar's codes of the days on which the game is drawn.
-  std::string_view drawDays;
 
   std::string_view invalidExtra;
   std::string_view invalidExtraTitle;

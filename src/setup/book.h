@@ -1,7 +1,7 @@
 // What goes into a game folder, before it is written as records.
 #pragma once
 
-#include "setup/day.h"
+#include "core/day.h"
 
 #include <array>
 #include <optional>

@@ -90,7 +90,7 @@ void writeRoot(const fs::path& root, const FolderContents& contents) {
 Day lastDrawnDay(std::string_view date, std::string_view time) {
   const std::optional<Day> today = parseDay(date);
   if (!today) throw std::invalid_argument(join("\"", date, "\" is no date; expected MM-DD-YYYY"));
-  return time > "23:00:00" ? *today : *today - std::chrono::days(1);
+  return time > "23:00:00" ? *today : *today - 1;
 }
 
 FolderContents sampleContents(Day last, std::uint64_t seed) {

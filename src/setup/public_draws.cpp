@@ -1,9 +1,9 @@
 #include "setup/public_draws.h"
 
+#include "core/eras.h"
 #include "core/os.h"
 #include "core/text.h"
 #include "setup/csv_table.h"
-#include "setup/schedule.h"
 
 #include <algorithm>
 #include <charconv>

@@ -114,13 +114,15 @@ std::string savedTexts(const std::vector<Balls>& texts) {
 std::string calendarText(Day first, Day last) {
   constexpr std::array names = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
   std::string text;
-  for (Day day = first; day <= last; day += std::chrono::days(1)) {
-    const unsigned code = std::chrono::weekday(day).iso_encoding();
-    const auto year = std::chrono::year_month_day(day).year();
-    const auto dayOfYear = (day - Day(year / std::chrono::January / 1)).count() + 1;
-    std::string ordinal = std::to_string(dayOfYear);
+  for (Day day = first; day <= last; day += 1) {
+    const int code = day.weekday();
+    std::string ordinal = std::to_string(day.dayOfYear());
     ordinal.insert(0, 3 - ordinal.size(), '0');
-    Record(text).day(day).field(names[code - 1]).field(ordinal).field(std::to_string(code));
+    Record(text)
+        .day(day)
+        .field(names.at(static_cast<std::size_t>(code - 1)))
+        .field(ordinal)
+        .field(std::to_string(code));
   }
   return text;
 }

@@ -1,7 +1,7 @@
 #include "setup/sample.h"
 
+#include "core/eras.h"
 #include "core/random.h"
-#include "setup/schedule.h"
 
 #include <algorithm>
 #include <array>

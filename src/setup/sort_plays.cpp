@@ -1,15 +1,16 @@
 #include "setup/sort_plays.h"
 
 #include "core/data_folder.h"
+#include "core/day.h"
 #include "core/file_commit.h"
 #include "core/games.h"
 #include "core/plays.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
-#include "setup/day.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <limits>
 #include <ostream>
 #include <utility>
 
@@ -22,8 +23,8 @@ namespace {
 /// A record with its line end, as it stands in the file.
 struct PlayLine {
   std::string_view text;
-  /// Behind every real date where it has none.
-  Day day;
+  /// The number of its day; behind every real date where it has none.
+  int day;
 };
 
 /// Cuts the first line with its end, CR LF, LF or CR, off `text`.
@@ -36,9 +37,9 @@ std::string_view takeLine(std::string_view& text) {
 }
 
 /// Only a date as the program itself writes it is one.
-Day dayOfPlay(const Play& play) {
+int dayOfPlay(const Play& play) {
   const std::optional<Day> day = play.isListed() ? parseDay(play.date) : std::nullopt;
-  return day && displayDate(*day) == play.date ? *day : Day::max();
+  return day && displayDate(*day) == play.date ? day->number() : std::numeric_limits<int>::max();
 }
 
 PlayLine readLine(std::string_view line, const std::string& where) {

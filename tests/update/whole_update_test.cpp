@@ -12,8 +12,8 @@ namespace tallywick::test {
 namespace {
 
 constexpr std::uint64_t seed = 7;
-const setup::Day olderDay = setup::dayOf(2026, 11, 17);
-const setup::Day newerDay = setup::dayOf(2026, 11, 21);
+const Day olderDay = dayOf(2026, 11, 17);
+const Day newerDay = dayOf(2026, 11, 21);
 
 /// What the program prints; it is killed where it does not end.
 std::string outputOf(const std::string& lines, const ScratchFolder& book, const std::string& server) {

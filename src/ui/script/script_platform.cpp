@@ -1,12 +1,12 @@
 #include "ui/script/script_platform.h"
 
 #include "app/program_start.h"
+#include "core/day.h"
 #include "core/os.h"
 #include "core/text.h"
 #include "ui/script/control_json.h"
 
 #include <charconv>
-#include <chrono>
 #include <filesystem>
 #include <iostream>
 
@@ -50,10 +50,8 @@ bool isTime(std::string_view text) {
     std::from_chars(text.data() + begin, text.data() + begin + size, value);
     return value;
   };
-  const std::chrono::year_month_day day{std::chrono::year(number(6, 4)),
-                                        std::chrono::month(static_cast<unsigned>(number(0, 2))),
-                                        std::chrono::day(static_cast<unsigned>(number(3, 2)))};
-  return day.ok() && number(11, 2) < 24 && number(14, 2) < 60 && number(17, 2) < 60;
+  return Day::from(number(6, 4), number(0, 2), number(3, 2)) && number(11, 2) < 24 && number(14, 2) < 60 &&
+         number(17, 2) < 60;
 }
 
 }  // namespace

@@ -1,11 +1,15 @@
-#include "setup/day.h"
+#include "core/day.h"
 
 #include "core/text.h"
 
 #include <array>
 #include <charconv>
 
-namespace tallywick::setup {
+namespace tallywick {
+
+int Day::dayOfYear() const {
+  return *this - *from(year(), 1, 1) + 1;
+}
 
 std::optional<Day> parseDay(std::string_view text) {
   std::array<int, 3> parts{};
@@ -19,23 +23,16 @@ std::optional<Day> parseDay(std::string_view text) {
     if (error != std::errc()) return {};
     at = next;
   }
-  const auto [month, dayOfMonth, year] = parts;
-  if (at != end || month < 1 || month > 12 || dayOfMonth < 1 || dayOfMonth > 31 || year < 1000 ||
-      year > 9999) {
-    return {};
-  }
-  const std::chrono::year_month_day day(std::chrono::year(year),
-                                        std::chrono::month(static_cast<unsigned>(month)),
-                                        std::chrono::day(static_cast<unsigned>(dayOfMonth)));
-  if (!day.ok()) return {};
-  return Day(day);
+  if (at != end || parts[2] < 1000) return {};
+  const auto [month, day, year] = parts;
+  return Day::from(year, month, day);
 }
 
 DayFields fieldsOf(Day day) {
-  const std::chrono::year_month_day date(day);
+  const std::chrono::year_month_day date = day.date();
   return {twoDigits(static_cast<int>(static_cast<unsigned>(date.month()))),
           twoDigits(static_cast<int>(static_cast<unsigned>(date.day()))),
-          std::to_string(static_cast<int>(date.year()))};
+          join(twoDigits(day.year() / 100), twoDigits(day.year()))};
 }
 
 std::string displayDate(Day day) {
@@ -43,4 +40,4 @@ std::string displayDate(Day day) {
   return join(fields.month, "-", fields.day, "-", fields.year);
 }
 
-}  // namespace tallywick::setup
+}  // namespace tallywick
