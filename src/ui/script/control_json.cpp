@@ -105,6 +105,17 @@ Json describeOption(const OptionButton& option) {
   return json;
 }
 
+std::string_view nameOf(DrawState state) {
+  if (state == DrawState::unknown) return "unknown";
+  return state == DrawState::drawn ? "drawn" : "waiting";
+}
+
+void addMatch(Json& json, const Match& match) {
+  json["matched"] = match.whites;
+  json["extraMatched"] = match.extra;
+  json["wins"] = match.wins();
+}
+
 /// A caption as it looks: a doubled ampersand is one, a single one only marks a letter.
 std::string looksLike(std::string_view caption) {
   std::string text;
@@ -170,6 +181,21 @@ Json describe(const Control& control) {
 Json describe(const Form& form) {
   Json json = named(form.name(), "window");
   json["title"] = form.title();
+  return json;
+}
+
+Json describe(const JudgedPlay& play) {
+  Json json;
+  json["file"] = play.file == PlaySlot::committed ? "committed" : "played";
+  json["date"] = play.date;
+  json["white"] = play.white;
+  json["extra"] = play.extra;
+  json["state"] = nameOf(play.state);
+  addMatch(json, play.match);
+  json["jackpot"] = play.jackpot;
+  json["prize"] = play.prize ? Json(*play.prize) : Json();
+  json["doublePlay"] = nullptr;
+  if (play.doublePlay) addMatch(json["doublePlay"] = Json::object(), *play.doublePlay);
   return json;
 }
 

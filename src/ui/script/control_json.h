@@ -1,7 +1,8 @@
-// What `show` and `print` tell of a control.
+// What `show` and `print` tell of a control, and `plays` of a play.
 #pragma once
 
 #include "controls/controls.h"
+#include "display/judging.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -13,6 +14,8 @@ using Json = nlohmann::ordered_json;
 /// Name, type and all properties of that type, always the same keys in the same order.
 Json describe(const Control& control);
 Json describe(const Form& form);
+/// A judged play as `plays` prints it.
+Json describe(const JudgedPlay& play);
 
 /// The control's text as lines for people, each with its line end: a caption, a drop-down's text, a list's
 /// items.

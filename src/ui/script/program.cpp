@@ -36,7 +36,8 @@ void declare(CLI::App& line, Options& options) {
   line.footer(
       "Lines: click NAME, choose NAME INDEX, type NAME TEXT, answer yes|no, now DATE TIME, show NAME..., "
       "print NAME...,\n"
-      "close NAME, windows; # begins a comment line. The manual's page on scripts tells more.");
+      "close NAME, windows, plays powerball|mega-millions; # begins a comment line. The manual's page on "
+      "scripts tells more.");
 }
 
 int complain(const std::string& what) {

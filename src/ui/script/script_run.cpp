@@ -1,9 +1,11 @@
 #include "ui/script/script_run.h"
 
 #include "core/text.h"
+#include "display/judging.h"
 #include "ui/script/control_json.h"
 
 #include <charconv>
+#include <iostream>
 #include <istream>
 #include <ostream>
 
@@ -76,6 +78,8 @@ void ScriptRun::runLine(std::string_view line) {
   } else if (verb == "windows") {
     if (!trimmed(rest).empty()) throw BadLine("windows stands alone");
     listWindows();
+  } else if (verb == "plays") {
+    judgePlays(trimmed(rest));
   } else {
     throw BadLine(join("\"", verb, "\" is no command"));
   }
@@ -140,6 +144,17 @@ void ScriptRun::listWindows() {
   Json names = Json::array();
   for (const Form* form : application_.windows()) names.push_back(form->name());
   out_ << oneLine({{"windows", names}}) << std::endl;
+}
+
+void ScriptRun::judgePlays(std::string_view game) {
+  if (game != "powerball" && game != "mega-millions") throw BadLine("plays takes powerball or mega-millions");
+  const GameInfo& info = game == "powerball" ? powerBall : megaMillions;
+  const Judgement judgement = tallywick::judgePlays(info, application_.surroundings().folder);
+  for (const JudgedPlay& play : judgement.plays) out_ << oneLine({{"play", describe(play)}}) << "\n";
+  out_ << std::flush;
+  for (const std::string& torn : judgement.torn) {
+    std::cerr << "tallywick-script: " << torn << "; what comes before it is judged" << std::endl;
+  }
 }
 
 Control& ScriptRun::control(std::string_view name) const {

@@ -35,6 +35,7 @@ class ScriptRun {
   void print(std::string_view name);
   void close(std::string_view name);
   void listWindows();
+  void judgePlays(std::string_view game);
   /// Raises BadLine where there is no such control or its window is not open.
   Control& control(std::string_view name) const;
 
