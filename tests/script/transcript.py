@@ -158,18 +158,23 @@ def transcript(program, script):
         return run.end()
 
 
-options = argparse.ArgumentParser(description='Compares what tallywick-script does with transcripts.')
-options.add_argument('program')
-options.add_argument('scripts', nargs='+', type=pathlib.Path)
-options.add_argument('--accept', action='store_true', help='write the transcripts anew')
-given = options.parse_args()
-differs = False
-for script in given.scripts:
-    actual, expected = transcript(given.program, script), script.with_suffix('.expected')
-    if given.accept:
-        expected.write_text(actual, encoding='utf-8')
-        continue
-    wanted = expected.read_text(encoding='utf-8') if expected.exists() else ''
-    sys.stdout.writelines(difflib.unified_diff(wanted.splitlines(True), actual.splitlines(True), expected.name, 'now'))
-    differs |= actual != wanted
-sys.exit(differs)
+def main():
+    options = argparse.ArgumentParser(description='Compares what tallywick-script does with transcripts.')
+    options.add_argument('program')
+    options.add_argument('scripts', nargs='+', type=pathlib.Path)
+    options.add_argument('--accept', action='store_true', help='write the transcripts anew')
+    given = options.parse_args()
+    differs = False
+    for script in given.scripts:
+        actual, expected = transcript(given.program, script), script.with_suffix('.expected')
+        if given.accept:
+            expected.write_text(actual, encoding='utf-8')
+            continue
+        wanted = expected.read_text(encoding='utf-8') if expected.exists() else ''
+        sys.stdout.writelines(difflib.unified_diff(wanted.splitlines(True), actual.splitlines(True), expected.name, 'now'))
+        differs |= actual != wanted
+    return differs
+
+
+if __name__ == '__main__':
+    sys.exit(main())

@@ -1,0 +1,194 @@
+// What scripts cannot reach of the searches and counts: every set of marks in every member of the family, the
+// leftover state game, files that end inside a record, and what a window emphasises.
+#include "core/runtime_error.h"
+#include "search/marks.h"
+#include "search/search_pages.h"
+#include "support/fakes.h"
+#include "support/scratch_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallywick {
+namespace {
+
+using test::itemsOf;
+using testing::ElementsAre;
+
+constexpr std::string_view powerBallDraws = R"(QzrNumbers\QZR6PWR\QZRNUM62.Dat)";
+constexpr std::string_view doublePlayDraws = R"(QzrNumbers\QZR6PWR\QZRNUM72.Dat)";
+constexpr std::string_view megaMillionsDraws = R"(QzrNumbers\QZR6MEG\QZRNUM62.Dat)";
+constexpr std::string_view hoosierDraws = R"(QzrNumbers\Qzr6Ind\QZRNUM62.Dat)";
+
+struct SearchWindow {
+  SearchWindow() {
+    for (Frame* frame : {&frames.Frame4, &frames.Frame5, &frames.Frame6, &frames.Frame11}) frame->hide();
+  }
+  /// Marks exactly these positions, from 1.
+  static void mark(ButtonRow<6>& row, std::string_view positions) {
+    unmarkAll(row);
+    for (char position : positions) toggleMark(row[static_cast<std::size_t>(position - '1')]);
+  }
+
+  test::ScratchFolder files;
+  Form form{"Form1"};
+  GameFrames frames{form};
+  SearchPages pages{form};
+  test::RecordingBoxes boxes;
+};
+
+struct Member {
+  const char* name;
+  void (*search)(TwoThreePage&, const DataFolder&, MessageBoxes&);
+  std::string_view file;
+  const char* noneMarked;
+  const char* tooMany;
+  bool hasButton = true;
+};
+
+const Member members[] = {
+    {"Command38", Command38_Click, powerBallDraws,
+     "PowerBall Lotto Search.|Minimum of Two Number Must Be Selected...",
+     "PowerBall Lottery Game|Error !!!  Search for Two or Three Numbers,\r\nPlease Retry."},
+    {"Command25", Command25_Click, megaMillionsDraws,
+     "Mega Million Lottery Game.|Minimum of Two Number Must Be Selected...",
+     "Mega Million Lottery Game.|Error !!!  Search for Two or Three Numbers,\r\nPlease Retry."},
+    {"Command26", Command26_Click, doublePlayDraws,
+     "PowerBall Double Play Lotto Search.|Minimum of Two Number Must Be Selected...",
+     "PowerBall Double Play Lotto Search.|Error !!!  Search for Two or Three Numbers,\r\nPlease Retry."},
+    {"SearchOneTwoThreeMega", SearchOneTwoThreeMega, megaMillionsDraws, "0 boxes",
+     "PowerBall Lottery Game|Error !!!  Search for One, Two or Three Numbers,\r\nPlease Retry.", false},
+    {"SearchOneTwoThreeHoosier", SearchOneTwoThreeHoosier, hoosierDraws, "0 boxes",
+     "Hoosier Lottery Game|Error !!!  Search for One, Two or Three Numbers,\r\nPlease Retry.", false},
+};
+
+class TwoThreeSearch : public testing::TestWithParam<Member>, public SearchWindow {
+ protected:
+  void search(const std::string& marks) {
+    for (std::size_t i = 0; i < 6; ++i) page.numbers[i].setCaption("1" + std::to_string(i + 1));
+    mark(page.numbers, marks);
+    boxes.shown.clear();
+    page.List8.clear();
+    page.List8.add("old");
+    page.Label25.setCaption("old");
+    GetParam().search(page, files.folder(), boxes);
+  }
+
+  TwoThreePage& page = pages.twoThree;
+};
+
+INSTANTIATE_TEST_SUITE_P(Members, TwoThreeSearch, testing::ValuesIn(members),
+                         [](const auto& member) { return std::string(member.param.name); });
+
+// One draw holds all six numbers; another one only those marked, the last of them as extra ball.
+TEST_P(TwoThreeSearch, TakesEverySetOfMarks) {
+  for (unsigned set = 0; set < 64; ++set) {
+    std::string marks;
+    for (unsigned bit = 0; bit < 6; ++bit) {
+      if ((set >> bit & 1U) != 0) marks += static_cast<char>('1' + bit);
+    }
+    SCOPED_TRACE(marks);
+    const std::string third = marks.size() == 3 ? "1" + marks.substr(1, 1) : "43";
+    const std::string second = "1" + marks.substr(0, 1) + "," + third + ",40,41,42,1" +
+                               (marks.empty() ? std::string() : marks.substr(marks.size() - 1));
+    files.write(GetParam().file,
+                test::records({"03,07,2026,11,12,13,14,15,16,X1", "03,04,2026," + second + ",X2",
+                               "03,01,2026,11,50,51,52,53,54,X3"}));
+    search(marks);
+    if (marks.size() < 2 || marks.size() > 3) {
+      EXPECT_EQ(boxes.only(), marks.empty()      ? GetParam().noneMarked
+                              : marks.size() > 1 ? GetParam().tooMany
+                                                 : "0 boxes");
+      EXPECT_EQ(page.Label25.caption() + page.Combo7.text(), "old");
+      EXPECT_THAT(itemsOf(page.List8), ElementsAre("old"));
+      continue;
+    }
+    const bool ignoresExtra = marks == "123" || marks == "124";
+    const std::string extraLine =
+        std::string(" 03-04-2026    1") + marks[0] + " " + third + " 40 41 42   1" + marks.back();
+    const std::string allLine = " 03-07-2026    11 12 13 14 15   16";
+    const std::string tail = !GetParam().hasButton || marks == "126" ? "     X2"
+                             : marks == "13"                         ? "     "
+                                                                     : "";
+    std::vector<std::string> plain = {allLine, extraLine};
+    std::vector<std::string> dropped = {allLine + (GetParam().hasButton ? "" : "     X1"), extraLine + tail};
+    if (ignoresExtra) plain.pop_back(), dropped.pop_back();
+    const bool neverCounts = GetParam().search == Command26_Click && marks == "236";
+
+    EXPECT_EQ(itemsOf(page.Combo7), dropped);
+    EXPECT_EQ(page.Combo7.text(), dropped[neverCounts ? 1 : 0]);
+    EXPECT_EQ(itemsOf(page.List8), GetParam().hasButton ? plain : std::vector<std::string>{"old"});
+    const std::string count = neverCounts ? "0" : std::to_string(plain.size());
+    const bool isPair = marks.size() == 2 || marks == "245";
+    std::string tally = std::string(" 1") + marks[0] + " && 1" + marks[1];
+    tally += isPair ? "            " : std::string(" && 1") + marks[2] + "     ";
+    EXPECT_EQ(page.Label25.caption(), tally + count + "  Times.");
+  }
+}
+
+TEST_P(TwoThreeSearch, ARecordCutOffIsError62ExceptInTens) {
+  files.write(GetParam().file, "03,07,2026,11,12,13,14,15,16,X1\r\n03,04,2026,11,12,13\r\n");
+  if (GetParam().search == Command26_Click) {
+    search("12");
+    EXPECT_EQ(page.Label25.caption(), " 11 && 12            1  Times.");
+    EXPECT_THAT(page.List8.emphasis(), ElementsAre("11", "12"));
+  } else {
+    EXPECT_THROW(search("12"), RuntimeError);
+  }
+}
+
+class OneNumber : public testing::Test, public SearchWindow {
+ protected:
+  /// Runs the three counts; what their drop-downs show then.
+  std::string count() {
+    for (ButtonRow<6>* row : {&pages.havePlayed.numbers, &pages.havePlayedPlays.numbers}) {
+      (*row)[0].setCaption("07");
+      mark(*row, "1");
+    }
+    pages.played.Command23.setCaption("07");
+    Command21_Click(pages.havePlayed, frames, files.folder(), boxes);
+    const std::string first = pages.havePlayed.Combo5.text();
+    Command30_Click(pages.played, frames, files.folder(), boxes);
+    Command46_Click(pages.havePlayedPlays, pages.havePlayed.Combo5, frames, files.folder(), boxes);
+    return first + "|" + pages.played.Combo6.text() + "|" + pages.havePlayedPlays.Combo9.text();
+  }
+};
+
+TEST_F(OneNumber, IsCountedInTheFileOfTheFirstVisibleFrame) {
+  files.write(powerBallDraws, "PB,1,1,07,2,3,4,5,6,x\r\n");
+  files.write(doublePlayDraws, "DP,1,1,2,07,4,5,6,9,x,x,1,2,3,4,07,8,x\r\n");
+  files.write(megaMillionsDraws, "MM,1,1,07,2,3,4,5,6,x\r\n");
+  files.write(hoosierDraws, "IN,1,1,07,2,3,4,5,6,x\r\n");
+  const std::string pb = " PB-1-1    07 2 3 4 5   6";
+  const std::string dp = " DP-1-1    1 2 3 4 07   8";
+  const std::string mm = " MM-1-1    07 2 3 4 5   6";
+  EXPECT_EQ(count(), "||") << "no game is shown";
+  frames.Frame11.show();
+  EXPECT_EQ(count(), mm + "|" + mm + "|" + mm);
+  frames.Frame6.show();
+  EXPECT_EQ(count(), dp + "|" + dp + "|" + mm);
+  frames.Frame5.show();
+  EXPECT_EQ(count(), dp + "|" + dp + "| IN-1-1    07 2 3 4 5   6");
+  frames.Frame4.show();
+  EXPECT_EQ(count(), pb + "|" + pb + "|" + pb);
+  EXPECT_THAT(pages.played.List7.emphasis(), ElementsAre("07"));
+  files.write(powerBallDraws, "03,07,2026,11,12,13,14,15,16\r\n");
+  EXPECT_THROW(count(), RuntimeError);
+}
+
+TEST_F(OneNumber, OfTheStateGameIsTwoPlacesFurtherLeft) {
+  for (ComboBox* source : {&pages.twoThree.Combo4, &pages.havePlayed.Combo2, &pages.havePlayedPlays.Combo8})
+    source->setText(" 03-06-2026    11 12 13 14 15 X 16");
+  pages.played.Command23.setCaption("old");
+  frames.Frame5.show();
+  Command37_Click(pages.twoThree);
+  Command22_Click(pages.havePlayed, frames);
+  Command45_Click(pages.havePlayedPlays, frames);
+  Command29_Click(pages.played, frames);
+  EXPECT_EQ(pages.twoThree.numbers[5].caption() + pages.havePlayed.numbers[5].caption() +
+                pages.havePlayedPlays.numbers[5].caption() + pages.played.Command23.caption(),
+            "16X X ");
+}
+
+}  // namespace
+}  // namespace tallywick
