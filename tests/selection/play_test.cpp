@@ -1,4 +1,4 @@
-// Select and Done: what is accepted, for which draw, and what the files hold afterwards.
+// Select and Done on files that others have changed, and marks that no press makes.
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "selection/selection_fixture.h"
@@ -9,109 +9,18 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-TEST_F(Selection, SelectChecksTheMarksInItsOrder) {
-  struct Row {
-    const char* name;
-    const GameInfo& game;
-    const char* main;
-    const char* extra;
-    const char* outcome;
-    const char* marksLeft;
-  };
-  constexpr const char* powerBallTitle = "PowerBall Lotto Select to Play.|";
-  constexpr const char* megaTitle = "Mega Millions Lotto Select to Play.|";
-  const std::string six = "Six Numbers Must Be Selected...";
-  const Row rows[] = {
-      {"nothing", powerBall, "", "", "You haven't Selected a PowerBall Selection...", ""},
-      {"no extra", powerBall, "05 11 23 42 60", "", "You haven't Selected a PowerBall Selection...", ""},
-      {"no extra", megaMillions, "05 11 23 42 60 70", "", "You haven't Selected a Mega Millions Selection...",
-       ""},
-      {"seven", powerBall, "05 11 23 42 60 61", "07", six.c_str(), ""},
-      {"four", powerBall, "05 11 23", "07", six.c_str(), ""},
-      {"two extras", powerBall, "05 11 23 42 60 61", "07 08", "Only One PowerBall Selection Can Be Made...",
-       ""},
-      {"two extras", megaMillions, "05 11 23 42", "07 08", "Only One Mega Millions Selection Can Be Made...",
-       ""},
-      {"refused extra", powerBall, "05 11", "52 43",
-       "PowerBall Lottery Game|You've Selected an Invalid PowerBall Number.", "05 11 [52] "},
-      {"refused extra", megaMillions, "05 11", "52",
-       "MegaMillions Lottery Game|You've Selected an Invalid MegaMillions Number.", "05 11 "},
-      {"extra first", powerBall, "05 11 23 42 60", "01", "11-21-2026,05,11,23,42,60,01,1110101", ""},
-      {"extra between", powerBall, "05 11 23 42 60", "26", "11-21-2026,05,11,23,42,60,26,1110101", ""},
-      {"eight decades", megaMillions, "09 10 70 78 79", "25", "11-24-2026,09,10,70,78,79,25,11000003", ""},
-      {"beyond the refused ones", megaMillions, "05 11 23 44 60", "42",
-       "11-24-2026,05,11,23,44,60,42,11101010", ""},
-      {"four and an extra pass", powerBall, "05 11 42 60", "07", "11-21-2026,05,07,11,42,60,07,2100101", ""},
-  };
-  for (const Row& row : rows) {
-    open(row.game);
-    boxes.shown.clear();
-    select(row.main, row.extra);
-    const std::string outcome = row.outcome;
-    if (outcome.find("11-2") == 0) {
-      EXPECT_EQ(get("7.Ply"), records({outcome})) << row.name << " " << row.game.name;
-      EXPECT_TRUE(boxes.shown.empty());
-    } else {
-      const bool named = outcome.find('|') != std::string::npos;
-      const std::string title = &row.game == &powerBall ? powerBallTitle : megaTitle;
-      EXPECT_EQ(boxes.only(), named ? outcome : title + outcome) << row.name << " " << row.game.name;
-      EXPECT_EQ(boxes.shown.at(0).icon, named ? MessageBox::Icon::exclamation : MessageBox::Icon::none);
-      EXPECT_EQ(get("7.Ply"), "");
-    }
-    EXPECT_EQ(form->Command1.enabled(), boxes.shown.empty());
-    EXPECT_EQ(marks(), row.marksLeft) << row.name << " " << row.game.name;
-  }
-}
-
-TEST_F(Selection, SelectDatesThePlayForTheNextDraw) {
-  struct Row {
-    const GameInfo& game;
-    const char* date;
-    const char* time;
-    const char* draw;
-  };
-  for (const Row& row : {Row{powerBall, "11-21-2026", "18:00:00", "11-21-2026"},
-                         Row{powerBall, "11-21-2026", "18:00:01", "11-23-2026"},
-                         Row{powerBall, "11-22-2026", "09:00:00", "11-23-2026"},
-                         Row{powerBall, "11-24-2026", "23:59:59", "11-25-2026"},
-                         Row{megaMillions, "11-21-2026", "09:00:00", "11-24-2026"},
-                         Row{megaMillions, "11-24-2026", "18:00:01", "11-27-2026"},
-                         Row{megaMillions, "11-27-2026", "00:00:00", "11-27-2026"}}) {
-    open(row.game, row.date, row.time);
-    select("05 11 23 42 60", "07");
-    EXPECT_THAT(get("7.Ply"), HasSubstr(join("\"", row.draw, "\""))) << row.date << " " << row.time;
-  }
-}
-
-TEST_F(Selection, SelectAddsToTheCurrentPlaysAndListsThem) {
+TEST_F(Selection, MarksThatNoPressMakesAreRefusedOrTakenOff) {
   open();
-  scratch.write(path("7.Ply"), "11-21-2026,01,02,03,04,05,06,5000000");
-  select("05 11 23 42 60", "07");
-  EXPECT_EQ(get("7.Ply"),
-            "11-21-2026,01,02,03,04,05,06,5000000\r\n" + records({"11-21-2026,05,11,23,42,60,07,1110101"}));
-  EXPECT_THAT(itemsOf(form->Combo1), ElementsAre("  11-21-2026      01  02  03  04  05  06",
-                                                 "  11-21-2026      05  11  23  42  60  07"));
-  EXPECT_EQ(form->Combo1.text(), "  11-21-2026      05  11  23  42  60  07");
-  EXPECT_EQ(form->StatusBar1.panels()[1], "2");
-  EXPECT_TRUE(form->Command1.enabled());
-}
-
-TEST_F(Selection, TheDrawCountGoesRoundAfterDraw) {
-  open();
-  press("Command4");
-  EXPECT_EQ(form->Label1.caption(), "    ") << "disabled until Draw";
-  select("05 11 23 42 60", "07");
-  press("Command1");
-  EXPECT_TRUE(form->Label1.visible() && form->Command4.enabled() && form->Command5.enabled());
-  EXPECT_FALSE(form->Command1.enabled() || form->Command7.enabled());
-  std::vector<std::string> captions;
-  for (int i = 0; i < 10; ++i) {
-    press("Command4");
-    captions.push_back(form->Label1.caption());
-  }
-  EXPECT_THAT(captions,
-              ElementsAre("   2", "   3", "   4", "   5", "   6", "   7", "   8", "   9", "  10", "    "));
+  mark("05 11", Mark::main);
+  mark("52 43", Mark::extra);
+  form->Command59.show();
+  press("Command59");
+  EXPECT_EQ(boxes.only(), "PowerBall Lottery Game|You've Selected an Invalid PowerBall Number.");
+  EXPECT_EQ(marks(), "05 11 [52] ");
+  press("52");
+  EXPECT_EQ(marks(), "05 11 ");
   form->Label1.setCaption("odd");
+  form->Command4.setEnabled(true);
   press("Command4");
   EXPECT_EQ(form->Label1.caption(), "   2");
 }
