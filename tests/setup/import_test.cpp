@@ -121,6 +121,8 @@ TEST(Setup, ASampleFolderIsRepeatableAndHasWhatTheDisplaysRead) {
   EXPECT_EQ(drawOf(newest.record<drawFields>()).displayDate(), "11-18-2026");
   EXPECT_EQ(PlayFile(folder, "QzrNumbers/QZR6MEG/QZR6MEG1.Ply").plays().front().date, "11-24-2026");
   EXPECT_THAT(files.at("a/QZRNUM22.DTE"), testing::StartsWith(R"("01","01","2002","Tuesday","001","2")"));
+  EXPECT_THAT(files.at("a/QZRNUM22.DTE"),
+              testing::EndsWith("\r\n\"12\",\"31\",\"2050\",\"Saturday\",\"365\",\"6\"\r\n"));
 }
 
 TEST(Import, TheRealExportsAreTakenWholeAndLackWhatTheyLack) {
