@@ -2,36 +2,15 @@
 #pragma once
 
 #include "core/day.h"
+#include "exports/entries.h"
 
-#include <array>
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace tallywick::setup {
 
-/// Five white balls and the extra ball, of a draw or a play.
-struct Balls {
-  std::array<int, 5> white;
-  int extra;
-};
-
-struct DrawEntry {
-  Day day;
-  Balls balls;
-  /// The tenth field: the number that multiplies the prizes, without a leading zero; "1" where there was
-  /// none.
-  std::string multiplier = "1";
-  std::optional<Balls> doublePlay = {};
-};
-
-struct AmountEntry {
-  Day day;
-  /// As it is to be shown.
-  std::string amount;
-  /// How many tickets won it.
-  int marks = 0;
-};
+using exports::AmountEntry;
+using exports::Balls;
+using exports::DrawEntry;
 
 struct PlayEntry {
   Day day;

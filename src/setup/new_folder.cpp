@@ -5,6 +5,7 @@
 #include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/text.h"
+#include "exports/record_texts.h"
 #include "setup/ball_picture.h"
 #include "setup/folder_notes.h"
 #include "setup/records.h"
@@ -41,11 +42,11 @@ class FolderFiles {
 
 void stageDraws(FolderFiles& files, const FolderContents::Part& part) {
   const GameInfo& game = infoOf(part.game);
-  const std::string draws = drawsText(part.book.draws);
+  const std::string draws = exports::drawsText(part.book.draws);
   files.replace(drawsFile, draws);
   files.replace(searchDrawsFile, draws);
-  if (part.game == Game::powerBall) files.replace(doublePlayFile, doublePlayText(part.book.draws));
-  files.replace(game.winningsFile, winningsText(part.book.amounts, part.book.draws));
+  if (part.game == Game::powerBall) files.replace(doublePlayFile, exports::doublePlayText(part.book.draws));
+  files.replace(game.winningsFile, exports::winningsText(part.book.amounts, part.book.draws));
 }
 
 void addPlays(const fs::path& root, const FolderContents::Part& part) {

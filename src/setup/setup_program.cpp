@@ -2,8 +2,8 @@
 
 #include "core/clock.h"
 #include "core/text.h"
+#include "exports/import_report.h"
 #include "setup/new_folder.h"
-#include "setup/public_draws.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
 
@@ -22,14 +22,14 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The exports of one game; empty where there are none.
-struct Exports {
+struct ExportFiles {
   std::string draws;
   std::string amounts;
 };
 
 struct Options {
   std::string folder;
-  std::array<Exports, 2> exports;
+  std::array<ExportFiles, 2> exports;
   bool forceDraws = false;
   std::string now;
   std::uint64_t seed = 1;
@@ -38,10 +38,10 @@ struct Options {
   std::string from;
 };
 
-void addExports(CLI::App& app, const std::string& name, Exports& exports) {
+void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
   CLI::Option* draws =
-      app.add_option(name, exports.draws, "Real draws, from a public export")->type_name("CSV");
-  app.add_option(name + "-amounts", exports.amounts, "Their amounts: draw date, amount, mark count")
+      app.add_option(name, files.draws, "Real draws, from a public export")->type_name("CSV");
+  app.add_option(name + "-amounts", files.amounts, "Their amounts: draw date, amount, mark count")
       ->type_name("CSV")
       ->needs(draws);
 }
@@ -77,16 +77,18 @@ Day lastDrawn(const Options& options) {
 /// Sample draws, and real ones in their place for each game that has an export. Sample plays go with sample
 /// draws. In a folder that is somebody's, a game without an export is left alone where the other one has one.
 FolderContents contentsOf(const Options& options, bool isSomebodys, std::ostream& out) {
-  const auto hasExport = [](const Exports& exports) { return !exports.draws.empty(); };
+  const auto hasExport = [](const ExportFiles& files) { return !files.draws.empty(); };
   const bool onlyExports = isSomebodys && std::ranges::any_of(options.exports, hasExport);
   const Day last = lastDrawn(options);
   FolderContents contents = sampleContents(last, options.seed);
   for (std::size_t i = 0; i < contents.games.size(); ++i) {
     FolderContents::Part& part = contents.games[i];
-    const Exports& exports = options.exports[i];
-    if (hasExport(exports)) {
-      readPublicDraws(part.game, exports.draws, exports.amounts, part.book, out);
-      part.origin = join("real draws from ", fs::path(exports.draws).filename().string());
+    const ExportFiles& files = options.exports[i];
+    if (hasExport(files)) {
+      exports::ExportedGame exported = exports::readExports(part.game, files.draws, files.amounts, out);
+      part.book.draws = std::move(exported.draws);
+      part.book.amounts = std::move(exported.amounts);
+      part.origin = join("real draws from ", fs::path(files.draws).filename().string());
     } else if (onlyExports) {
       part.book = {};
       part.origin = "draws and amounts left as they were";

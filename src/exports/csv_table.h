@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tallywick::setup {
+namespace tallywick::exports {
 
 /// Fields may stand in double quotes, in which a doubled quote is one and commas and line ends belong to the
 /// field. Lines end with CR LF or LF; a byte-order mark and empty lines are passed over.
@@ -34,4 +34,4 @@ class CsvTable {
   std::vector<Row> rows_;
 };
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::exports

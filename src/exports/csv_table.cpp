@@ -1,11 +1,11 @@
-#include "setup/csv_table.h"
+#include "exports/csv_table.h"
 
 #include "core/text.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace tallywick::setup {
+namespace tallywick::exports {
 
 namespace {
 
@@ -102,4 +102,4 @@ std::optional<std::size_t> CsvTable::column(std::initializer_list<std::string_vi
   return std::nullopt;
 }
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::exports

@@ -1,8 +1,8 @@
 // qzrsrt3: the sort tool that runs after play-file maintenance.
-#include "setup/sort_plays.h"
+#include "sort/sort_plays.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
-  return tallywick::setup::runSort(argc, argv, std::cout, std::cerr);
+  return tallywick::sort::runSort(argc, argv, std::cout, std::cerr);
 }

@@ -2,15 +2,13 @@
 #pragma once
 
 #include "core/games.h"
-#include "setup/book.h"
+#include "exports/entries.h"
 
 #include <cstddef>
-#include <filesystem>
-#include <iosfwd>
 #include <string>
 #include <vector>
 
-namespace tallywick::setup {
+namespace tallywick::exports {
 
 class CsvTable;
 
@@ -43,9 +41,4 @@ ImportedAmounts importAmounts(const CsvTable& table);
 /// The scheduled draws between the oldest and the newest of `draws` that are not among them, oldest first.
 std::vector<Day> missingDraws(Game game, const std::vector<DrawEntry>& draws);
 
-/// Reads the exports into `book`, which keeps no other draws and amounts, and tells what was taken, refused
-/// and is missing. `amounts` may be empty. std::runtime_error where a file cannot be used at all.
-void readPublicDraws(Game game, const std::filesystem::path& draws, const std::filesystem::path& amounts,
-                     GameBook& book, std::ostream& out);
-
-}  // namespace tallywick::setup
+}  // namespace tallywick::exports

@@ -1,4 +1,4 @@
-#include "setup/sort_plays.h"
+#include "sort/sort_plays.h"
 
 #include "core/data_folder.h"
 #include "core/day.h"
@@ -14,7 +14,7 @@
 #include <ostream>
 #include <utility>
 
-namespace tallywick::setup {
+namespace tallywick::sort {
 
 namespace fs = std::filesystem;
 
@@ -127,4 +127,4 @@ int runSort(int argc, const char* const* argv, std::ostream& out, std::ostream& 
   }
 }
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::sort

@@ -1,5 +1,5 @@
 // The sort tool: the order it makes, and when it leaves a file as it is.
-#include "setup/sort_plays.h"
+#include "sort/sort_plays.h"
 
 #include "core/file_commit.h"
 #include "support/scratch_folder.h"
@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-namespace tallywick::setup {
+namespace tallywick::sort {
 namespace {
 
 using test::records;
@@ -95,4 +95,4 @@ TEST_F(SortTool, GivesUpWhereTheFileChangedOrIsLockedOrMissing) {
 }
 
 }  // namespace
-}  // namespace tallywick::setup
+}  // namespace tallywick::sort

@@ -1,13 +1,14 @@
-// Reading the exports, and what the user is told about them.
+#include "exports/import_report.h"
+
 #include "core/os.h"
 #include "core/text.h"
-#include "setup/csv_table.h"
-#include "setup/public_draws.h"
+#include "exports/csv_table.h"
+#include "exports/export_rows.h"
 
 #include <ostream>
 #include <stdexcept>
 
-namespace tallywick::setup {
+namespace tallywick::exports {
 
 namespace {
 
@@ -35,22 +36,22 @@ void tellMissing(const std::vector<Day>& missing, std::ostream& out) {
 
 }  // namespace
 
-void readPublicDraws(Game game, const std::filesystem::path& draws, const std::filesystem::path& amounts,
-                     GameBook& book, std::ostream& out) {
+ExportedGame readExports(Game game, const std::filesystem::path& draws, const std::filesystem::path& amounts,
+                         std::ostream& out) {
   ImportedDraws imported = readTable(draws, [&](const CsvTable& table) { return importDraws(game, table); });
   out << infoOf(game).name << ": " << imported.draws.size() << " draws taken from " << draws.string() << "\n";
   tellRefused(imported.refused, out);
   if (imported.draws.empty()) throw std::runtime_error(join(draws.string(), ": it holds no draw"));
   tellMissing(missingDraws(game, imported.draws), out);
-  book.draws = std::move(imported.draws);
-  book.amounts.clear();
-  if (amounts.empty()) return;
+  ExportedGame exported{std::move(imported.draws), {}};
+  if (amounts.empty()) return exported;
 
   ImportedAmounts won = readTable(amounts, [](const CsvTable& table) { return importAmounts(table); });
   out << infoOf(game).name << ": " << won.amounts.size() << " amounts taken from " << amounts.string()
       << "\n";
   tellRefused(won.refused, out);
-  book.amounts = std::move(won.amounts);
+  exported.amounts = std::move(won.amounts);
+  return exported;
 }
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::exports

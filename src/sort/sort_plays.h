@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tallywick::setup {
+namespace tallywick::sort {
 
 /// The plays stay in the order in which they are; the message says why.
 class PlaysLeftAlone : public std::runtime_error {
@@ -47,4 +47,4 @@ void sortFolder(const std::filesystem::path& folder);
 /// put in order, 2 where the command line cannot be understood.
 int runSort(int argc, const char* const* argv, std::ostream& out, std::ostream& errors);
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::sort

@@ -1,16 +1,16 @@
-#include "setup/public_draws.h"
+#include "exports/export_rows.h"
 
 #include "core/eras.h"
 #include "core/os.h"
 #include "core/text.h"
-#include "setup/csv_table.h"
+#include "exports/csv_table.h"
 
 #include <algorithm>
 #include <charconv>
 #include <set>
 #include <stdexcept>
 
-namespace tallywick::setup {
+namespace tallywick::exports {
 
 namespace {
 
@@ -172,4 +172,4 @@ std::vector<Day> missingDraws(Game game, const std::vector<DrawEntry>& draws) {
   return days;
 }
 
-}  // namespace tallywick::setup
+}  // namespace tallywick::exports
