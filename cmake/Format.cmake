@@ -4,7 +4,8 @@ if(CLANG_FORMAT)
   file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
        "${PROJECT_SOURCE_DIR}/src/*.cpp" "${PROJECT_SOURCE_DIR}/src/*.h"
        "${PROJECT_SOURCE_DIR}/tests/*.cpp" "${PROJECT_SOURCE_DIR}/tests/*.h"
-       "${PROJECT_SOURCE_DIR}/bench/*.cpp" "${PROJECT_SOURCE_DIR}/bench/*.h")
+       "${PROJECT_SOURCE_DIR}/bench/*.cpp" "${PROJECT_SOURCE_DIR}/bench/*.h"
+       "${PROJECT_SOURCE_DIR}/fuzz/*.cpp" "${PROJECT_SOURCE_DIR}/fuzz/*.h")
   string(JOIN "\n" formatted ${formatted})
   file(WRITE "${CMAKE_BINARY_DIR}/formatted-files.txt" "${formatted}\n")
   set(listed "--files=${CMAKE_BINARY_DIR}/formatted-files.txt")

@@ -4,9 +4,10 @@ add_library(tallywick_warnings INTERFACE)
 if(MSVC)
   target_compile_options(tallywick_warnings INTERFACE /W4 /utf-8)
 else()
+  set(gcc $<CXX_COMPILER_ID:GNU>)
   target_compile_options(tallywick_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
-    -Woverloaded-virtual -Wcast-align -Wduplicated-cond -Wlogical-op -Wnull-dereference -Wunused
+    -Woverloaded-virtual -Wcast-align $<${gcc}:-Wduplicated-cond> $<${gcc}:-Wlogical-op> -Wnull-dereference -Wunused
     # GCC 12 sees overlaps in std::string's own code at -O3 that are not there; GCC 13 no longer does.
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+    $<$<AND:${gcc},$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 endif()

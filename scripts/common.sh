@@ -4,13 +4,15 @@ cd "$(dirname "$0")/.."
 
 say() { printf '\n== %s\n' "$*"; }
 
-# Installs what is missing of scripts/packages.txt, through sudo where the user is not root.
+# install_packages [LIST…]: installs what is missing of the lists in scripts, packages.txt where none is named, through
+# sudo where the user is not root.
 install_packages() {
+  [ $# -gt 0 ] || set -- packages.txt
   command -v dpkg-query > /dev/null || { say "No Debian system: install the like of scripts/packages.txt first"; return; }
   local package missing=""
-  for package in $(grep -v '^#' scripts/packages.txt); do
+  while read -r package; do
     dpkg-query -W -f '${Status}\n' "$package" 2> /dev/null | grep -q 'ok installed' || missing="$missing $package"
-  done
+  done < <(cd scripts && grep -hv '^#' "$@")
   [ -n "$missing" ] || return 0
   say "Installing$missing"
   local root=""

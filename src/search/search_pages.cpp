@@ -25,7 +25,11 @@ void setCaptions(ButtonRow<6>& numbers, const std::array<std::string, 6>& draw) 
 }  // namespace
 
 void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInfo& game) {
-  auto& [twoThree, havePlayed, played, havePlayedPlays] = pages;
+  // No structured binding: not every compiler lets a lambda capture one.
+  auto& twoThree = pages.twoThree;
+  auto& havePlayed = pages.havePlayed;
+  auto& played = pages.played;
+  auto& havePlayedPlays = pages.havePlayedPlays;
   clearAll(havePlayed.Combo2, played.Combo3, twoThree.Combo4, havePlayed.List6, played.List7, twoThree.List8,
            havePlayedPlays.List9);
   SequentialReader history(folder, inFolder(game, searchDrawsFile));
