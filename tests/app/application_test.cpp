@@ -61,6 +61,11 @@ TEST(Windows, OneSelectionWindowAGameAndTheMainWindowEndsEverything) {
 TEST(Windows, ClosingTheSplashBeforeItsTimerEndsTheProgram) {
   ApplicationTest early;
   early.application.showSplash();
+  const Form& splash = *early.application.find("frmSplash");
+  EXPECT_EQ(splash.title() + static_cast<Label*>(splash.find("lblProductName"))->caption() +
+                static_cast<Label*>(splash.find("lblVersion"))->caption(),
+            "TallywickTallywickVersion " + std::string(programVersion()));
+  EXPECT_NE(splash.find("Frame1"), nullptr);
   early.application.close(*early.application.find("frmSplash"));
   early.application.splashTimer();
   EXPECT_THAT(early.platform.events, ElementsAre("open frmSplash", "close frmSplash", "end"));
