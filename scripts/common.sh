@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by the commands of this folder; to be sourced, not run.
 set -eu
 cd "$(dirname "$0")/.."
@@ -22,12 +23,17 @@ install_packages() {
   $root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing
 }
 
-# build PRESET [CMAKE-OPTION…]: configures and builds build/PRESET.
-build() {
+# configure PRESET [CMAKE-OPTION…]: configures build/PRESET.
+configure() {
   local preset="$1"
   shift
-  say "Building the $preset preset"
   if command -v ccache > /dev/null; then set -- -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"; fi
   cmake --preset "$preset" "$@"
-  cmake --build --preset "$preset"
+}
+
+# build PRESET [CMAKE-OPTION…]: configures and builds build/PRESET.
+build() {
+  say "Building the $1 preset"
+  configure "$@"
+  cmake --build --preset "$1"
 }
