@@ -4,6 +4,7 @@
 #include "core/file_commit.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "support/raised.h"
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
@@ -59,13 +60,9 @@ TEST(DataFolder, NoPathLeavesTheFolder) {
 TEST(RuntimeError, TheSystemsErrorsHaveTheRuntimesNumbers) {
   const ScratchFolder scratch;
   const auto numberOf = [](const std::filesystem::path& file) {
-    try {
-      os::readFile(file);
-    } catch (const RuntimeError& error) {
-      EXPECT_NE(error.where().find(file.string()), std::string::npos);
-      return error.number();
-    }
-    return 0;
+    const test::Raised raised = test::raisedBy([&] { os::readFile(file); });
+    EXPECT_NE(raised.where.find(file.string()), std::string::npos);
+    return raised.number;
   };
   EXPECT_EQ(numberOf(scratch.root() / "none"), 53);
   EXPECT_EQ(numberOf(scratch.root() / "none" / "none"), 76);

@@ -36,19 +36,6 @@ TEST(SequentialReader, RecordsRunOverLineEnds) {
   EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(SequentialReader, TheEndInsideARecordIsError62AndTellsWhere) {
-  SequentialReader reader("1,2\n3,4\n5\n", "QZRNUM6.Dat");
-  reader.record<2>();
-  reader.record<2>();
-  try {
-    reader.record<2>();
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_TRUE(error.is(ErrorNumber::inputPastEnd));
-    EXPECT_EQ(error.where(), "QZRNUM6.Dat, record 3: field 2 of 2 is beyond the end");
-  }
-}
-
 // Records of one shape are read without looking at every character; every record must read as if it were the
 // only one.
 TEST(SequentialReader, ARecordReadsAlikeWhateverStoodBeforeIt) {

@@ -1,7 +1,7 @@
 // The amounts of the draws where their file is not as it should be.
 #include "core/winnings.h"
 
-#include "core/runtime_error.h"
+#include "support/raised.h"
 #include "support/scratch_folder.h"
 
 #include <gmock/gmock.h>
@@ -28,13 +28,9 @@ struct Winnings : testing::Test {
 TEST_F(Winnings, AMarkCountThatIsNoNumberIsError13BehindTheLinesBeforeIt) {
   for (const std::string wrong : {"", "one", "1x", "nan", "inf", "0x1"}) {
     write(records({"11,18,2026,40,1", "11,16,2026,30," + wrong, "11,14,2026,20,0"}));
-    try {
-      list();
-      ADD_FAILURE() << wrong;
-    } catch (const RuntimeError& error) {
-      EXPECT_TRUE(error.is(ErrorNumber::typeMismatch)) << wrong;
-      EXPECT_THAT(error.where(), HasSubstr("QzrPwr.Win, record 2: mark count \"" + wrong + "\""));
-    }
+    const test::Raised raised = test::raisedBy([this] { list(); });
+    EXPECT_EQ(raised.number, 13) << wrong;
+    EXPECT_THAT(raised.where, HasSubstr("QzrPwr.Win, record 2: mark count \"" + wrong + "\""));
     EXPECT_THAT(lines, SizeIs(1)) << wrong;
   }
 }

@@ -1,5 +1,4 @@
 // Quick Pick from chosen random values.
-#include "core/runtime_error.h"
 #include "selection/selection_fixture.h"
 
 namespace tallywick::test {
@@ -80,21 +79,6 @@ TEST_F(Selection, QuickPickIsAnotherOneAtEveryPress) {
     seen.insert(now);
   }
   EXPECT_EQ(seen.size(), 50U);
-}
-
-TEST_F(Selection, QuickPickWithoutADrawIsTheRuntimesError) {
-  const auto error = [&] {
-    try {
-      press("Command9");
-    } catch (const RuntimeError& raised) {
-      return raised.number();
-    }
-    return 0;
-  };
-  open();
-  EXPECT_EQ(error(), 53);
-  scratch.write(inFolder(powerBall, drawsFile), "");
-  EXPECT_EQ(error(), 62);
 }
 
 }  // namespace

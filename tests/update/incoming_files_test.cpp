@@ -4,6 +4,7 @@
 #include "core/clock.h"
 #include "core/runtime_error.h"
 #include "support/killed_run.h"
+#include "support/raised.h"
 #include "support/scratch_folder.h"
 #include "update/file_names.h"
 
@@ -13,12 +14,7 @@ namespace tallywick::test {
 namespace {
 
 std::string refusal(const std::vector<ListedFile>& files) {
-  try {
-    checkIncoming(files, {3, 100});
-  } catch (const RuntimeError& error) {
-    return error.description();
-  }
-  return "";
+  return raisedBy([&] { checkIncoming(files, {3, 100}); }).description;
 }
 
 TEST(CheckIncoming, RefusesWhatIsNoPlainNameOfAnothersFile) {

@@ -1,9 +1,9 @@
 // Play-file maintenance on broken files, and that no kill spoils the plays.
 #include "update/maintenance.h"
 
-#include "core/runtime_error.h"
 #include "support/fakes.h"
 #include "support/killed_run.h"
+#include "support/raised.h"
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
@@ -31,12 +31,7 @@ class Maintenance : public testing::Test {
   void run() { Command1_Click(scratch.folder(), starter); }
 
   std::int32_t errorOfRun() {
-    try {
-      run();
-    } catch (const RuntimeError& error) {
-      return error.number();
-    }
-    return 0;
+    return raisedBy([this] { run(); }).number;
   }
 
   ScratchFolder scratch;
