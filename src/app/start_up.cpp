@@ -51,6 +51,7 @@ void startUp(MainForm& form, const DataFolder& folder) {
   setSearchCaptions(form.search, newestNumbers(form.summary));
   skipFailing([&] { fillDrawPickers(form.search, folder, game); });
   skipFailing([&] { fillPlayPicker(form.search, folder, game); });
+  setPlayCaptions(form.search.havePlayedPlays, form.frames);
   skipFailing([&] { fillPlayedPlays(form.winnings, folder, game); });
   skipFailing([&] { fillCommittedPlays(form.winnings, folder, game); });
   skipFailing([&] { drawStartUpChart(form.draws, form.summary.frequent, folder); });

@@ -42,10 +42,12 @@ void showSummary(MainForm& form, const DataFolder& folder, const GameInfo& game)
   fillWinningPlays(form.summary, folder, game);
   fillDrawPickers(form.search, folder, game);
   fillPlayPicker(form.search, folder, game);
+  setPlayCaptions(form.search.havePlayedPlays, form.frames);
   fillFrequentNumbers(form.summary, folder, game);
   setSearchCaptions(form.search, newestNumbers(form.summary));
 }
 
+/// Fills what the Double Play display names; everything else keeps what it showed, another game's as well.
 void showDoublePlayDisplay(MainForm& form, const DataFolder& folder) {
   showGameFrame(form.frames, form.frames.Frame6);
   showDoublePlay(form.summary, folder);
@@ -66,16 +68,16 @@ void switchGame(MainForm& form) {
 }  // namespace
 
 void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes) {
-  const bool showedMegaMillions = form.menu.mnuMegaMillions3.enabled();
   layOut(form, powerBall);
   if (form.updateHiddenByGameSwitch) form.update.Command2.show();
   form.updateHiddenByGameSwitch = false;
   const MessageBox question = {"Display PowerBall Double Play Information  ?", "TALLYWICK SOFTWARE",
                                MessageBox::Icon::question, MessageBox::Buttons::yesNo};
-  const bool doublePlay = boxes.show(question) == MessageBox::Answer::yes;
-  // Double Play fills a part of the pages; the rest is PowerBall's and may not stay another game's.
-  if (!doublePlay || showedMegaMillions) showSummary(form, folder, powerBall);
-  if (doublePlay) showDoublePlayDisplay(form, folder);
+  if (boxes.show(question) == MessageBox::Answer::yes) {
+    showDoublePlayDisplay(form, folder);
+  } else {
+    showSummary(form, folder, powerBall);
+  }
 }
 
 void Command4_Click(MainForm& form, const DataFolder& folder) {

@@ -28,10 +28,14 @@ std::string firstMarkedNumber(const ButtonRow<6>& numbers) {
   return first == numbers.end() ? std::string() : first->caption();
 }
 
-void displayNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {
-  unmarkAll(numbers);
+void setNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {
   const std::array<std::size_t, 6> positions = {16, 19, 22, 25, 28, extraBallAt};
   for (std::size_t i = 0; i < positions.size(); ++i) numbers[i].setCaption(cut(drawLine, positions[i], 2));
+}
+
+void displayNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {
+  unmarkAll(numbers);
+  setNumbers(numbers, drawLine, extraBallAt);
 }
 
 }  // namespace tallywick

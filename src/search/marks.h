@@ -26,8 +26,10 @@ void unmarkAll(ButtonRow<6>& numbers);
 /// The caption of the first marked button; empty where none is marked.
 std::string firstMarkedNumber(const ButtonRow<6>& numbers);
 
-/// Unmarks the buttons and gives them the numbers of `drawLine`, whatever stands there; what lies beyond the
-/// line's end is an empty caption.
+/// Gives the buttons the numbers of `drawLine`, whatever characters are there; beyond the line's end the
+/// caption is empty.
+void setNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt);
+/// The same, and unmarks them.
 void displayNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt);
 
 }  // namespace tallywick

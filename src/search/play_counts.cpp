@@ -126,15 +126,14 @@ std::string havePlayedTally(std::string_view number, std::size_t times) {
   return join(" ", number, "  Have Played:  ", std::to_string(times), "   Times");
 }
 
-void displayDrawLine(ButtonRow<6>& numbers, const ComboBox& source, const GameFrames& frames) {
-  displayNumbers(numbers, source.text(),
-                 frames.Frame5.visible() ? hoosierExtraBallPosition : extraBallPosition);
+std::size_t extraBallPositionOf(const GameFrames& frames) {
+  return frames.Frame5.visible() ? hoosierExtraBallPosition : extraBallPosition;
 }
 
 }  // namespace
 
 void Command22_Click(HavePlayedPage& page, const GameFrames& frames) {
-  displayDrawLine(page.numbers, page.Combo2, frames);
+  displayNumbers(page.numbers, page.Combo2.text(), extraBallPositionOf(frames));
 }
 
 void havePlayedNumber_Click(HavePlayedPage& page, Button& number) {
@@ -178,8 +177,12 @@ void Command30_Click(PlayedPage& page, const GameFrames& frames, const DataFolde
   page.Label24.setCaption(join(number, " Played: ", std::to_string(*times), " Times"));
 }
 
+void setPlayCaptions(HavePlayedPlaysPage& page, const GameFrames& frames) {
+  setNumbers(page.numbers, page.Combo8.text(), extraBallPositionOf(frames));
+}
+
 void Command45_Click(HavePlayedPlaysPage& page, const GameFrames& frames) {
-  displayDrawLine(page.numbers, page.Combo8, frames);
+  displayNumbers(page.numbers, page.Combo8.text(), extraBallPositionOf(frames));
 }
 
 void Command46_Click(HavePlayedPlaysPage& page, ComboBox& Combo5, const GameFrames& frames,

@@ -65,6 +65,9 @@ void Command29_Click(PlayedPage& page, const GameFrames& frames);
 void Command30_Click(PlayedPage& page, const GameFrames& frames, const DataFolder& folder,
                      MessageBoxes& boxes);
 
+/// Puts the numbers of Combo8's text on the number buttons; their marks stay.
+void setPlayCaptions(HavePlayedPlaysPage& page, const GameFrames& frames);
+/// The same, and unmarks the buttons.
 void Command45_Click(HavePlayedPlaysPage& page, const GameFrames& frames);
 /// Clears the first panel's Combo5 as well.
 void Command46_Click(HavePlayedPlaysPage& page, ComboBox& Combo5, const GameFrames& frames,
