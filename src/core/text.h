@@ -26,7 +26,15 @@ std::string join(const Pieces&... pieces) {
 /// `text` without blanks at either end.
 std::string_view trimmed(std::string_view text);
 
-/// `length` characters of the UTF-8 `text` from the 1-based `position`; what lies beyond the end is left out.
+/// Whether `text` is UTF-8, as every text of the letters of ASCII is.
+bool isUtf8(std::string_view text);
+
+/// `text` for the screen: what is not UTF-8 is taken for Windows-1252, which older record books are written
+/// in.
+std::string asUtf8(std::string_view text);
+
+/// `length` characters of `text`, in UTF-8 or Windows-1252, from the 1-based `position`; what lies beyond the
+/// end is left out.
 std::string_view cut(std::string_view text, std::size_t position, std::size_t length);
 
 /// Whether two number texts are the same. Nearly all have two digits, and these cost neither a call nor a

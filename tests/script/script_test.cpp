@@ -9,9 +9,10 @@ namespace tallywick::script {
 namespace {
 
 /// What a script prints on a complete record book; after "!" what is wrong about it.
-std::string outputOf(const std::string& script) {
+std::string outputOf(const std::string& script, std::string_view savedTexts = "") {
   const test::ScratchFolder scratch;
   test::writeRecordBook(scratch);
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR9.Sel", savedTexts);
   std::ostringstream out;
   ScriptPlatform platform(out, scratch.folder());
   SettableClock clock;
@@ -25,6 +26,17 @@ std::string outputOf(const std::string& script) {
     out << "!" << error.what();
   }
   return out.str();
+}
+
+TEST(Script, TextsThatAreNotUtf8AreShownAsWindows1252) {
+  const std::string texts =
+      "Andr\xE9 \x80\x92\r\nAndr\xC3\xA9\r\n\xC0\xAF\r\n\xED\xA0\x80\r\n\xFF\r\n\xF0\x9F\x8D\x80";
+  EXPECT_EQ(outputOf("click mnuPowerBall3\nprint Form3.List1\nshow Form3.List1\n", texts),
+            " André €’\n André\n À¯\n í\u00A0€\n ÿ\n 🍀\n"
+            R"({"name":"List1","type":"list","items":[" André €’"," André"," À¯"," í)"
+            "\u00A0"
+            R"(€"," ÿ"," 🍀"],"visible":true})"
+            "\n");
 }
 
 TEST(Script, ALineThatCannotBeUnderstoodIsNumbered) {

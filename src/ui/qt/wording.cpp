@@ -1,5 +1,7 @@
 #include "ui/qt/wording.h"
 
+#include "core/text.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 #include <vector>
@@ -27,7 +29,7 @@ QString marked(const QString& text, char letter) {
 }  // namespace
 
 QString toQString(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return QString::fromStdString(asUtf8(text));
 }
 
 std::string toText(const QString& text) {

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 
+#include <sstream>
 #include <string_view>
 
 namespace tallywick::script {
@@ -199,7 +200,9 @@ Json describe(const JudgedPlay& play) {
   return json;
 }
 
-std::string plainText(const Control& control) {
+namespace {
+
+std::string rawText(const Control& control) {
   switch (control.type()) {
     case ControlType::button:
       return looksLike(static_cast<const Button&>(control).caption());
@@ -229,8 +232,36 @@ std::string plainText(const Control& control) {
   return {};
 }
 
+/// Turns every text of `json` into UTF-8.
+void makeUtf8(Json& json) {
+  if (json.is_string()) {
+    std::string& text = json.get_ref<std::string&>();
+    text = asUtf8(text);
+  }
+  if (json.is_structured()) {
+    for (Json& part : json) makeUtf8(part);
+  }
+}
+
+}  // namespace
+
+std::string plainText(const Control& control) {
+  std::string raw = rawText(control);
+  if (isUtf8(raw)) return raw;
+  std::string text;
+  std::istringstream lines(raw);
+  for (std::string line; std::getline(lines, line);) text.append(asUtf8(line)).append("\n");
+  return text;
+}
+
 std::string oneLine(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  try {
+    return json.dump();
+  } catch (const Json::type_error&) {
+    Json shown = json;
+    makeUtf8(shown);
+    return shown.dump();
+  }
 }
 
 }  // namespace tallywick::script

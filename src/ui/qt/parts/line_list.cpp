@@ -1,5 +1,6 @@
 #include "ui/qt/parts/line_list.h"
 
+#include "core/text.h"
 #include "ui/qt/parts/line_delegate.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/theme.h"
@@ -20,7 +21,7 @@ constexpr int leastRows = 3;
 constexpr int leastColumns = 16;
 
 QString shown(std::string_view line) {
-  return QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+  return QString::fromStdString(asUtf8(line));
 }
 
 }  // namespace
@@ -121,7 +122,7 @@ QString LineList::selectedText() const {
   std::string text;
   for (const QItemSelectionRange& range : ranges) {
     for (int row = range.top(); row <= range.bottom(); ++row)
-      text.append(lines->lines()[static_cast<std::size_t>(row)]) += '\n';
+      text.append(asUtf8(lines->lines()[static_cast<std::size_t>(row)])) += '\n';
   }
   if (!text.empty()) text.pop_back();
   return QString::fromStdString(text);
