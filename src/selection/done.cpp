@@ -11,19 +11,21 @@
 #include "selection/selection_handlers.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace tallywick {
 
 namespace {
 
-/// What the status bar tells of the committed plays.
-struct Committed {
+/// What the status bar shows of the committed plays.
+struct CommittedCounts {
   std::size_t plays = 0;
   std::string firstDate;
   std::size_t playsOfFirstDate = 0;
 };
 
-Committed summaryOf(const std::vector<Play>& plays) {
+CommittedCounts countsOf(const std::vector<Play>& plays) {
   if (plays.empty()) return {};
   const std::string_view first = plays.front().date;
   const auto ofFirst =
@@ -60,12 +62,20 @@ std::vector<std::string> drawDates(const SelectionForm& form, const std::vector<
   return drawDatesFrom(folder, drawDayCodes(form.game.game), plays.front().date, draws);
 }
 
-/// Replaces the committed plays, empties the current ones and keeps the copy, all three or none.
+/// What a Done shows afterwards.
+struct Committed {
+  CommittedCounts counts;
+  PlayFile history;
+};
+
+/// Replaces the committed plays by what the current plays' file contains, empties that file and writes the
+/// copy, all three or none.
 Committed commit(const SelectionForm& form, int draws) {
   const DataFolder& folder = form.surroundings.folder;
   FileCommit files(gameFolder(form));
   const PlayFile current(folder, playFilePath(form, PlaySlot::current));
-  if (current.empty() && !form.Combo1.items().empty()) throw PlaysGone();
+  // Read first: once the plays are committed nothing may fail any more.
+  PlayFile history(folder, playFilePath(form, PlaySlot::played));
   std::vector<std::string> dates;
   std::vector<Play> plays = current.plays();
   if (draws > 1) {
@@ -82,10 +92,10 @@ Committed commit(const SelectionForm& form, int draws) {
     std::error_code ignored;  // the plays are committed; a work file that stays is in nobody's way
     std::filesystem::remove(folder.resolve(playFilePath(form, PlaySlot::multiDraw)), ignored);
   }
-  return summaryOf(plays);
+  return {countsOf(plays), std::move(history)};
 }
 
-void showCommitted(StatusBar& bar, const Committed& committed) {
+void showCommitted(StatusBar& bar, const CommittedCounts& committed) {
   bar.setPanel(1, join("Lotto Plays: ", std::to_string(committed.plays)));
   bar.setPanel(2, "");
   bar.setPanel(3, committed.plays == 0 ? ""
@@ -93,17 +103,35 @@ void showCommitted(StatusBar& bar, const Committed& committed) {
                                               std::to_string(committed.playsOfFirstDate), "  Plays."));
 }
 
+/// The items of the plays' list as the file has them.
+std::vector<std::string> itemsOf(const PlayFile& file) {
+  std::vector<std::string> items;
+  for (const Play& play : file.plays()) {
+    if (play.isListed()) items.push_back(play.itemText());
+  }
+  return items;
+}
+
 }  // namespace
 
+bool showsCurrentPlays(const SelectionForm& form) {
+  const PlayFile current(form.surroundings.folder, playFilePath(form, PlaySlot::current));
+  const std::vector<std::string> items = itemsOf(current);
+  const TextLines& shown = form.Combo1.items();
+  if (shown.size() != items.size()) return false;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (shown[i] != items[i]) return false;
+  }
+  return true;
+}
+
 void Command5_Click(SelectionForm& form) {
-  Committed committed;
+  std::optional<Committed> committed;
   const int draws = drawCountOf(form.Label1.caption());
-  // Read first: once the plays are committed nothing may fail any more.
-  const PlayFile history(form.surroundings.folder, playFilePath(form, PlaySlot::played));
-  if (!entered(form, [&] { committed = commit(form, draws); })) return;
+  if (!entered(form, [&] { committed.emplace(commit(form, draws)); })) return;
   form.closeForPlays();
-  showHistory(form, history);
-  showCommitted(form.StatusBar1, committed);
+  showHistory(form, committed->history);
+  showCommitted(form.StatusBar1, committed->counts);
 }
 
 }  // namespace tallywick

@@ -5,20 +5,10 @@
 #include "selection/draw_dates.h"
 #include "selection/selection_form.h"
 
-#include <stdexcept>
 #include <string>
 #include <utility>
 
 namespace tallywick {
-
-/// The current plays that the window shows are no longer in their file.
-class PlaysGone : public std::runtime_error {
- public:
-  PlaysGone()
-      : std::runtime_error(
-            "The plays selected here are gone from their file: another program has emptied it.\r\n"
-            "Nothing was changed. Please open the window again and select them anew.") {}
-};
 
 /// Runs `enter`. False where it meets a gap in the calendar, or what another program has done or is doing to
 /// the play files; the player has been told then. Every other failure is raised.
@@ -33,8 +23,6 @@ bool entered(const SelectionForm& form, Enter enter) {
     return true;
   } catch (const CalendarGap& gap) {
     return tell(gap.what());
-  } catch (const PlaysGone& gone) {
-    return tell(gone.what());
   } catch (const LockedByAnother&) {
     return tell("Another program is changing the play files. Nothing was saved. Please try again.");
   }

@@ -27,7 +27,6 @@ std::filesystem::path gameFolder(const SelectionForm& form) {
 }
 
 void emptyCurrentPlays(SelectionForm& form) {
-  const os::FileLock lock = lockFolder(gameFolder(form));
   replaceFile(form.surroundings.folder.resolve(playFilePath(form, PlaySlot::current)), {});
   form.Combo1.clear();
 }

@@ -17,7 +17,7 @@ std::string playFilePath(const SelectionForm& form, PlaySlot slot);
 /// The real folder of the window's game.
 std::filesystem::path gameFolder(const SelectionForm& form);
 
-/// Drops the plays that were selected and not committed.
+/// Drops the plays that were selected and not committed. The folder's lock is the caller's.
 void emptyCurrentPlays(SelectionForm& form);
 
 /// Lists the committed plays of the first record's draw date.

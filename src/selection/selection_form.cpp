@@ -1,5 +1,6 @@
 #include "selection/selection_form.h"
 
+#include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
 #include "selection/draw_count.h"
@@ -8,20 +9,21 @@
 #include "selection/play_lists.h"
 #include "selection/selection_handlers.h"
 
+#include <optional>
+
 namespace tallywick {
 
 namespace {
 
-/// Drops the plays that were selected and not committed. False where another program is at the play files.
-bool emptied(SelectionForm& form) {
+/// The lock on the play files; none, after a message, where another program holds it.
+std::optional<os::FileLock> lockPlays(const SelectionForm& form) {
   try {
-    emptyCurrentPlays(form);
-    return true;
+    return lockFolder(gameFolder(form));
   } catch (const LockedByAnother&) {
     form.surroundings.boxes.show(
         {"Another program is changing the play files. Please open the play selection again in a moment.",
          std::string(programTitle), MessageBox::Icon::exclamation});
-    return false;
+    return std::nullopt;
   }
 }
 
@@ -89,8 +91,13 @@ bool SelectionForm::load() {
   for (Button* action : {&Command59, &Command9, &Command5, &Command84, &Command7}) action->setEnabled(true);
   for (Button* waiting : {&Command1, &Command4}) waiting->setEnabled(false);
 
-  const bool isOpen = emptied(*this);
-  if (!isOpen) closeForPlays();
+  // Held until all lists are filled: they show the play files of one moment.
+  const std::optional<os::FileLock> lock = lockPlays(*this);
+  if (lock) {
+    emptyCurrentPlays(*this);
+  } else {
+    closeForPlays();
+  }
   showNextPlays(*this);
   const PlayFile history(surroundings.folder, playFilePath(*this, PlaySlot::played));
   showHistory(*this, history);
@@ -99,7 +106,7 @@ bool SelectionForm::load() {
   StatusBar1.setPanel(1, played == 0 ? "" : join(":    ", std::to_string(played)));
   StatusBar1.setPanel(2, "");
   StatusBar1.setPanel(3, "");
-  return isOpen;
+  return lock.has_value();
 }
 
 void SelectionForm::closeForPlays() {

@@ -14,6 +14,10 @@ void Command59_Click(SelectionForm& form);
 /// Quick Pick: marks a random play.
 void Command9_Click(SelectionForm& form);
 
+/// Whether the list of current plays shows what their file contains. Another program, or another window on
+/// the same folder, may have changed the file.
+bool showsCurrentPlays(const SelectionForm& form);
+
 /// Done: the current plays replace the committed ones, once for each draw of the draw count.
 void Command5_Click(SelectionForm& form);
 

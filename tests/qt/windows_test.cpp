@@ -80,6 +80,18 @@ TEST_F(Windows, OfTheModelAndOfTheScreenAgree) {
   EXPECT_EQ(platform.exitCode(), 0);
 }
 
+TEST_F(Windows, DoneAsksWhereTheFileIsNotWhatTheWindowShows) {
+  open("Form3");
+  const std::string other = records({"11-23-2026,01,02,03,04,05,06,5000000"});
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR7.Ply", other);
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    answerNextBox(answer);
+    widget<QPushButton>("Form3", "Command5").click();
+    EXPECT_TRUE(boxText.contains(QStringLiteral("is not what this window shows")));
+    EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/QZR6PWR1.Ply"), answer == QMessageBox::Yes ? other : "");
+  }
+}
+
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {
   QTest::keyClick(&open("frmSplash"), Qt::Key_A);
   EXPECT_TRUE(application.windows().empty());

@@ -2,6 +2,7 @@
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "selection/selection_fixture.h"
+#include "selection/selection_handlers.h"
 
 namespace tallywick::test {
 namespace {
@@ -154,27 +155,47 @@ TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   EXPECT_FALSE(form->Command9.enabled() || form->Command5.enabled() || form->Command60.enabled());
 }
 
-// Without this, Done would replace the committed plays by nothing while the window still shows the selected
-// ones.
-TEST_F(Selection, DoneTellsWhereAnotherProgramHasEmptiedTheCurrentPlays) {
-  open();
-  scratch.write(path("1.Ply"), "committed");
-  select("05 11 23 42 59", "26");
-  scratch.write(path("7.Ply"), "");
-  press("Command5");
-  EXPECT_THAT(boxes.only(), testing::HasSubstr("are gone from their file"));
-  EXPECT_EQ(get("1.Ply"), "committed");
+TEST_F(Selection, DoneCommitsWhatTheFileContainsWhateverTheWindowShows) {
+  const std::string other = records({"11-23-2026,01,02,03,04,05,06,5000000"});
+  for (const std::string& current : {other, std::string()}) {
+    open();
+    scratch.write(path("1.Ply"), "committed");
+    select("05 11 23 42 59", "26");
+    EXPECT_TRUE(showsCurrentPlays(*form));
+    scratch.write(path("7.Ply"), current);
+    EXPECT_FALSE(showsCurrentPlays(*form));
+    press("Command5");
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_EQ(get("1.Ply"), current);
+  }
+}
+
+TEST_F(Selection, ARecordsEmptyLastFieldStays) {
+  const std::string plays = records({"11-21-2026,01,02,03,04,05,06,", "11-21-2026,07,08,09,10,11,12,"});
+  for (const char* count : {"    ", "   2"}) {
+    open();
+    scratch.write(path("7.Ply"), "11-21-2026,01,02,03,04,05,06,\r\n11-21-2026,07,08,09,10,11,12,");
+    form->Label1.setCaption(count);
+    press("Command5");
+    EXPECT_EQ(get("1.Sav").substr(0, plays.size()), plays) << count;
+    EXPECT_EQ(PlayFile(scratch.folder(), path("1.Ply")).plays().at(1).main[4], "11") << count;
+  }
 }
 
 TEST_F(Selection, SelectAppendsBehindWhateverEndsTheFile) {
-  const std::string record = R"("11-23-2026","01","02","03","04","05","06","5000000")";
-  for (const char* end : {"\r\n", "\n", "\r", "", ","}) {
+  const std::string whole = R"("11-23-2026","01","02","03","04","05","06","5000000")";
+  const std::string emptyLast = R"("11-23-2026","01","02","03","04","05","06",)";
+  const std::string openQuote = R"("11-23-2026","01","02","03","04","05","06","50,)";
+  for (const std::string& left : {whole + "\r\n", whole + "\n", whole + "\r", whole, whole + ",", emptyLast,
+                                  emptyLast + "\r\n", openQuote}) {
     open();
-    scratch.write(path("7.Ply"), record + end);
+    scratch.write(path("7.Ply"), left);
+    const PlayFile before(scratch.folder(), path("7.Ply"));
     select("05 11 23 42 59", "26");
-    EXPECT_EQ(itemsOf(form->Combo1).size(), 2U) << end;
+    EXPECT_EQ(itemsOf(form->Combo1).size(), 2U) << left;
     const PlayFile current(scratch.folder(), path("7.Ply"));
-    EXPECT_EQ(current.plays().at(1).main[0], "05") << end;
+    EXPECT_EQ(current.plays().at(0).decades, before.plays().at(0).decades) << left;
+    EXPECT_EQ(current.plays().at(1).main[0], "05") << left;
   }
 }
 

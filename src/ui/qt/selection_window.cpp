@@ -1,6 +1,7 @@
 #include "ui/qt/selection_window.h"
 
 #include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
 #include "ui/qt/choice_list.h"
 #include "ui/qt/layout_memory.h"
 #include "ui/qt/layouts.h"
@@ -72,6 +73,7 @@ SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
   setCentralWidget(scroller);
   addStatus();
   answerHelpKey();
+  askBeforeDone();
   binding().afterChanges = [this] { showChosen(); };
   showChosen();
   restoreLayout(*this, usualSize);
@@ -156,6 +158,21 @@ void SelectionWindow::addStatus() {
     panels.push_back(panel);
   }
   binding().bind(selection_.StatusBar1, panels);
+}
+
+void SelectionWindow::askBeforeDone() {
+  selection_.Command5.onClick = [this, done = selection_.Command5.onClick] {
+    if (mayCommit()) done();
+  };
+}
+
+bool SelectionWindow::mayCommit() {
+  if (showsCurrentPlays(selection_)) return true;
+  const MessageBox question = {
+      "The file of the current plays is not what this window shows: another program has changed it.\r\n"
+      "Done commits what the file contains now. Go on?",
+      std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
+  return selection_.surroundings.boxes.show(question) == MessageBox::Answer::yes;
 }
 
 void SelectionWindow::showChosen() {

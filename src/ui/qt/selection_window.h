@@ -26,6 +26,9 @@ class SelectionWindow : public FormWindow {
   void addActions(QGridLayout& grid, QWidget* parent);
   void addDrawCount(QGridLayout& grid, QWidget* parent);
   void addStatus();
+  /// Asks where the file of the current plays is not what the window shows.
+  bool mayCommit();
+  void askBeforeDone();
   void showChosen();
 
   SelectionForm& selection_;
