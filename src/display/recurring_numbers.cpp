@@ -17,7 +17,7 @@ std::string_view placeIn(const KeptDraw& kept, std::string_view number) {
   const auto& white = kept.draw.white;
   if (std::find(white.begin(), white.end(), number) != white.end()) return ":";
   if (kept.draw.extra == number) return " as the extra ball:";
-  // Deliberate: the last field is compared like a number, so that a multiplier "10" repeats the ball "10".
+  // Kept slip: the last field counts as a number, so that a multiplier "10" repeats the ball "10".
   if (kept.lastField == number) return " in the record's last field:";
   return {};
 }

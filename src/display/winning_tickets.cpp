@@ -123,7 +123,7 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
       showWinnerOfItsDate(page, play);
       winners.push_back(play.itemText());
     } else if (winners.empty()) {
-      // Deliberate: a later winner leaves this verdict as it stands.
+      // Kept slip: a later winner leaves this verdict as it is.
       page.Combo10.clear();
       page.Combo10.setText(" No Play(s) were a Winning Ticket");
     }

@@ -26,14 +26,13 @@ struct Combination {
 };
 
 /// The first one whose positions are all marked is searched, and no other.
-///
-/// Deliberate: 2-4-5 is missing, so that these marks search the pair 2-4.
+/// Kept slip: 2-4-5 is missing, so that these marks search the pair 2-4.
 inline constexpr std::array<Combination, 34> combinations = {{
-    // Deliberate: the first two leave the extra ball out.
+    // Kept slip: the first two leave the extra ball out.
     {{1, 2, 3}, 5},
     {{1, 2, 4}, 5},
     {{1, 2, 5}},
-    // Deliberate: later lines show the tenth field.
+    // Kept slip: later lines show the tenth field.
     {{1, 2, 6}, 6, LineTail::fieldTen},
     {{1, 3, 4}},
     {{1, 3, 5}},
@@ -51,7 +50,7 @@ inline constexpr std::array<Combination, 34> combinations = {{
     {{3, 5, 6}},
     {{4, 5, 6}},
     {{1, 2}},
-    // Deliberate: later lines end with blanks.
+    // Kept slip: later lines end with blanks.
     {{1, 3}, 6, LineTail::blanks},
     {{1, 4}},
     {{1, 5}},

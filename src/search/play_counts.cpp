@@ -89,7 +89,7 @@ class Count {
   void list(const Draw& draw, bool isExtra) {
     line_.assign(1, ' ');
     draw.appendLine(line_);
-    // Deliberate: a draw with the number as extra ball counts as a first one, whatever was found before.
+    // Kept slip: a draw with the number as extra ball counts as a first one, whatever was found before.
     if (times_ == 0 || isExtra) results_.setText(line_);
     results_.add(line_);
     if (list_ != nullptr) list_->add(line_);

@@ -29,7 +29,7 @@ struct PlayedPage {
   explicit PlayedPage(Form& form);
 
   ComboBox Combo3;
-  /// Stays hidden.
+  /// Stays hidden; nothing shows it.
   Button Command24;
   Button Command29;
   /// Its caption is the number.
@@ -69,7 +69,7 @@ void Command30_Click(PlayedPage& page, const GameFrames& frames, const DataFolde
 void setPlayCaptions(HavePlayedPlaysPage& page, const GameFrames& frames);
 /// The same, and unmarks the buttons.
 void Command45_Click(HavePlayedPlaysPage& page, const GameFrames& frames);
-/// Clears the first panel's Combo5 as well.
+/// Kept slip: clears the first panel's Combo5 as well.
 void Command46_Click(HavePlayedPlaysPage& page, ComboBox& Combo5, const GameFrames& frames,
                      const DataFolder& folder, MessageBoxes& boxes);
 

@@ -59,8 +59,7 @@ constexpr Member megaMillionsMember = {.gameFolder = megaMillions.folder,
                                        .tooManyTitle = "Mega Million Lottery Game.",
                                        .noneMarkedTitle = "Mega Million Lottery Game."};
 
-/// Deliberate: the file's records of eighteen fields are read in tens, and the matches of 2-3-6 are not
-/// counted.
+/// Kept slips: records of eighteen fields are read in tens, and the matches of 2-3-6 are not counted.
 constexpr Member doublePlayMember = {.gameFolder = powerBall.folder,
                                      .file = doublePlayFile,
                                      .tooManyText = twoOrThree,
@@ -69,7 +68,7 @@ constexpr Member doublePlayMember = {.gameFolder = powerBall.folder,
                                      .neverCounted = {2, 3, 6},
                                      .mayEndInsideRecord = true};
 
-/// Deliberate: PowerBall's title over the Mega Millions draws.
+/// Kept slip: PowerBall's title over the Mega Millions draws.
 constexpr Member oneTwoThreeMegaMember = {.gameFolder = megaMillions.folder,
                                           .file = searchDrawsFile,
                                           .tooManyText = oneTwoOrThree,

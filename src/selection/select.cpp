@@ -46,8 +46,8 @@ MarkedPlay collectMarks(const SelectionForm& form) {
   return play;
 }
 
-/// Puts the extra ball into the last place. With four main numbers and the extra it stands twice, among the
-/// main numbers and in the last place, and counts twice; that such a play passes is deliberate.
+/// Puts the extra ball into the last place.
+/// Kept slip: beside four main numbers it is in two places and counts twice, so that such a play passes.
 void placeExtra(const SelectionForm& form, MarkedPlay& play) {
   const auto extra = std::find_if(play.places.begin(), play.places.end(),
                                   [&](int number) { return number != 0 && isExtra(form, number); });

@@ -26,7 +26,7 @@ constexpr SelectionRules powerBallRules = {
                   .lastMain = 69,
                   .neverMain = {0, 0},
                   .lastExtra = 26},
-    // Deliberate: 60 to 69 are never replayed.
+    // Kept slip: 60 to 69 are never replayed.
     .replayMain = 59,
     .replayExtra = 26,
 };
@@ -42,7 +42,7 @@ constexpr SelectionRules megaMillionsRules = {
     .noExtra = "You haven't Selected a Mega Millions Selection...",
     .notSixNumbers = "Six Numbers Must Be Selected...",
     .countTitle = "Mega Millions Lotto Select to Play.",
-    // Deliberate: the redraw has other limits than the draw, and 53 and 54 are never marked.
+    // Kept slips: the redraw has other limits than the draw, and 53 and 54 are never marked.
     .quickPick = {.main = 70,
                   .extra = 25,
                   .mainRedraw = 75,
@@ -50,7 +50,7 @@ constexpr SelectionRules megaMillionsRules = {
                   .lastMain = 75,
                   .neverMain = {53, 54},
                   .lastExtra = 52},
-    // Deliberate: 60 to 79 are never replayed.
+    // Kept slip: 60 to 79 are never replayed.
     .replayMain = 59,
     .replayExtra = 52,
 };

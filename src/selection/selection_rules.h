@@ -54,7 +54,7 @@ struct SelectionRules {
 
 const SelectionRules& selectionRulesOf(Game game);
 
-/// Numbers at which an extra mark is refused by name. That these ten are refused and no others is deliberate.
+/// Numbers at which an extra mark is refused by name. Kept slip: these ten and no others.
 inline constexpr NumberRange refusedExtras = {43, 52};
 /// Where an extra mark is looked for to move its number to the play's last place.
 inline constexpr NumberRange extrasThatMove = {1, 52};
