@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/text.h"
 #include "exports/import_report.h"
+#include "setup/backup.h"
 #include "setup/new_folder.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
@@ -36,6 +37,9 @@ struct Options {
   bool withoutPlays = false;
   std::string tree;
   std::string from;
+  bool backsUp = false;
+  std::string backup;
+  std::string restoredFrom;
 };
 
 void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
@@ -63,7 +67,15 @@ void describe(CLI::App& app, Options& options) {
   CLI::Option* from = app.add_option("--from", options.from, "The data folder whose draws are published");
   tree->type_name("TREE")->needs(from)->excludes(folder);
   from->type_name("DIR")->needs(tree);
-  app.final_callback([folder, tree] {
+  CLI::Option* backup =
+      app.add_option("--backup", options.backup,
+                     "Write the record book in DIR to a zip, without FILE a dated one beside DIR");
+  CLI::Option* restored = app.add_option("--restore", options.restoredFrom,
+                                         "Make DIR what a backup contains; what DIR was stays beside it");
+  backup->type_name("[FILE]")->expected(0, 1)->needs(folder);
+  restored->type_name("FILE")->needs(folder)->excludes(backup);
+  app.final_callback([folder, tree, backup, &options] {
+    options.backsUp = backup->count() > 0;
     if (folder->empty() && tree->empty()) throw CLI::RequiredError("DIR or --publish");
   });
 }
@@ -115,6 +127,26 @@ void makeFolder(const Options& options, std::ostream& out) {
   writeNotes(options.folder, contents);
 }
 
+void backUpFolder(const Options& options, std::ostream& out) {
+  const fs::path zip =
+      options.backup.empty() ? datedBackup(options.folder, SystemClock()) : fs::path(options.backup);
+  const std::size_t files = backUp(options.folder, zip);
+  out << files << " files of " << options.folder << " written to " << zip.string() << " and compared\n";
+}
+
+void restoreFolder(const Options& options, std::ostream& out) {
+  const Restored restored = restore(options.restoredFrom, options.folder, SystemClock());
+  out << restored.files << " files restored to " << options.folder << " and compared\n";
+  if (!restored.earlier.empty()) out << "What was there before is in " << restored.earlier.string() << "\n";
+}
+
+void runOptions(const Options& options, std::ostream& out) {
+  if (!options.tree.empty()) return publish(options.tree, options.from, out);
+  if (!options.restoredFrom.empty()) return restoreFolder(options, out);
+  if (options.backsUp) return backUpFolder(options, out);
+  makeFolder(options, out);
+}
+
 }  // namespace
 
 int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream& errors) {
@@ -127,11 +159,7 @@ int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream&
     return app.exit(error, out, errors) == 0 ? 0 : 2;
   }
   try {
-    if (options.tree.empty()) {
-      makeFolder(options, out);
-    } else {
-      publish(options.tree, options.from, out);
-    }
+    runOptions(options, out);
     return 0;
   } catch (const std::exception& error) {
     errors << "tallywick-setup: " << error.what() << "\n";

@@ -1,0 +1,108 @@
+// Backups: what they contain, what a restore brings back, and what is refused.
+#include "setup/backup.h"
+
+#include "core/clock.h"
+#include "core/file_commit.h"
+#include "support/record_book.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <zip.h>
+
+namespace tallywick::setup {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Backup : public testing::Test {
+ protected:
+  Backup() { test::writeRecordBook(scratch); }
+
+  /// Moves the record book below a folder that has room for what is put beside it.
+  void below() {
+    fs::create_directory(holder);
+    fs::rename(scratch.root(), book);
+  }
+  ~Backup() override { fs::remove_all(holder); }
+
+  static std::map<std::string, std::string> filesOf(const fs::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+      const std::string name = entry.path().lexically_relative(folder).generic_string();
+      files[name] = entry.is_regular_file() ? std::string(os::readFile(entry.path()).view()) : "folder";
+    }
+    return files;
+  }
+  /// What `action` complains about.
+  template <typename Action>
+  static std::string complaintOf(Action action) {
+    try {
+      action();
+      return "none";
+    } catch (const std::exception& error) {
+      return error.what();
+    }
+  }
+
+  test::ScratchFolder scratch;
+  StandingClock clock{"11-21-2026", "18:15:00"};
+  fs::path holder = fs::path(scratch.root()) += "-holder";
+  fs::path book = holder / "book";
+  fs::path zip = holder / "book 2026-11-21 181500.zip";
+};
+
+TEST_F(Backup, BringsBackEveryByteAndKeepsWhatWasThere) {
+  below();
+  std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR7.Ply");
+  const auto before = filesOf(book);
+  std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR1.Ply.tw~") << "work";
+  EXPECT_EQ(datedBackup(book, clock), zip);
+  EXPECT_EQ(backUp(book, zip), 10U);
+  EXPECT_NE(complaintOf([&] { backUp(book, zip); }).find("exists already"), std::string::npos);
+
+  std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR1.Ply") << "changed";
+  const auto changed = filesOf(book);
+  const Restored restored = restore(zip, book, clock);
+  EXPECT_EQ(restored.earlier, holder / "book before 2026-11-21 181500");
+  EXPECT_EQ(filesOf(book), before);
+  EXPECT_EQ(filesOf(restored.earlier), changed);
+
+  fs::remove_all(book);
+  EXPECT_EQ(restore(zip, book, clock).earlier, "");
+  EXPECT_EQ(filesOf(book), before);
+  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 3) << "something was left behind";
+}
+
+TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {
+  below();
+  backUp(book, zip);
+  const auto before = filesOf(book);
+  const auto archiveWith = [&](const char* name) {
+    const fs::path file = holder / "odd.zip";
+    fs::copy_file(zip, file, fs::copy_options::overwrite_existing);
+    zip_t* archive = zip_open(file.c_str(), 0, nullptr);
+    zip_file_add(archive, name, zip_source_buffer(archive, "x", 1, 0), 0);
+    zip_close(archive);
+    return file;
+  };
+  for (const char* name : {"../out", "/out", "QzrNumbers/../../out", "a\\b", "C:out", "QzrNumbers/x.tw~"}) {
+    const fs::path odd = archiveWith(name);
+    EXPECT_NE(complaintOf([&] { restore(odd, book, clock); }).find("is no file of a record book"),
+              std::string::npos)
+        << name;
+  }
+  std::string bytes(os::readFile(zip).view());
+  const std::size_t middle = bytes.size() / 4;
+  bytes[middle] = static_cast<char>(bytes[middle] ^ 0x55);
+  os::writeDurably(holder / "damaged.zip", bytes);
+  EXPECT_NE(complaintOf([&] { restore(holder / "damaged.zip", book, clock); }), "none");
+  const os::FileLock open(book / lockName, os::FileLock::Wait::no);
+  EXPECT_NE(complaintOf([&] { restore(zip, book, clock); }).find("is open in Tallywick"), std::string::npos);
+  auto after = filesOf(book);
+  after.erase(std::string(lockName));
+  EXPECT_EQ(after, before);
+  EXPECT_FALSE(fs::exists(holder / "out"));
+}
+
+}  // namespace
+}  // namespace tallywick::setup
