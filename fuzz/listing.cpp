@@ -1,7 +1,7 @@
 // The folder listing that a server sends, in both forms.
+#include "core/file_names.h"
 #include "core/text.h"
 #include "fuzz/property.h"
-#include "update/file_names.h"
 #include "update/server_listing.h"
 
 #include <algorithm>

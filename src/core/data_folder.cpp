@@ -27,10 +27,6 @@ bool underInstallFolder(std::string_view written) {
   return true;
 }
 
-fs::path fromText(std::string_view text) {
-  return fs::path(std::u8string(text.begin(), text.end()));
-}
-
 }  // namespace
 
 DataFolder::DataFolder(fs::path root) : root_(std::move(root)) {}
@@ -73,12 +69,7 @@ fs::path entryInAnyCase(const fs::path& folder, std::string_view name, Entry wan
   if (error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory) {
     throw runtimeErrorFrom(error, folder);
   }
-  return folder / fromText(best.empty() ? name : std::string_view(best));
-}
-
-std::string nameOf(const fs::path& file) {
-  const std::u8string name = file.filename().u8string();
-  return {name.begin(), name.end()};
+  return folder / pathOf(best.empty() ? name : std::string_view(best));
 }
 
 }  // namespace tallywick

@@ -1,8 +1,9 @@
 // The data folder: where every path that a handler writes becomes a real file.
 #pragma once
 
+#include "core/file_names.h"
+
 #include <filesystem>
-#include <string>
 #include <string_view>
 
 namespace tallywick {
@@ -36,8 +37,5 @@ enum class Entry { any, folder };
 /// several it is the first in byte order, whatever case is asked for, so that all who ask share one file.
 std::filesystem::path entryInAnyCase(const std::filesystem::path& folder, std::string_view name,
                                      Entry wanted = Entry::any);
-
-/// A file's name as text, whatever characters it holds.
-std::string nameOf(const std::filesystem::path& file);
 
 }  // namespace tallywick

@@ -1,5 +1,6 @@
 #include "core/runtime_error.h"
 
+#include "core/file_names.h"
 #include "core/text.h"
 
 #include <array>
@@ -32,6 +33,9 @@ RuntimeError::RuntimeError(std::int32_t number, std::string description, std::st
       description_(std::move(description)),
       where_(std::move(where)),
       source_(std::move(source)) {}
+
+LockedByAnother::LockedByAnother(const std::filesystem::path& lockFile)
+    : RuntimeError(ErrorNumber::permissionDenied, textOf(lockFile)) {}
 
 std::string RuntimeError::boxText() const {
   std::string number = std::to_string(number_);
@@ -77,6 +81,10 @@ RuntimeError currentRuntimeError() {
   }
 }
 
+RuntimeError notAFile(const std::filesystem::path& file) {
+  return RuntimeError(ErrorNumber::pathFileAccess, join(textOf(file), " (not a file)"));
+}
+
 RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file) {
   const auto is = [&](std::errc condition) { return code == condition; };
   ErrorNumber number = ErrorNumber::deviceIoError;
@@ -92,10 +100,11 @@ RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path&
   } else if (is(std::errc::no_space_on_device) || is(std::errc::file_too_large)) {
     number = ErrorNumber::diskFull;
   } else if (is(std::errc::is_a_directory) || is(std::errc::invalid_argument) ||
-             is(std::errc::filename_too_long) || is(std::errc::too_many_files_open)) {
+             is(std::errc::filename_too_long) || is(std::errc::too_many_files_open) ||
+             is(std::errc::too_many_symbolic_link_levels)) {
     number = ErrorNumber::pathFileAccess;
   }
-  return RuntimeError(number, join(file.string(), " (", code.message(), ")"));
+  return RuntimeError(number, join(textOf(file), " (", code.message(), ")"));
 }
 
 }  // namespace tallywick

@@ -54,8 +54,7 @@ class RuntimeError : public std::runtime_error {
 /// succeed.
 class LockedByAnother : public RuntimeError {
  public:
-  explicit LockedByAnother(const std::filesystem::path& lockFile)
-      : RuntimeError(ErrorNumber::permissionDenied, lockFile.string()) {}
+  explicit LockedByAnother(const std::filesystem::path& lockFile);
 };
 
 /// The runtime's text for a number, for example "File not found".
@@ -63,6 +62,9 @@ std::string_view descriptionOf(ErrorNumber number);
 
 /// The exception being handled as a runtime error: itself, or what stands for one of the library's.
 RuntimeError currentRuntimeError();
+
+/// Error 75 where `file` is a pipe, a device or whatever else is neither a file nor a folder.
+RuntimeError notAFile(const std::filesystem::path& file);
 
 /// The runtime error that stands for an operating system error on `file`.
 RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file);

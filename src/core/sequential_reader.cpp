@@ -21,7 +21,7 @@ bool endsLine(char letter) {
 
 SequentialReader::SequentialReader(const DataFolder& folder, std::string_view written, Reading reading) {
   const std::filesystem::path file = folder.resolve(written);
-  name_ = file.string();
+  name_ = textOf(file);
   try {
     open(file, reading);
   } catch (const RuntimeError& error) {

@@ -2,11 +2,11 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/file_names.h"
 #include "core/text.h"
 #include "update/curl_errors.h"
 #include "update/curl_operation.h"
 #include "update/curl_runner.h"
-#include "update/file_names.h"
 #include "update/folder_transfer.h"
 #include "update/transfer_errors.h"
 

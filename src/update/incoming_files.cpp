@@ -2,8 +2,8 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/file_names.h"
 #include "core/text.h"
-#include "update/file_names.h"
 #include "update/transfer_errors.h"
 
 #include <utility>

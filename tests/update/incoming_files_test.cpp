@@ -2,11 +2,11 @@
 #include "update/incoming_files.h"
 
 #include "core/clock.h"
+#include "core/file_names.h"
 #include "core/runtime_error.h"
 #include "support/killed_run.h"
 #include "support/raised.h"
 #include "support/scratch_folder.h"
-#include "update/file_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "update/file_names.h"
+#include "core/file_names.h"
 
 #include "core/text.h"
 
@@ -6,8 +6,11 @@
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <exception>
 
 namespace tallywick {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -62,6 +65,33 @@ bool matches(std::string_view wildcard, std::string_view name) {
 }
 
 }  // namespace
+
+std::string textOf(const fs::path& path) {
+  try {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+  } catch (const std::exception&) {
+    std::string text;
+    for (const auto letter : path.native()) {
+      text += letter >= ' ' && letter < 0x7F ? static_cast<char>(letter) : '?';
+    }
+    return text;
+  }
+}
+
+std::string nameOf(const fs::path& file) {
+  return textOf(file.filename());
+}
+
+fs::path pathOf(std::string_view text) {
+  try {
+    return fs::path(std::u8string(text.begin(), text.end()));
+  } catch (const std::exception&) {
+    std::u32string letters;
+    for (const char byte : text) letters += static_cast<unsigned char>(byte);
+    return fs::path(letters);
+  }
+}
 
 bool isPlainFileName(std::string_view name) {
   return !name.empty() && !hasForbidden(name) && !name.ends_with('.') && !name.ends_with(' ') &&
