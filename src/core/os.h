@@ -24,7 +24,8 @@ class FileBytes {
   std::size_t size_ = 0;
 };
 
-/// Reads a whole file. Raises a RuntimeError (53, 70, 75, 76 …).
+/// Reads a whole file. Raises a RuntimeError (53, 70, 75, 76 …); a folder, a pipe or a device is error 75 and
+/// never waited for.
 FileBytes readFile(const std::filesystem::path& file);
 
 /// A file that is read from its start in pieces.
@@ -46,9 +47,17 @@ class InputFile {
   std::intptr_t handle_;
 };
 
-/// Creates or empties `file`, writes `contents` and waits until they are on the disk. Every step is checked:
-/// on a failure the file is removed and a RuntimeError (61, 70, 75 …) raised.
-void writeDurably(const std::filesystem::path& file, std::string_view contents);
+/// Who may read and write a new file.
+enum class Access : std::uint8_t {
+  usual,     ///< what the user's own settings give to new files
+  ownerOnly  ///< where the platform's user folders are not the owner's alone anyway
+};
+
+/// Creates `file` anew, writes `contents` and waits until they are on the disk. What has the name is removed
+/// first, a link itself and not what it leads to. Every step is checked: on a failure the file is removed and
+/// a RuntimeError (61, 70, 75 …) raised.
+void writeDurably(const std::filesystem::path& file, std::string_view contents,
+                  Access access = Access::usual);
 
 /// Waits until the names of the files in `folder` are on the disk.
 void syncFolder(const std::filesystem::path& folder);
@@ -56,12 +65,13 @@ void syncFolder(const std::filesystem::path& folder);
 /// Waits until what was written to `file` by others (the transfer library) is on the disk.
 void syncFile(const std::filesystem::path& file);
 
-/// Gives `from` the name `to` in one step, whether or not `to` stands, with the access rights of an old `to`,
-/// and waits until the folder knows it.
+/// Gives `from` the name `to` in one step and waits until the folder knows it. An old file `to` is replaced
+/// with its rights; of a link `to` the link itself. Where `to` is a folder, a pipe or a device it is
+/// error 75.
 void takeName(const std::filesystem::path& from, const std::filesystem::path& to);
 
-/// Raises a RuntimeError where takeName() could not take over from `file`: a folder, or a file that may not
-/// be changed. A missing file can be replaced.
+/// Raises a RuntimeError where takeName() could not take over from `file`: a folder, a pipe, a device, or a
+/// file that may not be changed. A missing file and a link can be replaced.
 void checkReplaceable(const std::filesystem::path& file);
 
 /// Removes `file` where it stands and waits until the folder knows it. A missing file is no error.
@@ -73,7 +83,8 @@ class FileLock {
  public:
   enum class Wait { no, yes };
   /// Takes the lock, creating the lock file where there is none. Raises LockedByAnother where another program
-  /// holds it: at once with `Wait::no`, after two seconds with `Wait::yes`.
+  /// holds it: at once with `Wait::no`, after two seconds with `Wait::yes`. Error 75 where the lock file's
+  /// name belongs to a link or to something else that is no file.
   FileLock(const std::filesystem::path& lockFile, Wait wait);
   ~FileLock();
   FileLock(FileLock&& other) noexcept;
@@ -95,10 +106,14 @@ std::filesystem::path programFile();
 /// Whether the platform can start `program` as it stands.
 bool canRun(const std::filesystem::path& program);
 
-/// Starts `program` with `arguments` in `workingFolder` and does not wait for it. Raises RuntimeError 53
-/// where it cannot be started.
-void startProgram(const std::filesystem::path& program, const std::string& argument,
+/// Starts `program` in `workingFolder` and does not wait for it. Its only argument is a path; an empty one is
+/// none. Raises RuntimeError 53 that says why where it cannot be started.
+void startProgram(const std::filesystem::path& program, const std::filesystem::path& argument,
                   const std::filesystem::path& workingFolder);
+
+/// From now on a write beyond the file size that this process is allowed is error 61. It ends the process
+/// otherwise. Each program calls it first.
+void reportSizeLimit();
 
 /// A value below the machine-wide registry key: a text cut at its first null, a double word as "&h" and its
 /// hexadecimal digits. Empty where there is none, and on platforms without a registry.

@@ -1,4 +1,5 @@
 // The platform file of Linux and other POSIX systems.
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
@@ -6,7 +7,9 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -22,6 +25,8 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void fail(int error, const fs::path& file) {
+  // What a socket answers to being opened.
+  if (error == ENXIO) throw notAFile(file);
   // A used-up quota is a full disk to the one who meets it.
   if (error == EDQUOT) error = ENOSPC;
   throw runtimeErrorFrom(std::error_code(error, std::generic_category()), file);
@@ -30,9 +35,12 @@ namespace {
 /// An open file that is closed on every way out.
 class Descriptor {
  public:
-  Descriptor(const fs::path& file, int flags) : file_(file), number_(::open(file.c_str(), flags, 0666)) {
+  Descriptor(const fs::path& file, int flags, mode_t rights = 0666)
+      : file_(file), number_(::open(file.c_str(), flags | O_CLOEXEC, rights)) {
     if (number_ < 0) fail(errno, file_);
   }
+  /// Takes over an open one.
+  Descriptor(int number, const fs::path& file) : file_(file), number_(number) {}
   ~Descriptor() {
     if (number_ >= 0) ::close(number_);
   }
@@ -60,10 +68,21 @@ void syncFolderOf(const fs::path& file) {
   syncFolder(file.has_parent_path() ? file.parent_path() : fs::path("."));
 }
 
-std::size_t plainFileSize(int descriptor, const fs::path& file) {
+struct stat statusOf(int descriptor, const fs::path& file) {
   struct stat status {};
   if (::fstat(descriptor, &status) != 0) fail(errno, file);
-  if (!S_ISREG(status.st_mode)) fail(EISDIR, file);
+  return status;
+}
+
+/// Raises an error where `file` is no plain file.
+void requireFile(const struct stat& status, const fs::path& file) {
+  if (S_ISDIR(status.st_mode)) fail(EISDIR, file);
+  if (!S_ISREG(status.st_mode)) throw notAFile(file);
+}
+
+std::size_t plainFileSize(int descriptor, const fs::path& file) {
+  const struct stat status = statusOf(descriptor, file);
+  requireFile(status, file);
   return static_cast<std::size_t>(status.st_size);
 }
 
@@ -77,30 +96,27 @@ std::size_t readSome(int descriptor, char* to, std::size_t size, const fs::path&
 }
 
 /// A pipe in the place of a file is refused rather than waited for.
-constexpr int readingFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+constexpr int readingFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY;
 
-int lockedDescriptor(const fs::path& lockFile, std::chrono::steady_clock::time_point until) {
-  const int number = ::open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-  if (number < 0) fail(errno, lockFile);
-  while (::flock(number, LOCK_EX | LOCK_NB) != 0) {
-    if (errno == EINTR) continue;
-    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= until) {
-      const int error = errno;
-      ::close(number);
-      if (error == EWOULDBLOCK) throw LockedByAnother(lockFile);
-      fail(error, lockFile);
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
-  return number;
+/// Creates a file that has no name yet, or takes away what has its name and creates it then.
+Descriptor createAnew(const fs::path& file, Access access) {
+  constexpr int flags = O_WRONLY | O_CREAT | O_EXCL;
+  const mode_t rights = access == Access::ownerOnly ? 0600 : 0666;
+  const int number = ::open(file.c_str(), flags | O_CLOEXEC, rights);
+  if (number >= 0) return {number, file};
+  if (errno != EEXIST) fail(errno, file);
+  if (::unlink(file.c_str()) != 0 && errno != ENOENT) fail(errno, file);
+  return {file, flags, rights};
 }
 
-/// Whether the file has lost its name while it was waited for; then it is closed.
-bool wasRemoved(int number) {
-  struct stat status {};
-  if (::fstat(number, &status) != 0 || status.st_nlink != 0) return false;
-  ::close(number);
-  return true;
+void waitForLock(const Descriptor& lock, const fs::path& lockFile,
+                 std::chrono::steady_clock::time_point until) {
+  while (::flock(lock.number(), LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EINTR) continue;
+    if (errno != EWOULDBLOCK) fail(errno, lockFile);
+    if (std::chrono::steady_clock::now() >= until) throw LockedByAnother(lockFile);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
 }
 
 }  // namespace
@@ -141,8 +157,8 @@ std::size_t InputFile::read(char* to, std::size_t size) {
   return readSome(static_cast<int>(handle_), to, size, file_);
 }
 
-void writeDurably(const fs::path& file, std::string_view contents) {
-  Descriptor descriptor(file, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+void writeDurably(const fs::path& file, std::string_view contents, Access access) {
+  Descriptor descriptor = createAnew(file, access);
   try {
     while (!contents.empty()) {
       const ssize_t step = ::write(descriptor.number(), contents.data(), contents.size());
@@ -160,26 +176,30 @@ void writeDurably(const fs::path& file, std::string_view contents) {
 }
 
 void syncFolder(const fs::path& folder) {
-  const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
   // Some file systems cannot sync a folder and say so; there the rename itself is all there is.
   if (::fsync(descriptor.number()) != 0 && errno != EINVAL && errno != ENOTSUP) fail(errno, folder);
 }
 
 void syncFile(const fs::path& file) {
-  Descriptor(file, O_RDWR | O_CLOEXEC).sync();
+  Descriptor(file, O_RDWR).sync();
 }
 
 void takeName(const fs::path& from, const fs::path& to) {
-  std::error_code ignored;
-  const fs::file_status old = fs::status(to, ignored);
-  if (fs::is_regular_file(old)) fs::permissions(from, old.permissions(), ignored);
+  struct stat old {};
+  if (::lstat(to.c_str(), &old) == 0 && !S_ISLNK(old.st_mode)) requireFile(old, to);
   if (::rename(from.c_str(), to.c_str()) != 0) fail(errno, to);
   syncFolderOf(to);
 }
 
 void checkReplaceable(const fs::path& file) {
-  std::error_code ignored;
-  if (fs::is_directory(file, ignored)) fail(EISDIR, file);
+  struct stat status {};
+  if (::lstat(file.c_str(), &status) != 0) {
+    if (errno == ENOENT) return;
+    fail(errno, file);
+  }
+  if (S_ISLNK(status.st_mode)) return;
+  requireFile(status, file);
   // A file without the right to write can be replaced all the same; one that is locked against changes
   // cannot.
   if (::access(file.c_str(), W_OK) != 0 && (errno == EPERM || errno == EROFS)) fail(errno, file);
@@ -196,9 +216,15 @@ void removeDurably(const fs::path& file) {
 FileLock::FileLock(const fs::path& lockFile, Wait wait) : file_(lockFile) {
   using namespace std::chrono_literals;
   const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
-  do {
-    handle_ = lockedDescriptor(lockFile, until);
-  } while (wasRemoved(static_cast<int>(handle_)));
+  for (;;) {
+    Descriptor lock(lockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK);
+    requireFile(statusOf(lock.number(), lockFile), lockFile);
+    waitForLock(lock, lockFile, until);
+    // The one who was waited for has removed the file: then a lock on it keeps nobody out.
+    if (statusOf(lock.number(), lockFile).st_nlink == 0) continue;
+    handle_ = lock.release();
+    return;
+  }
 }
 
 FileLock::~FileLock() {
@@ -243,34 +269,52 @@ bool canRun(const fs::path& program) {
 
 namespace {
 
-/// In the child: becomes the program, or writes the error to `report`.
-[[noreturn]] void become(const char* program, const char* argument, const char* workingFolder, int report) {
-  if (::chdir(workingFolder) == 0) ::execl(program, program, argument, static_cast<char*>(nullptr));
+/// Writes the error of a step in the child to `report`.
+[[noreturn]] void giveUp(int report) {
   const int error = errno;
   static_cast<void>(::write(report, &error, sizeof error));
   ::_exit(127);
 }
 
+/// In the child: becomes the program.
+[[noreturn]] void become(const char* program, const char* argument, const char* workingFolder, int report) {
+  // What this process ignores its children would ignore too.
+  std::signal(SIGXFSZ, SIG_DFL);
+  if (::chdir(workingFolder) == 0) ::execl(program, program, argument, static_cast<char*>(nullptr));
+  giveUp(report);
+}
+
+[[noreturn]] void failToStart(const fs::path& program, int error) {
+  throw RuntimeError(ErrorNumber::fileNotFound,
+                     join(textOf(program), " cannot be started (", std::strerror(error), ")"));
+}
+
 }  // namespace
 
-void startProgram(const fs::path& program, const std::string& argument, const fs::path& workingFolder) {
+void startProgram(const fs::path& program, const fs::path& argument, const fs::path& workingFolder) {
   std::array<int, 2> report{};
-  if (::pipe2(report.data(), O_CLOEXEC) != 0) fail(errno, program);
+  if (::pipe2(report.data(), O_CLOEXEC) != 0) failToStart(program, errno);
   // Started by a child that ends at once, so that nobody has to wait for the program itself.
   const pid_t child = ::fork();
   if (child == 0) {
-    if (::fork() != 0) ::_exit(0);
+    const pid_t grandchild = ::fork();
+    if (grandchild < 0) giveUp(report[1]);
+    if (grandchild > 0) ::_exit(0);
     become(program.c_str(), argument.empty() ? nullptr : argument.c_str(), workingFolder.c_str(), report[1]);
   }
-  ::close(report[1]);
   int error = child < 0 ? errno : 0;
+  ::close(report[1]);
   // The pipe closes without a word where the program runs.
   while (child > 0 && ::read(report[0], &error, sizeof error) < 0 && errno == EINTR) {
   }
   ::close(report[0]);
   while (child > 0 && ::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
   }
-  if (error != 0) throw RuntimeError(ErrorNumber::fileNotFound, join(program.string(), " cannot be started"));
+  if (error != 0) failToStart(program, error);
+}
+
+void reportSizeLimit() {
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 std::string registryValue(std::string_view, std::string_view) {

@@ -1,6 +1,8 @@
 // The platform file of Windows.
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +25,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
+bool isFolder(const fs::path& file) {
+  const DWORD attributes = ::GetFileAttributesW(file.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 [[noreturn]] void fail(DWORD error, const fs::path& file) {
+  // To open a folder as a file is answered like a file without permission.
+  if (error == ERROR_ACCESS_DENIED && isFolder(file)) {
+    throw RuntimeError(ErrorNumber::pathFileAccess, textOf(file) + " (a folder)");
+  }
   throw runtimeErrorFrom(std::error_code(static_cast<int>(error), std::system_category()), file);
 }
 
@@ -55,6 +66,14 @@ class Handle {
   HANDLE handle_;
 };
 
+/// An existing file opened for reading; pipes and devices are refused.
+class ReadHandle : public Handle {
+ public:
+  explicit ReadHandle(const fs::path& file) : Handle(file, GENERIC_READ, OPEN_EXISTING) {
+    if (::GetFileType(get()) != FILE_TYPE_DISK) throw notAFile(file);
+  }
+};
+
 constexpr DWORD largestStep = 1U << 30;
 
 /// At least one byte, but at the end of the file.
@@ -66,7 +85,7 @@ std::size_t readSome(HANDLE handle, char* to, std::size_t size, const fs::path& 
 }
 
 std::wstring wide(std::string_view text) {
-  return fs::path(std::u8string(text.begin(), text.end())).wstring();
+  return pathOf(text).wstring();
 }
 
 /// A registry key open for reading; null where it cannot be opened.
@@ -97,7 +116,7 @@ std::string asHexadecimal(DWORD number) {
 }  // namespace
 
 FileBytes readFile(const fs::path& file) {
-  const Handle handle(file, GENERIC_READ, OPEN_EXISTING);
+  const ReadHandle handle(file);
   LARGE_INTEGER length;
   if (::GetFileSizeEx(handle.get(), &length) == 0) fail(::GetLastError(), file);
   const auto size = static_cast<std::size_t>(length.QuadPart);
@@ -112,7 +131,7 @@ FileBytes readFile(const fs::path& file) {
 }
 
 InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
-  Handle handle(file, GENERIC_READ, OPEN_EXISTING);
+  ReadHandle handle(file);
   handle_ = reinterpret_cast<std::intptr_t>(handle.release());
 }
 
@@ -133,8 +152,10 @@ std::size_t InputFile::read(char* to, std::size_t size) {
   return readSome(reinterpret_cast<HANDLE>(handle_), to, size, file_);
 }
 
-void writeDurably(const fs::path& file, std::string_view contents) {
-  Handle handle(file, GENERIC_WRITE, CREATE_ALWAYS);
+// The folders of a user are closed to others here, so that both kinds of access are the usual one.
+void writeDurably(const fs::path& file, std::string_view contents, Access) {
+  removeDurably(file);
+  Handle handle(file, GENERIC_WRITE, CREATE_NEW);
   try {
     while (!contents.empty()) {
       const auto wanted = static_cast<DWORD>(std::min<std::size_t>(contents.size(), largestStep));
@@ -174,10 +195,8 @@ void takeName(const fs::path& from, const fs::path& to) {
 void checkReplaceable(const fs::path& file) {
   const DWORD attributes = ::GetFileAttributesW(file.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return;
-  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    throw RuntimeError(ErrorNumber::pathFileAccess, file.string());
-  }
-  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED, file);
+  const DWORD obstacles = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
+  if ((attributes & obstacles) != 0) fail(ERROR_ACCESS_DENIED, file);
 }
 
 void removeDurably(const fs::path& file) {
@@ -228,19 +247,29 @@ bool canRun(const fs::path& program) {
   return ::GetBinaryTypeW(program.c_str(), &kind) != 0;
 }
 
-void startProgram(const fs::path& program, const std::string& argument, const fs::path& workingFolder) {
+void startProgram(const fs::path& program, const fs::path& argument, const fs::path& workingFolder) {
   std::wstring command = L"\"" + program.wstring() + L"\"";
-  if (!argument.empty()) command += L" \"" + fs::path(argument).wstring() + L"\"";
+  if (!argument.empty()) {
+    command += L" \"" + argument.wstring();
+    // A back slash before the closing quote would make it a part of the argument.
+    if (command.ends_with(L'\\')) command += L'\\';
+    command += L'"';
+  }
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process{};
   if (::CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
                        workingFolder.c_str(), &startup, &process) == 0) {
-    fail(::GetLastError(), program);
+    const std::error_code error(static_cast<int>(::GetLastError()), std::system_category());
+    throw RuntimeError(ErrorNumber::fileNotFound,
+                       join(textOf(program), " cannot be started (", error.message(), ")"));
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
 }
+
+// There is no such limit here.
+void reportSizeLimit() {}
 
 std::string registryValue(std::string_view key, std::string_view value) {
   const RegistryKey opened(key);
@@ -259,8 +288,7 @@ std::string registryValue(std::string_view key, std::string_view value) {
   }
   if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
   const std::wstring text(buffer.data(), bytes / sizeof(wchar_t));
-  const std::u8string narrow = fs::path(text.substr(0, text.find(L'\0'))).u8string();
-  return {narrow.begin(), narrow.end()};
+  return textOf(fs::path(text.substr(0, text.find(L'\0'))));
 }
 
 }  // namespace tallywick::os

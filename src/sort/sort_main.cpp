@@ -1,8 +1,10 @@
 // qzrsrt3: the sort tool that runs after play-file maintenance.
+#include "core/os.h"
 #include "sort/sort_plays.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
+  tallywick::os::reportSizeLimit();
   return tallywick::sort::runSort(argc, argv, std::cout, std::cerr);
 }

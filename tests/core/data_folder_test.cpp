@@ -8,6 +8,7 @@
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace tallywick {
 namespace {
@@ -67,6 +68,12 @@ TEST(RuntimeError, TheSystemsErrorsHaveTheRuntimesNumbers) {
   EXPECT_EQ(numberOf(scratch.root() / "none"), 53);
   EXPECT_EQ(numberOf(scratch.root() / "none" / "none"), 76);
   EXPECT_EQ(numberOf(scratch.root() / "QzrNumbers"), 75);
+  const auto pipe = scratch.root() / "pipe";
+  ::mkfifo(pipe.c_str(), 0666);
+  EXPECT_EQ(numberOf(pipe), 75);
+  EXPECT_EQ(numberOf("/dev/null"), 75);
+  EXPECT_EQ(notAFile(pipe).where(), pipe.string() + " (not a file)");
+  EXPECT_THROW(replaceFile(pipe, "text"), RuntimeError) << "somebody waits at that pipe";
   EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::no_space_on_device), "f").number(), 61);
   EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::read_only_file_system), "f").number(), 70);
 }

@@ -31,7 +31,7 @@ QString findViewer() {
 void openHelp(const DataFolder& folder, const QString& page) {
   const QString viewer = folder.exists(helpFile) ? findViewer() : QString();
   if (!viewer.isEmpty()) {
-    os::startProgram(viewer.toStdU16String(), folder.resolve(helpFile).string(), folder.root());
+    os::startProgram(viewer.toStdU16String(), folder.resolve(helpFile), folder.root());
     return;
   }
   HelpWindow::showPage(page);

@@ -1,5 +1,7 @@
+#include "core/os.h"
 #include "ui/qt/program.h"
 
 int main(int argumentCount, char** arguments) {
+  tallywick::os::reportSizeLimit();
   return tallywick::runProgram(argumentCount, arguments);
 }
