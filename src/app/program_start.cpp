@@ -3,6 +3,7 @@
 #include "core/data_folder.h"
 #include "core/games.h"
 #include "core/os.h"
+#include "core/runtime_error.h"
 #include "core/text.h"
 
 namespace tallywick {
@@ -11,16 +12,23 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The program's own sort tool, which is installed beside the program.
 fs::path ownSortTool() {
   const fs::path self = os::programFile();
-  return (self.parent_path() / "qzrsrt3").replace_extension(self.extension());
+  const fs::path extension = self.extension() == ".exe" ? ".exe" : "";
+  return self.parent_path() / fs::path("qzrsrt3").concat(extension.native());
+}
+
+bool isBelow(const fs::path& folder, const fs::path& file) {
+  std::error_code ignored;
+  const fs::path way =
+      fs::weakly_canonical(file, ignored).lexically_relative(fs::weakly_canonical(folder, ignored));
+  return !way.empty() && way.begin()->native() != fs::path("..").native();
 }
 
 /// The working folder as it is written where this platform has it, else the data folder.
 fs::path standingFolder(std::string_view written, const DataFolder& folder) {
   std::error_code ignored;
-  const fs::path path(written);
+  const fs::path path = pathOf(written);
   return fs::is_directory(path, ignored) ? path : folder.root();
 }
 
@@ -30,12 +38,14 @@ ProgramStart programStart(const DataFolder& folder, std::string_view program,
                           std::string_view workingFolder) {
   const fs::path startsIn = standingFolder(workingFolder, folder);
   const std::size_t name = program.find_last_of("\\/") + 1;
-  if (!equalIgnoringCase(program.substr(name), sortToolFile)) {
-    return {fs::path(program), "", startsIn};
+  if (equalIgnoringCase(program.substr(name), sortToolFile)) {
+    return {ownSortTool(), folder.resolve(program.substr(0, name)), startsIn};
   }
-  const fs::path tool = folder.resolve(program);
-  if (os::canRun(tool)) return {tool, "", startsIn};
-  return {ownSortTool(), tool.parent_path().string(), startsIn};
+  const fs::path file = pathOf(program);
+  if (isBelow(folder.root(), file)) {
+    throw RuntimeError(ErrorNumber::fileNotFound, join(textOf(file), " is a file of the record book"));
+  }
+  return {file, {}, startsIn};
 }
 
 }  // namespace tallywick

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 #include <string_view>
 
 namespace tallywick {
@@ -13,13 +12,13 @@ class DataFolder;
 struct ProgramStart {
   std::filesystem::path program;
   /// Its only argument; empty where it has none.
-  std::string argument;
+  std::filesystem::path argument;
   std::filesystem::path workingFolder;
 };
 
-/// What stands for `program`: a game folder's sort tool where it can run here, else the program's own sort
-/// tool on that folder; any other path as it is written. A file of a game folder came over the network and is
-/// never given the right to run.
+/// What is started for `program`: for a game folder's sort tool always the program's own, which is installed
+/// beside the running program, on that game folder; for any other path the program of that path. Files of a
+/// data folder come from servers and other people, so none of them is ever run: error 53.
 ProgramStart programStart(const DataFolder& folder, std::string_view program, std::string_view workingFolder);
 
 }  // namespace tallywick

@@ -3,6 +3,8 @@
 
 #include "app/data_folder_choice.h"
 #include "app/program_start.h"
+#include "core/os.h"
+#include "core/runtime_error.h"
 #include "support/scratch_folder.h"
 
 #include <cstdlib>
@@ -48,24 +50,29 @@ TEST(DataFolderChoice, TheCommandLineGoesBeforeTheEnvironment) {
   ::unsetenv("TALLYWICK_FOLDER");
 }
 
-TEST(ProgramStart, ASortToolThatCannotRunHereIsReplacedAndNeverMadeRunnable) {
+TEST(ProgramStart, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
   const ScratchFolder scratch;
   constexpr const char* path =
       R"(C:\Program Files\TALLYWICK SOFTWARE\TALLYWICK\QZRNUMBERS\QZR6PWR\QZRSRT3.EXE)";
-  scratch.write(path, "from the server");
-  const auto tool = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRSRT3.EXE";
-  ProgramStart start = programStart(scratch.folder(), path, R"(C:\)");
-  EXPECT_EQ(start.program.stem(), "qzrsrt3");
-  EXPECT_EQ(start.argument, tool.parent_path());
-  EXPECT_EQ(std::filesystem::status(tool).permissions() & std::filesystem::perms::owner_exec,
-            std::filesystem::perms::none);
-  std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
-  EXPECT_EQ(programStart(scratch.folder(), path, R"(C:\)").program.stem(), "qzrsrt3")
-      << "a program of another platform, on a file system where every file may run";
-  scratch.write(path, "#!/bin/sh\nexit 0\n");
-  start = programStart(scratch.folder(), path, R"(C:\)");
-  EXPECT_EQ(start.program, tool);
-  EXPECT_EQ(start.argument, "");
+  struct Row {
+    const char* way;
+    std::filesystem::perms rights;
+    const char* text;
+  };
+  using std::filesystem::perms;
+  for (const Row& row : {Row{"the old tool had the right to run", perms::owner_all, "#!/bin/sh\nexit 0\n"},
+                         Row{"every file may run on this file system", perms::all,
+                             "\x7F"
+                             "ELF"},
+                         Row{"a program of Windows", perms(0644), "MZ"}}) {
+    scratch.write(path, row.text);
+    const auto tool = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRSRT3.EXE";
+    std::filesystem::permissions(tool, row.rights);
+    const ProgramStart start = programStart(scratch.folder(), path, R"(C:\)");
+    EXPECT_EQ(start.program, os::programFile().parent_path() / "qzrsrt3") << row.way;
+    EXPECT_TRUE(std::filesystem::equivalent(start.argument, tool.parent_path())) << row.way;
+    EXPECT_THROW(programStart(scratch.folder(), tool.string() + "x", ""), RuntimeError) << row.way;
+  }
 }
 
 }  // namespace
