@@ -1,10 +1,18 @@
 #include "core/file_commit.h"
 
+#include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/dated_copies.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <mutex>
+#include <optional>
+#include <set>
 #include <utility>
 
 namespace tallywick {
@@ -13,19 +21,46 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view journalHead = "tallywick-journal 1\n";
+constexpr std::string_view journalHead = "tallywick-journal 2\n";
+/// The first release's journals list names only.
+constexpr std::string_view firstJournalHead = "tallywick-journal 1\n";
 /// Closes a journal; no file has such a name.
 constexpr std::string_view journalEnd = "/\n";
+constexpr std::uintmax_t largestJournal = std::uintmax_t{1} << 20U;
+/// Dated like a copy; what cannot be carried out takes such a name.
+constexpr std::string_view setAsideName = "TALLYWICK not carried out.JNL";
+/// What fingerprintOf() gives for a file that is missing.
+constexpr std::string_view noFile = "- -";
+
+/// One file of a change.
+struct Replacement {
+  std::string name;
+  /// The fingerprint of the file that is replaced; empty where the journal does not tell it.
+  std::string replaces;
+};
+
+std::mutex noticesMutex;
+std::vector<std::string> notices;
+
+void notify(std::string text) {
+  const std::scoped_lock lock(noticesMutex);
+  notices.push_back(std::move(text));
+}
 
 fs::path stagedPath(const fs::path& folder, std::string_view name) {
-  return folder / fs::path(std::u8string(name.begin(), name.end())).concat(stagedSuffix);
+  return folder / pathOf(join(name, stagedSuffix));
+}
+
+/// What has the name itself: of a link the link.
+fs::file_type typeOf(const fs::path& file) {
+  std::error_code error;
+  const fs::file_type type = fs::symlink_status(file, error).type();
+  if (type == fs::file_type::none) throw runtimeErrorFrom(error, file);
+  return type;
 }
 
 bool stands(const fs::path& file) {
-  std::error_code error;
-  const bool found = fs::exists(file, error);
-  if (error) throw runtimeErrorFrom(error, file);
-  return found;
+  return typeOf(file) != fs::file_type::not_found;
 }
 
 /// The files of `folder` with names of the program's own, but for the lock.
@@ -35,40 +70,159 @@ std::vector<fs::path> workFiles(const fs::path& folder) {
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     const std::string name = nameOf(entry->path());
     std::error_code ignored;
-    if (!isOwnWorkName(name) || equalIgnoringCase(name, lockName) || entry->is_directory(ignored)) continue;
+    const bool isFolder = entry->symlink_status(ignored).type() == fs::file_type::directory;
+    if (!isOwnWorkName(name) || equalIgnoringCase(name, lockName) || isFolder) continue;
     found.push_back(entry->path());
   }
   if (error) throw runtimeErrorFrom(error, folder);
   return found;
 }
 
-std::string journalOf(const std::vector<std::string>& names) {
+/// A file's size and a hash of its bytes.
+std::string fingerprintOf(const fs::path& file) {
+  std::error_code ignored;
+  if (!fs::is_regular_file(file, ignored)) return std::string(noFile);
+  const os::FileBytes bytes = os::readFile(file);
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char byte : bytes.view()) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+  std::array<char, 16> digits{};
+  const char* const end = std::to_chars(digits.begin(), digits.end(), hash, 16).ptr;
+  return join(std::to_string(bytes.view().size()), " ", std::string_view(digits.data(), end));
+}
+
+bool isFingerprint(std::string_view text) {
+  const std::size_t blank = std::min(text.find(' '), text.size() - 1);
+  const std::string_view size = text.substr(0, blank);
+  const std::string_view hash = text.substr(blank + 1);
+  return text == noFile ||
+         (!size.empty() && size.find_first_not_of("0123456789") == std::string_view::npos && !hash.empty() &&
+          hash.find_first_not_of("0123456789abcdef") == std::string_view::npos);
+}
+
+bool canBeStaged(std::string_view name) {
+  return isPlainFileName(name) && !isOwnWorkName(name);
+}
+
+std::string journalOf(const std::vector<Replacement>& entries) {
   std::string journal(journalHead);
-  for (const std::string& name : names) journal.append(name).append("\n");
+  for (const Replacement& entry : entries) journal.append(join(entry.replaces, " ", entry.name, "\n"));
   return journal.append(journalEnd);
 }
 
-/// The names that a journal lists. A journal takes its name when all of it is on the disk, so one that is not
-/// whole was never acted upon and lists none.
-std::vector<std::string> namesIn(std::string_view journal) {
-  std::vector<std::string> names;
-  if (!journal.starts_with(journalHead) || !journal.ends_with(journalEnd)) return names;
+/// None where the line is not one that journalOf() writes.
+std::optional<Replacement> entryIn(std::string_view line, bool tellsContents) {
+  Replacement entry;
+  if (tellsContents) {
+    const std::size_t blank = line.find(' ', line.find(' ') + 1);
+    if (blank == std::string_view::npos || !isFingerprint(line.substr(0, blank))) return std::nullopt;
+    entry.replaces = line.substr(0, blank);
+    line.remove_prefix(blank + 1);
+  }
+  entry.name = line;
+  return canBeStaged(line) ? std::optional(entry) : std::nullopt;
+}
+
+/// None where the text is no journal of this program's: a whole one of plain names, each once.
+std::optional<std::vector<Replacement>> entriesIn(std::string_view journal) {
+  const bool tellsContents = journal.starts_with(journalHead);
+  if (!tellsContents && !journal.starts_with(firstJournalHead)) return std::nullopt;
   journal.remove_prefix(journalHead.size());
+  if (!journal.ends_with(journalEnd)) return std::nullopt;
   journal.remove_suffix(journalEnd.size());
+  std::vector<Replacement> entries;
+  std::set<std::string> names;
   while (!journal.empty()) {
-    const std::size_t end = std::min(journal.find('\n'), journal.size() - 1);
-    names.emplace_back(journal.substr(0, end));
+    const std::size_t end = journal.find('\n');
+    const std::optional<Replacement> entry = entryIn(journal.substr(0, end), tellsContents);
+    if (end == std::string_view::npos || !entry || !names.insert(lowered(entry->name)).second) {
+      return std::nullopt;
+    }
+    entries.push_back(*entry);
     journal.remove_prefix(end + 1);
   }
-  return names;
+  return entries;
+}
+
+std::optional<std::vector<Replacement>> readJournal(const fs::path& journal) {
+  std::error_code ignored;
+  if (typeOf(journal) != fs::file_type::regular || fs::file_size(journal, ignored) > largestJournal) {
+    return std::nullopt;
+  }
+  return entriesIn(os::readFile(journal).view());
+}
+
+/// Whether nothing stands in the way of a staged file that is still to be taken over.
+bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
+  const fs::file_type staged = typeOf(stagedPath(folder, entry.name));
+  if (staged == fs::file_type::not_found) return true;
+  try {
+    os::checkReplaceable(entryInAnyCase(folder, entry.name));
+  } catch (const RuntimeError&) {
+    return false;
+  }
+  return staged == fs::file_type::regular;
+}
+
+/// Keeps a file that is about to be replaced and is not the one that the journal means.
+void keepChanged(const fs::path& folder, const Replacement& entry) {
+  const fs::path staged = stagedPath(folder, entry.name);
+  const fs::path file = entryInAnyCase(folder, entry.name);
+  if (entry.replaces.empty() || !stands(staged)) return;
+  const std::string found = fingerprintOf(file);
+  if (found == noFile || found == entry.replaces || found == fingerprintOf(staged)) return;
+  const std::string name = nameOf(file);
+  const std::vector<DatedCopy> copies = datedCopies(folder, name);
+  // A recovery that was cut short itself has made the copy already.
+  const bool isKept = !copies.empty() && fingerprintOf(folder / pathOf(copies.front().name)) == found;
+  const std::string copy = isKept ? copies.front().name : nextCopyName(folder, name, SystemClock());
+  if (!isKept) replaceFile(folder / pathOf(copy), os::readFile(file).view());
+  notify(join("A change of the files in\r\n", textOf(folder),
+              "\r\nhad been cut short and is finished now. \"", name,
+              "\" had been changed meanwhile; what it contained is kept in \"", copy, "\"."));
 }
 
 /// Takes over the staged files that still stand. Doing it twice changes nothing: a staged name is used once.
-void takeOver(const fs::path& folder, const std::vector<std::string>& names) {
-  for (const std::string& name : names) {
-    const fs::path staged = stagedPath(folder, name);
-    if (stands(staged)) os::takeName(staged, entryInAnyCase(folder, name));
+void takeOver(const fs::path& folder, const std::vector<Replacement>& entries) {
+  for (const Replacement& entry : entries) {
+    const fs::path staged = stagedPath(folder, entry.name);
+    if (stands(staged)) os::takeName(staged, entryInAnyCase(folder, entry.name));
   }
+}
+
+/// The newest of `names` a line each, as many as a message box can show.
+std::string listed(const std::vector<std::string>& names) {
+  constexpr std::size_t mostNames = 10;
+  std::string text;
+  const std::size_t shown = std::min(names.size(), mostNames);
+  for (std::size_t i = 0; i < shown; ++i) text += join("\r\n\"", names[names.size() - 1 - i], "\"");
+  if (names.size() > shown) text += join("\r\nand ", std::to_string(names.size() - shown), " more");
+  return text;
+}
+
+/// Gives the staged files names like those of dated copies, and then the journal one that says what it is. A
+/// journal that could be read becomes unreadable first: cut short in the middle, this goes on and nothing
+/// else.
+void setAside(const fs::path& folder, bool isReadable) {
+  const fs::path journal = folder / journalName;
+  if (isReadable) replaceFile(journal, join("not carried out\n", os::readFile(journal).view()));
+  const SystemClock clock;
+  std::vector<std::string> names;
+  const auto rename = [&](const fs::path& file, std::string_view name) {
+    const std::string aside = nextCopyName(folder, name, clock);
+    os::takeName(file, folder / pathOf(aside));
+    names.push_back(aside);
+  };
+  for (const fs::path& work : workFiles(folder)) {
+    std::string name = nameOf(work);
+    if (typeOf(work) != fs::file_type::regular || !lowered(name).ends_with(stagedSuffix)) continue;
+    name.resize(name.size() - stagedSuffix.size());
+    if (canBeStaged(name)) rename(work, name);
+  }
+  rename(journal, setAsideName);
+  notify(join("A change of the files in\r\n", textOf(folder),
+              "\r\nwas begun and cannot be finished. The files stay as they are; what is left of the change "
+              "is kept in",
+              listed(names)));
 }
 
 /// Finishes a change that was cut short after its journal was in place, and removes what an uncommitted one
@@ -76,8 +230,15 @@ void takeOver(const fs::path& folder, const std::vector<std::string>& names) {
 void finishCommit(const fs::path& folder) {
   const fs::path journal = folder / journalName;
   if (stands(journal)) {
-    takeOver(folder, namesIn(os::readFile(journal).view()));
-    os::removeDurably(journal);
+    const std::optional<std::vector<Replacement>> entries = readJournal(journal);
+    const auto isFree = [&](const Replacement& entry) { return canBeTakenOver(folder, entry); };
+    if (entries && std::ranges::all_of(*entries, isFree)) {
+      for (const Replacement& entry : *entries) keepChanged(folder, entry);
+      takeOver(folder, *entries);
+      os::removeDurably(journal);
+    } else {
+      setAside(folder, entries.has_value());
+    }
   }
   for (const fs::path& leftover : workFiles(folder)) os::removeDurably(leftover);
 }
@@ -89,9 +250,9 @@ bool isOwnWorkName(std::string_view name) {
          lowered(name).ends_with(stagedSuffix);
 }
 
-void replaceFile(const fs::path& file, std::string_view contents) {
+void replaceFile(const fs::path& file, std::string_view contents, os::Access access) {
   const fs::path work = fs::path(file).concat(stagedSuffix);
-  os::writeDurably(work, contents);
+  os::writeDurably(work, contents, access);
   try {
     os::takeName(work, file);
   } catch (const RuntimeError&) {
@@ -114,22 +275,31 @@ FileCommit::~FileCommit() {
   for (const std::string& name : names_) fs::remove(stagedPath(folder_, name), ignored);
 }
 
-void FileCommit::stage(std::string_view name, std::string_view contents) {
+void FileCommit::stage(std::string_view name, std::string_view contents, os::Access access) {
+  if (!canBeStaged(name)) {
+    throw RuntimeError(ErrorNumber::pathFileAccess,
+                       join(textOf(folder_), ": \"", name, "\" is no plain file name"));
+  }
   names_.emplace_back(name);
-  os::writeDurably(stagedPath(folder_, name), contents);
+  os::writeDurably(stagedPath(folder_, name), contents, access);
 }
 
 void FileCommit::commit() {
+  std::vector<Replacement> entries;
   for (const std::string& name : names_) {
     const fs::path staged = stagedPath(folder_, name);
-    if (!stands(staged)) throw RuntimeError(ErrorNumber::fileNotFound, staged.string());
-    os::checkReplaceable(entryInAnyCase(folder_, name));
+    if (typeOf(staged) != fs::file_type::regular) {
+      throw RuntimeError(ErrorNumber::fileNotFound, textOf(staged));
+    }
+    const fs::path file = entryInAnyCase(folder_, name);
+    os::checkReplaceable(file);
+    entries.push_back({name, fingerprintOf(file)});
   }
   try {
     // The journal may name only what a cut of the power leaves standing.
     os::syncFolder(folder_);
-    replaceFile(folder_ / journalName, journalOf(names_));
-    takeOver(folder_, names_);
+    replaceFile(folder_ / journalName, journalOf(entries));
+    takeOver(folder_, entries);
   } catch (...) {
     takeBack();
     throw;
@@ -158,10 +328,18 @@ void FileCommit::takeBack() noexcept {
 }
 
 void recoverFolder(const fs::path& folder) {
-  if (!stands(folder) || (workFiles(folder).empty() && !stands(folder / lockName))) return;
+  if (!stands(folder)) return;
+  const bool isTidy =
+      workFiles(folder).empty() && !stands(folder / journalName) && !stands(folder / lockName);
+  if (isTidy) return;
   // Who holds the lock is at work now and finishes what it finds; nobody has to wait for that.
   const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);
   finishCommit(folder);
+}
+
+std::vector<std::string> takeRecoveryNotices() {
+  const std::scoped_lock lock(noticesMutex);
+  return std::exchange(notices, {});
 }
 
 }  // namespace tallywick

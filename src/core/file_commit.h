@@ -19,7 +19,8 @@ bool isOwnWorkName(std::string_view name);
 
 /// Replaces one file in one step: a work file beside it is written and synced, then takes its name. A failure
 /// leaves the file as it was.
-void replaceFile(const std::filesystem::path& file, std::string_view contents);
+void replaceFile(const std::filesystem::path& file, std::string_view contents,
+                 os::Access access = os::Access::usual);
 
 /// Takes the lock on a folder and finishes what an earlier change of it left behind. Whatever changes play
 /// files holds it meanwhile: the selection window, the maintenance, an update and the sort tool.
@@ -29,6 +30,10 @@ os::FileLock lockFolder(const std::filesystem::path& folder);
 /// beside the old ones, a journal that names them is put in place in one step, and from then on the change is
 /// made: commit() takes over name by name and removes the journal, and where that is cut short the next one
 /// who takes the folder's lock goes on. The lock is held from construction on.
+///
+/// The journal tells of each file what it contained. A file that somebody else changed after the cut is kept
+/// as a dated copy before it is replaced. A journal that is none of this program's, or that cannot be carried
+/// out, is set aside under a dated name, and so are the staged files; takeRecoveryNotices() reports both.
 class FileCommit {
  public:
   explicit FileCommit(std::filesystem::path folder);
@@ -37,8 +42,13 @@ class FileCommit {
   FileCommit(const FileCommit&) = delete;
   FileCommit& operator=(const FileCommit&) = delete;
 
-  /// Stages new contents for the file `name`, in whatever letter case it stands in the folder.
-  void stage(std::string_view name, std::string_view contents);
+  const std::filesystem::path& folder() const { return folder_; }
+  /// What has been staged.
+  const std::vector<std::string>& names() const { return names_; }
+
+  /// Stages new contents for the file `name`, in whatever letter case it stands in the folder. Error 75 where
+  /// it is no plain name.
+  void stage(std::string_view name, std::string_view contents, os::Access access = os::Access::usual);
 
   /// Takes over the staged files in the order in which they were staged. Where it fails, everything is as
   /// before or, once a name has been taken over, finished by the next one who takes the folder's lock.
@@ -55,5 +65,8 @@ class FileCommit {
 /// Finishes what was cut short. Where there is nothing to finish it takes no lock, so that a folder that
 /// cannot be written is no error. Raises LockedByAnother at once where somebody is at work in the folder.
 void recoverFolder(const std::filesystem::path& folder);
+
+/// What the recoveries since the last call could not finish or had to keep, as texts for the player.
+std::vector<std::string> takeRecoveryNotices();
 
 }  // namespace tallywick

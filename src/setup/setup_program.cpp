@@ -1,6 +1,7 @@
 #include "setup/setup_program.h"
 
 #include "core/clock.h"
+#include "core/file_commit.h"
 #include "core/text.h"
 #include "exports/import_report.h"
 #include "setup/backup.h"
@@ -160,6 +161,7 @@ int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream&
   }
   try {
     runOptions(options, out);
+    for (const std::string& notice : takeRecoveryNotices()) errors << "tallywick-setup: " << notice << "\n";
     return 0;
   } catch (const std::exception& error) {
     errors << "tallywick-setup: " << error.what() << "\n";

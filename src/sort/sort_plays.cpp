@@ -120,6 +120,7 @@ int runSort(int argc, const char* const* argv, std::ostream& out, std::ostream& 
   }
   try {
     sortFolder(folder);
+    for (const std::string& notice : takeRecoveryNotices()) errors << "qzrsrt3: " << notice << "\n";
     return 0;
   } catch (const std::exception& error) {
     errors << "qzrsrt3: " << error.what() << "\n";

@@ -10,6 +10,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tallywick {
@@ -37,18 +38,18 @@ class IncomingFiles {
   /// "QZR6PWR1 2026-11-21 181500.Ply".
   void add(std::string_view name, std::string_view contents);
 
-  /// Each file takes the place of the old one of its name, whatever the old one's letter case.
-  void commit() { commit_.commit(); }
+  /// Each file takes the place of the old one of its name, whatever the old one's letter case. Of a
+  /// play file's dated copies the newest stay.
+  void commit();
 
  private:
-  void keepOld(const std::filesystem::path& file, std::string_view newContents);
-  std::string freeCopyName(const std::filesystem::path& file);
-
   std::filesystem::path folder_;
   FileCommit commit_;
-  /// In small letters: what is listed and what stands.
+  /// In small letters: what is listed.
   std::set<std::string> takenNames_;
-  std::string date_;
+  const Clock& clock_;
+  /// The play files that are replaced, and their copies.
+  std::vector<std::pair<std::string, std::string>> copies_;
 };
 
 }  // namespace tallywick

@@ -1,10 +1,15 @@
 // A change of several files is made as a whole or not at all, and a broken one is finished or dropped.
 #include "core/file_commit.h"
 
+#include "core/clock.h"
+#include "core/dated_copies.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
+#include <regex>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -21,13 +26,13 @@ class FileCommits : public testing::Test {
     scratch.write("QzrNumbers/QZR6PWR/" + file, text);
   }
 
-  /// The folder's files with their texts, but for the lock.
+  /// The folder's files with their texts, but for the lock, and with their dates taken out.
   std::string files() {
     std::string text;
     for (const auto& [name, contents] : scratch.snapshot()) {
       text += name.substr(name.rfind('/') + 1) + "=" + contents + " ";
     }
-    return text;
+    return std::regex_replace(text, std::regex("[0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{6}"), "DATE");
   }
 
   ScratchFolder scratch;
@@ -46,12 +51,38 @@ TEST_F(FileCommits, TakesOverAllFilesInWhateverCaseTheyStand) {
   EXPECT_EQ(files(), "Other=made qzr6pwr1.ply=new ");
 }
 
-TEST_F(FileCommits, AReplacedFileKeepsItsRights) {
+TEST_F(FileCommits, AReplacedFileHasTheRightsOfANewOneAndALinkIsReplacedItself) {
+  const mode_t mask = ::umask(027);
   put("A", "old");
-  const fs::perms mine = fs::perms::owner_read | fs::perms::owner_write;
-  fs::permissions(folder / "A", mine);
+  fs::permissions(folder / "A", fs::perms::all);
   replaceFile(folder / "A", "new");
-  EXPECT_EQ(fs::status(folder / "A").permissions(), mine);
+  EXPECT_EQ(fs::status(folder / "A").permissions(), fs::perms(0640));
+  scratch.write("target", "kept");
+  for (const char* link : {"B", "B.tw~"}) fs::create_symlink(scratch.root() / "target", folder / link);
+  replaceFile(folder / "B", "secret", os::Access::ownerOnly);
+  ::umask(mask);
+  EXPECT_EQ(fs::symlink_status(folder / "B"), fs::file_status(fs::file_type::regular, fs::perms(0600)));
+  EXPECT_EQ(scratch.read("target"), "kept");
+}
+
+TEST_F(FileCommits, AFullSizeLimitIsError61AndLeavesTheFile) {
+  put("A", "old");
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const struct rlimit limit = {4, 4};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    os::reportSizeLimit();
+    try {
+      replaceFile(folder / "A", "longer than that");
+    } catch (const RuntimeError& error) {
+      ::_exit(error.number());
+    }
+    ::_exit(0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 61) << status;
+  EXPECT_EQ(files(), "A=old ");
 }
 
 TEST_F(FileCommits, WhatIsNotCommittedLeavesNoTrace) {
@@ -74,17 +105,6 @@ TEST_F(FileCommits, WhatCannotBeReplacedStopsTheChangeBeforeItBegins) {
   EXPECT_EQ(files(), "A=old ");
 }
 
-TEST_F(FileCommits, AFailureAfterwardsIsFinishedByTheNextOneWhoLocksTheFolder) {
-  put("A.tw~", "new");
-  put("B.tw~", "new");
-  put(std::string(journalName), "tallywick-journal 1\nA\nB\n/\n");
-  fs::create_directories(folder / "B" / "in the way");
-  EXPECT_THROW(lockFolder(folder), RuntimeError) << "it cannot be finished yet";
-  fs::remove_all(folder / "B");
-  lockFolder(folder);
-  EXPECT_EQ(files(), "A=new B=new ");
-}
-
 TEST_F(FileCommits, AStagedFileThatIsGoneStopsTheChange) {
   put("A", "old");
   FileCommit change(folder);
@@ -95,23 +115,85 @@ TEST_F(FileCommits, AStagedFileThatIsGoneStopsTheChange) {
   EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/A"), "old");
 }
 
-TEST_F(FileCommits, RecoveryFollowsAWholeJournalAndDropsABrokenOne) {
+TEST_F(FileCommits, RecoveryFollowsAJournalOfPlainNamesAndSetsEveryOtherAside) {
+  const std::string isOld = "3 1a0fad1921d08076";
+  const std::string aside = "A=old A DATE=new B=old B DATE=new TALLYWICK not carried out DATE.JNL=";
   struct Row {
-    const char* journal;
-    const char* files;
+    const char* rule;
+    std::string journal;
+    std::string files;
   };
-  for (const Row& row :
-       {Row{"tallywick-journal 1\nA\nB\n/\n", "A=new B=new "},
-        Row{"tallywick-journal 1\nA\n", "A=old B=old "}, Row{"tallywick-journal 1\n", "A=old B=old "},
-        Row{"", "A=old B=old "}, Row{nullptr, "A=old B=old "}}) {
+  for (const Row& row : {
+           Row{"whole", join("tallywick-journal 2\n", isOld, " A\n", isOld, " B\n/\n"), "A=new B=new "},
+           Row{"the first release's", "tallywick-journal 1\nA\nB\n/\n", "A=new B=new "},
+           Row{"B changed since", join("tallywick-journal 2\n", isOld, " A\n3 1f B\n/\n"),
+               "A=new B=new B DATE=old "},
+           Row{"B made since", join("tallywick-journal 2\n", isOld, " A\n- - B\n/\n"),
+               "A=new B=new B DATE=old "},
+           Row{"torn", "tallywick-journal 1\nA\n", aside},
+           Row{"torn inside a line", "tallywick-journal 2\nA\n/\n", aside},
+           Row{"empty", "", aside},
+           Row{"not plain", "tallywick-journal 1\nA\n../B\n/\n", aside},
+           Row{"a name of its own", "tallywick-journal 2\n- - TALLYWICK.JNL\n/\n", aside},
+           Row{"doubled", "tallywick-journal 2\n- - A\n- - a\n/\n", aside},
+       }) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) fs::remove(entry);
     for (const char* name : {"A", "B"}) {
       put(name, "old");
       put(std::string(name) + ".tw~", "new");
     }
-    if (row.journal != nullptr) put(std::string(journalName), row.journal);
+    put(std::string(journalName), row.journal);
     recoverFolder(folder);
-    EXPECT_EQ(files(), row.files);
+    const bool isAside = row.files == aside;
+    EXPECT_EQ(files(), isAside ? join(aside, row.journal, " ") : row.files) << row.rule;
+    const bool isTold = row.files.find("DATE") != std::string::npos;
+    EXPECT_EQ(takeRecoveryNotices().size(), isTold ? 1U : 0U) << row.rule;
   }
+}
+
+TEST_F(FileCommits, AChangeThatCannotBeCarriedOutIsSetAsideAsAWhole) {
+  put("A", "old");
+  put("A.tw~", "new");
+  put("B.tw~", "new");
+  put(std::string(journalName), "tallywick-journal 1\nA\nB\n/\n");
+  fs::create_directories(folder / "B" / "in the way");
+  lockFolder(folder);
+  EXPECT_EQ(files(),
+            "A=old A DATE=new B DATE=new "
+            "TALLYWICK not carried out DATE.JNL=not carried out\ntallywick-journal 1\nA\nB\n/\n ");
+  const std::vector<std::string> notices = takeRecoveryNotices();
+  ASSERT_EQ(notices.size(), 1U);
+  EXPECT_NE(notices[0].find("\"B 2"), std::string::npos) << notices[0];
+  // Neither a folder nor a pipe of that name keeps anybody out.
+  fs::create_directory(folder / journalName);
+  lockFolder(folder);
+  ::mkfifo((folder / journalName).c_str(), 0666);
+  lockFolder(folder);
+  EXPECT_FALSE(fs::exists(fs::symlink_status(folder / journalName)));
+  EXPECT_EQ(takeRecoveryNotices().size(), 2U);
+}
+
+TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
+  const StandingClock clock("11-21-2026", "18:15:00");
+  put("qzr6pwr1.PLY", "mine");
+  for (const char* other : {"QZR6PWR1 2026-11-21.Ply", "QZR6PWR1 2026-11-21 181500 01.Ply",
+                            "QZR6PWR1 2026-11-21 181500.Sav", "QZR6PWR12 2026-11-21 181500.Ply"}) {
+    put(other, "no copy");
+  }
+  for (int i = 0; i < 22; ++i) {
+    FileCommit change(folder);
+    stageDatedCopy(change, "QZR6PWR1.Ply", clock);
+    change.commit();
+  }
+  put("QZR6PWR1 2025-01-31 235959.Ply", "oldest");
+  ASSERT_EQ(datedCopies(folder, "QZR6PWR1.Ply").size(), 23U);
+  pruneDatedCopies(folder, "QZR6PWR1.Ply", "QZR6PWR1 2025-01-31 235959.Ply");
+  const std::vector<DatedCopy> copies = datedCopies(folder, "QZR6PWR1.Ply");
+  ASSERT_EQ(copies.size(), 21U);
+  EXPECT_EQ(copies.front().name, "qzr6pwr1 2026-11-21 181500 22.PLY");
+  EXPECT_EQ(copies[19].number, 3U);
+  EXPECT_EQ(copies.back().name, "QZR6PWR1 2025-01-31 235959.Ply");
+  EXPECT_EQ(scratch.snapshot().size(), 26U);
 }
 
 TEST_F(FileCommits, OneAfterTheOtherHoldTheLockAndLeaveNoLockFile) {
