@@ -30,6 +30,7 @@ void Application::showMainWindow() {
   main_ = form.get();
   wireMainWindow();
   open(std::move(form));
+  showRecoveryNotices();
 }
 
 /// Where it cannot be finished now, the next action on the folder tries again and tells.
@@ -41,6 +42,22 @@ void Application::recover() const {
       continue;
     }
   }
+}
+
+void Application::showRecoveryNotices() const {
+  for (std::string& notice : takeRecoveryNotices()) {
+    surroundings_.platform.show(
+        {std::move(notice), std::string(programTitle), MessageBox::Icon::exclamation});
+  }
+}
+
+std::function<void()> Application::onFiles(std::function<void()> action) const {
+  return [this, action = std::move(action)] {
+    recover();
+    showRecoveryNotices();
+    action();
+    showRecoveryNotices();
+  };
 }
 
 std::vector<Form*> Application::windows() const {
@@ -77,6 +94,9 @@ void Application::openSelection(const GameInfo& game) {
   // While another program is at the play files, the open window keeps the plays selected in it.
   if (!window->load() && old != nullptr) return;
   if (old != nullptr) close(*old);
+  for (Button* action : {&window->Command59, &window->Command9, &window->Command5, &window->Command60}) {
+    action->onClick = onFiles(std::move(action->onClick));
+  }
   open(std::move(window));
 }
 

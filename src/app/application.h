@@ -13,6 +13,7 @@
 #include "update/update_procedure.h"
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -61,8 +62,11 @@ class Application {
   Window& open(std::unique_ptr<Window> window);
   /// Finishes what a crash, of this program or of another on the same folder, cut short.
   void recover() const;
+  /// Shows what the recoveries could not finish.
+  void showRecoveryNotices() const;
+  /// An action that reads or writes files of the games: recovery comes before it.
+  std::function<void()> onFiles(std::function<void()> action) const;
   void wireMainWindow();
-  void recoverBeforeEachAction();
   void wireMenus();
   void wireSearches();
   void wireDisplays();

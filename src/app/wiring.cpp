@@ -15,40 +15,25 @@ void Application::wireMainWindow() {
   Platform& platform = surroundings_.platform;
   const DataFolder& folder = surroundings_.folder;
 
-  form.bar.Command7.onClick = [&] { Command7_Click(form, folder, platform); };
-  form.bar.Command4.onClick = [&] { Command4_Click(form, folder); };
+  form.bar.Command7.onClick = onFiles([&] { Command7_Click(form, folder, platform); });
+  form.bar.Command4.onClick = onFiles([&] { Command4_Click(form, folder); });
   form.bar.Command8.onClick = [&] { Command8_Click(form.bar); };
-  form.bar.Command48.onClick = [&] {
+  form.bar.Command48.onClick = onFiles([&] {
     if (form.frames.Frame4.visible() || form.frames.Frame6.visible()) {
       openSelection(powerBall);
     } else if (form.frames.Frame11.visible()) {
       openSelection(megaMillions);
     }
-  };
-  form.update.Command2.onClick = [&] {
+  });
+  form.update.Command2.onClick = onFiles([&] {
     UpdateSurroundings update = updateSurroundings();
     Command2_Click(update);
-  };
-  form.update.Command1.onClick = [&] { Command1_Click(folder, platform); };
-  form.update.Command51.onClick = [&] { Command51_Click(folder, platform); };
+  });
+  form.update.Command1.onClick = onFiles([&] { Command1_Click(folder, platform); });
+  form.update.Command51.onClick = onFiles([&] { Command51_Click(folder, platform); });
   wireMenus();
   wireSearches();
   wireDisplays();
-  recoverBeforeEachAction();
-}
-
-void Application::recoverBeforeEachAction() {
-  const auto guard = [this](std::function<void()>& onClick) {
-    if (!onClick) return;
-    onClick = [this, action = std::move(onClick)] {
-      recover();
-      action();
-    };
-  };
-  for (Control* control : main_->controls()) {
-    if (auto* button = dynamic_cast<Button*>(control)) guard(button->onClick);
-    if (auto* entry = dynamic_cast<MenuEntry*>(control)) guard(entry->onClick);
-  }
 }
 
 void Application::wireMenus() {
@@ -57,8 +42,8 @@ void Application::wireMenus() {
   Platform& platform = surroundings_.platform;
   const DataFolder& folder = surroundings_.folder;
 
-  menu.mnuPowerBall.onClick = [&] { mnuPowerBall_Click(form, folder, platform); };
-  menu.mnuMegaMillions.onClick = [&] { mnuMegaMillions_Click(form, folder); };
+  menu.mnuPowerBall.onClick = onFiles([&] { mnuPowerBall_Click(form, folder, platform); });
+  menu.mnuMegaMillions.onClick = onFiles([&] { mnuMegaMillions_Click(form, folder); });
   menu.munSearches.onClick = [&] {
     form.bar.SSTab1.setTab(1);
     form.bar.SSTab2.setTab(0);
@@ -68,16 +53,16 @@ void Application::wireMenus() {
     form.bar.SSTab3.setTab(1);
   };
   menu.mnuExit.onClick = [this] { exit(); };
-  menu.mnuPowerBall2.onClick = [this] {
+  menu.mnuPowerBall2.onClick = onFiles([this] {
     UpdateSurroundings update = updateSurroundings();
     mnuPowerBall2_Click(update);
-  };
-  menu.mnuMegaMillions2.onClick = [this] {
+  });
+  menu.mnuMegaMillions2.onClick = onFiles([this] {
     UpdateSurroundings update = updateSurroundings();
     mnuMegaMillions2_Click(update);
-  };
-  menu.mnuPowerBall3.onClick = [this] { openSelection(powerBall); };
-  menu.mnuMegaMillions3.onClick = [this] { openSelection(megaMillions); };
+  });
+  menu.mnuPowerBall3.onClick = onFiles([this] { openSelection(powerBall); });
+  menu.mnuMegaMillions3.onClick = onFiles([this] { openSelection(megaMillions); });
   menu.mnuHelp.onClick = [&] {
     platform.show(
         {" Please...,   Press  'F1'  for Help\r\n", " Tallywick Software  ", MessageBox::Icon::exclamation});
@@ -95,27 +80,28 @@ void Application::wireSearches() {
   TwoThreePage& twoThree = form.search.twoThree;
   for (Button& number : twoThree.numbers) number.onClick = [&number] { toggleMark(number); };
   twoThree.Command37.onClick = [&] { Command37_Click(twoThree); };
-  twoThree.Command38.onClick = [&] { Command38_Click(twoThree, folder, boxes); };
-  twoThree.Command25.onClick = [&] { Command25_Click(twoThree, folder, boxes); };
-  twoThree.Command26.onClick = [&] { Command26_Click(twoThree, folder, boxes); };
+  twoThree.Command38.onClick = onFiles([&] { Command38_Click(twoThree, folder, boxes); });
+  twoThree.Command25.onClick = onFiles([&] { Command25_Click(twoThree, folder, boxes); });
+  twoThree.Command26.onClick = onFiles([&] { Command26_Click(twoThree, folder, boxes); });
 
   HavePlayedPage& havePlayed = form.search.havePlayed;
   for (Button& number : havePlayed.numbers) {
     number.onClick = [&havePlayed, &number] { havePlayedNumber_Click(havePlayed, number); };
   }
   havePlayed.Command22.onClick = [&] { Command22_Click(havePlayed, form.frames); };
-  havePlayed.Command21.onClick = [&] { Command21_Click(havePlayed, form.frames, folder, boxes); };
+  havePlayed.Command21.onClick = onFiles([&] { Command21_Click(havePlayed, form.frames, folder, boxes); });
 
   PlayedPage& played = form.search.played;
   for (Button* display : {&played.Command24, &played.Command29}) {
     display->onClick = [&] { Command29_Click(played, form.frames); };
   }
-  played.Command30.onClick = [&] { Command30_Click(played, form.frames, folder, boxes); };
+  played.Command30.onClick = onFiles([&] { Command30_Click(played, form.frames, folder, boxes); });
 
   HavePlayedPlaysPage& plays = form.search.havePlayedPlays;
   for (Button& number : plays.numbers) number.onClick = [&number] { toggleMark(number); };
   plays.Command45.onClick = [&] { Command45_Click(plays, form.frames); };
-  plays.Command46.onClick = [&] { Command46_Click(plays, havePlayed.Combo5, form.frames, folder, boxes); };
+  plays.Command46.onClick =
+      onFiles([&] { Command46_Click(plays, havePlayed.Combo5, form.frames, folder, boxes); });
 }
 
 void Application::wireDisplays() {
@@ -131,11 +117,11 @@ void Application::wireDisplays() {
     winnings.Option2.setValue(true);
     winnings.Option1.setValue(false);
   };
-  winnings.Command47.onClick = [&] { Command47_Click(winnings, form.frames, folder); };
+  winnings.Command47.onClick = onFiles([&] { Command47_Click(winnings, form.frames, folder); });
 
-  form.draws.Command52.onClick = [&] { Command52_Click(form.draws, form.summary.frequent, folder); };
-  form.draws.Command27.onClick = [&] { Command27_Click(form.draws, form.summary.frequent, folder); };
-  form.draws.Command3.onClick = [&] { Command3_Click(form.draws, folder); };
+  form.draws.Command52.onClick = onFiles([&] { Command52_Click(form.draws, form.summary.frequent, folder); });
+  form.draws.Command27.onClick = onFiles([&] { Command27_Click(form.draws, form.summary.frequent, folder); });
+  form.draws.Command3.onClick = onFiles([&] { Command3_Click(form.draws, folder); });
 }
 
 TransferFactory Application::transferFactory() const {

@@ -98,18 +98,28 @@ TEST(SystemInformation, IsFoundByTwoKeysOrReportedAsMissing) {
   EXPECT_EQ(pressed(), R"(C:\Info\msinfo32.exe)");
 }
 
-TEST(Recovery, RunsBeforeAnythingIsRead) {
+TEST(Recovery, RunsBeforeAnyFileIsReadAndNamesWhatItCouldNotFinish) {
   ApplicationTest test;
   const std::string folder = "QzrNumbers/QZR6PWR/";
-  test.scratch.write(folder + "QZRNUM6.Dat.tw~", test::dailyDraws(120, "\"2\"", 2030));
-  test.scratch.write(folder + "TALLYWICK.JNL", "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
-  const MainForm& form = test.start();
+  const auto leaveHalfMade = [&](int year, std::string_view journal) {
+    test.scratch.write(folder + "QZRNUM6.Dat.tw~", test::dailyDraws(120, "\"2\"", year));
+    test.scratch.write(folder + "TALLYWICK.JNL", journal);
+  };
+  leaveHalfMade(2030, "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
+  MainForm& form = test.start();
   EXPECT_EQ(form.summary.List1.items()[0].substr(0, 11), " 12-28-2030");
 
-  test.scratch.write(folder + "QZRNUM6.Dat.tw~", test::dailyDraws(120, "\"2\"", 2040));
-  test.scratch.write(folder + "TALLYWICK.JNL", "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
+  leaveHalfMade(2040, "tallywick-journal 1\nQZRNUM6.Dat\n/\n");
+  click(form.search.twoThree.numbers[0]);
+  EXPECT_TRUE(test.scratch.exists(folder + "TALLYWICK.JNL")) << "a mark has nothing to do with files";
   test.press("Command7");
   EXPECT_EQ(form.summary.List1.items()[0].substr(0, 11), " 12-28-2040") << "left by another program since";
+  test.platform.boxes.shown.clear();
+
+  leaveHalfMade(2050, "tallywick-journal 1\n../../QZRNUM22.DTE\n/\n");
+  test.press("Command4");
+  EXPECT_THAT(test.platform.boxes.only(), testing::StartsWith("Tallywick Software|A change of the files in"));
+  EXPECT_THAT(test.platform.boxes.only(), testing::HasSubstr("TALLYWICK not carried out 2"));
 }
 
 }  // namespace
