@@ -43,11 +43,20 @@ TEST(Settings, AMisspeltOneIsNamedRatherThanIgnored) {
   EXPECT_THROW(writeSettings(scratch.folder(), {"a\"b", Settings::Tls::off, "", ""}), std::invalid_argument);
 }
 
-TEST(DataFolderChoice, TheCommandLineGoesBeforeTheEnvironment) {
-  ::setenv("TALLYWICK_FOLDER", "/from/environment", 1);
-  EXPECT_EQ(chooseDataFolder("/named"), "/named");
-  EXPECT_EQ(chooseDataFolder(""), "/from/environment");
+TEST(DataFolderChoice, GoesFromTheCommandLineDownToTheUsersFolder) {
+  const ScratchFolder scratch;
+  const std::filesystem::path before = std::filesystem::current_path();
+  ::setenv("XDG_DATA_HOME", "/users/data", 1);
   ::unsetenv("TALLYWICK_FOLDER");
+  std::filesystem::current_path(scratch.root() / "QzrNumbers");
+  EXPECT_EQ(chooseDataFolder(""), "/users/data/tallywick");
+  std::filesystem::current_path(scratch.root());
+  EXPECT_EQ(chooseDataFolder(""), scratch.root());
+  ::setenv("TALLYWICK_FOLDER", "/from/environment", 1);
+  EXPECT_EQ(chooseDataFolder(""), "/from/environment");
+  EXPECT_EQ(chooseDataFolder("/named"), "/named");
+  for (const char* name : {"TALLYWICK_FOLDER", "XDG_DATA_HOME"}) ::unsetenv(name);
+  std::filesystem::current_path(before);
 }
 
 TEST(ProgramStart, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
