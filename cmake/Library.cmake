@@ -7,12 +7,26 @@ function(tallywick_library name)
   target_link_libraries(tallywick_${name} PUBLIC ${arg_LIBRARIES} PRIVATE tallywick_warnings ${arg_PRIVATE_LIBRARIES})
 endfunction()
 
-# tallywick_test(NAME SOURCES… LIBRARIES…): a test program NAME_test, each of its cases a test of ctest.
+# tallywick_test(NAME SOURCES… LIBRARIES… [FAULTS KIND FILTER…]): a test program NAME_test, each of its cases a test of
+# ctest. Those that match a kind's filter get the label faults-KIND; scripts/faults runs them.
 function(tallywick_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;FAULTS")
   add_executable(${name}_test ${arg_SOURCES})
   target_include_directories(${name}_test PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES} tallywick_warnings GTest::gtest GTest::gmock
                                              GTest::gtest_main)
-  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES PROPERTIES TIMEOUT 120)
+  set(others "")
+  while(arg_FAULTS)
+    list(POP_FRONT arg_FAULTS kind filter)
+    string(APPEND others ":${filter}")
+    gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_FILTER "${filter}"
+                         PROPERTIES TIMEOUT 120 LABELS "faults-${kind}")
+  endwhile()
+  if(others)
+    string(REGEX REPLACE "^:" "-" others "${others}")
+  else()
+    set(others "*")
+  endif()
+  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_FILTER "${others}"
+                       PROPERTIES TIMEOUT 120)
 endfunction()
