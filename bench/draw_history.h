@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draw histories of any length for the benchmarks, in the shapes in which files come; the same ones every
 // time.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The searches over histories of a usual and of a very large size.
 #include "draw_history.h"
 #include "search/marks.h"

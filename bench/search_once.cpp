@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One search over a data folder, as a program of its own whose time can be taken from outside; and the
 // folder.
 #include "core/data_folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a fuzz target without a fuzzer: over every file of the corpus folders that are named, over each of
 // them cut short at every length, and with each byte replaced by those that the formats give a meaning.
 #include "fuzz/property.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The folder listing that a server sends, in both forms.
 #include "core/file_names.h"
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sequential reader over a file that it reads in pieces. The first byte chooses the number of fields; the
 // rest, written again and again, fills more than one piece.
 #include "core/draws.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the fuzz targets share: each of them takes any bytes and checks what must be true of the answer.
 #pragma once
 

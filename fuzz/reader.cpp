@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sequential reader with every number of fields that the files' records have. The first byte chooses the
 // number of fields, the rest is the file.
 #include "core/calendar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program: its windows, and what their controls lead to.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program asks of the desktop it runs on. A binding stands behind it: real windows, or the text
 // protocol.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starting the programs that the record book asks for by their install path.
 #pragma once
 

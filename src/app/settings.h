@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings in "tallywick.ini" of the data folder.
 #pragma once
 

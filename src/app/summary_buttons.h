@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The summary buttons and the game switch: they lay out the main window for a game and fill its pages.
 #pragma once
 

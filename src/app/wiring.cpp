@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What each control of the main window leads to.
 #include "app/application.h"
 #include "app/summary_buttons.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of number buttons, made from a table of names.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colours of buttons and bars: red, green and blue, or a colour of the system.
 #pragma once
 

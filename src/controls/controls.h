@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls, without any toolkit: the properties that the handlers use, and nothing else. A control
 // registers with its form when it is constructed and tells it of every change; a binding shows the changes.
 #pragma once

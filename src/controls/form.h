@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window's model: it owns nothing but the knowledge of its controls, which register under their designer
 // names.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The frames of the main window. The visible game frame tells the handlers which game is meant.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What handlers ask of their surroundings: message boxes, a fresh screen, the start of another program. A
 // binding, a script or a test stands behind them.
 #pragma once

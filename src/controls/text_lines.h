@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of text, one after the other in one buffer: a list of a million items is two allocations.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draw-day calendar "QZRNUM22.DTE": one record a day in date order.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The clock and the date, as the texts that the files and the rules use.
 #pragma once
 

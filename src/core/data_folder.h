@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data folder: where every path that a handler writes becomes a real file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copies that keep what a file contained before a change: "QZR6PWR1 2026-11-21 181500.Ply" beside
 // "QZR6PWR1.Ply".
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Calendar days: the one place for date arithmetic, and the forms in which files and exports write a date.
 #pragma once
 

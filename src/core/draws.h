@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draw records and the texts that are built from them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The games over the years: when they are drawn, from which numbers, and what a match pays.
 #pragma once
 

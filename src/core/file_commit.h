@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replacing files so that no kill, cut or full disk loses what was there before.
 #pragma once
 

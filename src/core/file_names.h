@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Names of files: as text, which are plain, and which of them are meant.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The games, their folders and every file name. Paths are written as the handlers write them; DataFolder
 // turns them into real files.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the operating system is asked for. One implementation file a platform; nothing else in the program
 // knows which platform it runs on.
 #pragma once

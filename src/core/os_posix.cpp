@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform file of Linux and other POSIX systems.
 #include "core/file_names.h"
 #include "core/os.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform file of Windows.
 #include "core/file_names.h"
 #include "core/os.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Guesses where the fields of a record stand from the records before it: nearly all records of a file look
 // alike but for their digits, and then nobody need look at every character.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/runtime_error.h"
 
 #include "core/file_names.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbered errors of the record book's runtime: what a handler raises and a binding shows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads the comma-separated text files of the record book, field by field, with the runtime's rules for
 // fields and for the end of a file.
 #pragma once

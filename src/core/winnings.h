@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The winnings files: the prize amount announced for each draw.
 #pragma once
 

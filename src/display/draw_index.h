@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finds the draw of a date in a draw history.
 #pragma once
 

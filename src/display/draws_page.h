@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The newest draws at a glance: the chart of the last hundred draws and the pictures of the played numbers.
 #pragma once
 

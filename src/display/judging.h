@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Judges plays truly: what each one matched in the draw of its own date, and what that pays. The
 // winning-ticket check keeps its own rules beside this; whatever else says that a play won comes from here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the newest draw that the five draws before it held already: colours on the number buttons
 // and lines in a list.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The summary of a game: its last fifteen draws and their amounts, the player's winning plays, the earlier
 // draws, and the numbers that recur.
 #pragma once

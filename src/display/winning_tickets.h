@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The winning-ticket check: which of the played plays won.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A comma-separated export with a line of column names.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draws and amounts as numbers, between an export's rows and a game folder's records.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Real draws and amounts from public exports.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading export files, and what the user is told about them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One record of the record book's files: every field in double quotes, CR LF at the end.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "exports/record_texts.h"
 
 #include "exports/quoted_record.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The combinations of number buttons that the two/three-number search knows, in the order in which they are
 // tried.
 #pragma once

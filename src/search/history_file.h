@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draw history as searches and counts read it: one pass, and a file that cannot be read is told to the
 // player.
 #pragma once

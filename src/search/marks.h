@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The number buttons of the search pages: their marks (cyan is marked, button face is not) and the numbers
 // that a draw line puts on them.
 #pragma once

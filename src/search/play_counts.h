@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The single-number counts: in which draws did one number come up, and how often.
 #pragma once
 

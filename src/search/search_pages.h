@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search tabs, panel by panel, and how their pickers are filled.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/two_three_search.h"
 
 #include "core/draws.h"

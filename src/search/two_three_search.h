@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two/three-number search: which draws held these two or three numbers together.
 #pragma once
 

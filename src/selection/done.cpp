@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Done: the current plays become the committed ones.
 #include "core/eras.h"
 #include "core/file_commit.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draw count: for how many draws the current plays are entered.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/draw_dates.h"
 
 #include "core/calendar.h"

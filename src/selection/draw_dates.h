@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draw dates of plays, looked up in the draw-day calendar.
 #pragma once
 

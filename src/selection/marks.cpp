@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/marks.h"
 
 #include "selection/selection_form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The marks of the number grid: a number's mark is its button's back colour.
 #pragma once
 

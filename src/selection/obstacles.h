@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands in the way of plays for now, told to the player while everything stays as it is.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/play_lists.h"
 
 #include "core/file_commit.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lists of a selection window and the play files behind them.
 #pragma once
 

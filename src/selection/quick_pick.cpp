@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Quick Pick: marks six random picks, seeded from the newest draw.
 #include "core/draws.h"
 #include "core/sequential_reader.h"

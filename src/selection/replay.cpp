@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replay: marks a play of the history again.
 #include "core/text.h"
 #include "selection/marks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Select: forms the play from the marks, checks it, dates it and adds it to the current plays.
 #include "core/eras.h"
 #include "core/file_commit.h"

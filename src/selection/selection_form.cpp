@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/selection_form.h"
 
 #include "core/file_commit.h"

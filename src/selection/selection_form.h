@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The selection window of a game: a grid of numbers on which a player builds plays.
 #pragma once
 

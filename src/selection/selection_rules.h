@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What differs between the two games' selection windows, as one table.
 #pragma once
 

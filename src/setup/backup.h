@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole record book as one zip file, and back.
 #pragma once
 

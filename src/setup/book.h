@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What goes into a game folder, before it is written as records.
 #pragma once
 

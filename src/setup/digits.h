@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The digits on the balls, drawn as strokes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The README of a data folder: what is in it and what of it is made up.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes a data folder: draws, amounts, plays, calendar, pictures, settings.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The update server's folder tree: what any FTP server needs to serve draws and amounts to the program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The texts of the plays' files and of the calendar: every field in double quotes, CR LF at the end of a
 // record.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sample draws, amounts and plays: made up, but by each game's rules and on its draw days.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tallywick-setup: makes a data folder or an update server's tree.
 #include "core/os.h"
 #include "setup/setup_program.h"

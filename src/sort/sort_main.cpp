@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // qzrsrt3: the sort tool that runs after play-file maintenance.
 #include "core/os.h"
 #include "sort/sort_plays.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Puts the committed plays of a game folder in the order of their draws: the work of the sort tool.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the transfer library's results mean in the program's own words.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One operation of the transfer library on a fresh handle. Known to the transfer component alone.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "update/curl_runner.h"
 
 #include "update/transfer_errors.h"

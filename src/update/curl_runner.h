@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The loop that carries an operation of the transfer library out while the window stays painted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The FTP client: passive and active mode, TLS where it is required, folder listings of its own making.
 #pragma once
 

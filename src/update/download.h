@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copies every file of a server folder into a local folder.
 #pragma once
 

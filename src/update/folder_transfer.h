@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What Download and Upload have in common: the properties, their check, and a transfer component of their
 // own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files that come from a server, and the one change that they make to a local folder.
 #pragma once
 

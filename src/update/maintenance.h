@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Play-file maintenance: plays whose draw has taken place move from the committed plays to the front of the
 // history.
 #pragma once

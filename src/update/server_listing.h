@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads what an FTP server answers when asked for the files of a folder.
 #pragma once
 

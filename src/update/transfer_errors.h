@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The errors of a transfer: each tells what happened, and none holds a login, a password or a server's own
 // words, which may repeat them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The update procedure: both games, or one, from the update server.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copies every file of a local folder into a server folder, and tests for and creates server folders.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the program: the splash, the registry, what closes with what, recovery.
 #include "app/start_up.h"
 #include "support/fake_platform.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file: what is written is read again, and what cannot be understood is named.
 #include "app/settings.h"
 

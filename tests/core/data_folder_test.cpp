@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every way of writing a path leads to one real file, and errors carry the runtime's numbers.
 #include "core/data_folder.h"
 

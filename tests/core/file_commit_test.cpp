@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A change of several files is made as a whole or not at all, and a broken one is finished or dropped.
 #include "core/file_commit.h"
 

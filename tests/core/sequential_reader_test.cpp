@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules by which fields are cut out of a file, and what happens at its end.
 #include "core/sequential_reader.h"
 

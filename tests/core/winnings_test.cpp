@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The amounts of the draws where their file is not as it should be.
 #include "core/winnings.h"
 

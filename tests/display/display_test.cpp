@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the displays: the score by itself, a chart of exactly a hundred draws, the
 // leftover state game, dates that come up twice, and the plays that a window emphasises.
 #include "core/runtime_error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The judging of plays: states by true dates, matches, prizes by era, Double Play and damaged files.
 #include "display/judging.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of public exports: what their quirks become and what is refused.
 #include "exports/export_rows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every control has its widget and every named widget its control; what changes on either side shows on the
 // other.
 #include "app/main_form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's windows over a scratch data folder, without a display.
 #pragma once
 

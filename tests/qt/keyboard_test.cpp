@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows by keyboard alone.
 #include "app/main_form.h"
 #include "core/plays.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Balls that everybody can read, and lists that find, emphasise and hold many lines.
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/line_list.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pieces that the windows are made of, each by itself.
 #include "app/main_form.h"
 #include "ui/qt/ball_picture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program as it is started.
 #include "support/scratch_folder.h"
 

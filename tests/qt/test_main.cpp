@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the window tests without a display and without the user's own settings.
 #include <QApplication>
 #include <QSettings>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows, message boxes and errors: what the program does on the desktop.
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"

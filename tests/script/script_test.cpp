@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines that a script may not have.
 #include "support/record_book.h"
 #include "ui/script/script_run.h"

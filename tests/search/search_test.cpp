@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the searches and counts: every set of marks in every member of the family, the
 // leftover state game, files that end inside a record, and what a window emphasises.
 #include "core/runtime_error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Select and Done on files that others have changed, and marks that no press makes.
 #include "core/file_commit.h"
 #include "core/plays.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Quick Pick from chosen random values.
 #include "selection/selection_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An open selection window with a calendar, a clock and random values of the test's choice.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Backups: what they contain, what a restore brings back, and what is refused.
 #include "setup/backup.h"
 

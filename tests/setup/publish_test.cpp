@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The update server's tree: which files go where, and what publishing again does.
 #include "setup/publish.h"
 

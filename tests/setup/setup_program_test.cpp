@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tallywick-setup: what a new folder holds and what an existing one keeps.
 #include "setup/setup_program.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sort tool: the order it makes, and when it leaves a file as it is.
 #include "sort/sort_plays.h"
 

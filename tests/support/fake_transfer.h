@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A transfer component that keeps what it is asked for and copies nothing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs an action in a process of its own that is killed at a system call of the test's choice: what a power
 // cut or a kill leaves behind. Linux only.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A small but complete record book for tests that need every file.
 #pragma once
 

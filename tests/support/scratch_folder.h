@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A data folder of a test's own, and the texts that go into its files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The FTP client against a real server: both modes, both listings, both directions.
 #include "transfer_test.h"
 

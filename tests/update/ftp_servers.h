@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FTP servers of the tests' own, each a process on a free port of the loopback that ends with its object.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which files a server may send, and how they enter a folder.
 #include "update/incoming_files.h"
 

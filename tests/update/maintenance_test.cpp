@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Play-file maintenance on broken files, and that no kill spoils the plays.
 #include "update/maintenance.h"
 

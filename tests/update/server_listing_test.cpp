@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What servers of several makes answer when asked for the files of a folder.
 #include "update/server_listing.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A component of the real kind on a data folder of the test's own.
 #pragma once
 

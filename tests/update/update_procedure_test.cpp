@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The update of both games and of one: what it shows, in which order it works, and that it ends where it
 // fails.
 #include "update/update_procedure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The whole way: a published tree, a real server, the real program and the sort tool that it starts.
 #include "ftp_servers.h"
 #include "setup/new_folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/about_window.h"
 
 #include "app/small_windows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One number of a draw as a picture: the record book's own where it has one, else the ball drawn.
 #pragma once
 

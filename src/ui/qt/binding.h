@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one place where the controls of a window's model meet their widgets: it names the widget, shows the
 // control's properties on it, and leads the widget's actions to the handlers.
 #pragma once

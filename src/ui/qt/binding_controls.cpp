@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How each type of control is shown by its widget, and what the widget's actions lead to.
 #include "core/data_folder.h"
 #include "core/runtime_error.h"

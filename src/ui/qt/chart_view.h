@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bar chart of the last hundred draws. Each bar bears its count and its number; the whole can be read as
 // text, saved as a picture and printed.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A drop-down that stands open: its text above its items, for windows with room for all of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The draws page: the chart of the last hundred draws, and the newest draws as pictures.
 #pragma once
 

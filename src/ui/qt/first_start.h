@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding the data folder at the start, and making one where there is none yet.
 #pragma once
 

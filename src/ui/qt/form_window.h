@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window on the screen: a model's form, its widgets and the binding between them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a widget's action reaches a handler of the model.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What F1 and the settings button open.
 #pragma once
 

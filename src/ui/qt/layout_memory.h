@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sizes of windows and splitters from one run to the next.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes that the pages are laid out in, all in one rhythm.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What every list can do with its lines: copy, save and print them, from its context menu and by keyboard.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/os.h"
 #include "ui/qt/program.h"
 

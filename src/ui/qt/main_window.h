@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window: the bar, the four pages, the menus and the status bar.
 #pragma once
 

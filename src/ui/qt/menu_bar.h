@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menu bar, made from the model's menu entries in their order.
 #pragma once
 

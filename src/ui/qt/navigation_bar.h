@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bar over the pages: the two games as a switch, the play selection, the update and the step to the next
 // page.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A drop-down of draw or play lines: thousands of them open without delay, and typing finds a date.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop that the program runs on: its windows, message boxes, pages and programs.
 #pragma once
 

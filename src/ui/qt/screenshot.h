@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of the windows, for the documentation and for a look without a display.
 #pragma once
 

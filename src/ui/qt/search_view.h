@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search pages: four panels of one shape on a tab strip of their own.
 #pragma once
 

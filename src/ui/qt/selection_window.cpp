@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/selection_window.h"
 
 #include "selection/selection_form.h"

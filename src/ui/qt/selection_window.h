@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The selection window of a game: the slip with its actions on the left, the lists of plays on the right.
 #pragma once
 

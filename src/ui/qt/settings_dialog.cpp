@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/settings_dialog.h"
 
 #include "ui/qt/layouts.h"

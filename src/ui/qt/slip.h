@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The play slip: the numbers of a selection window in rows, 01 to 09 first, then ten to a row.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The splash: the program's name and version, on the screen until its timer fires.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/summary_view.h"
 
 #include "app/main_form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The summary page: the last fifteen draws and the numbers that recur on the left, the player's winning
 // plays, the amounts and the earlier draws on the right.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/transfer_window.h"
 
 #include "controls/surroundings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The progress window that a transfer can be asked to show.
 #pragma once
 

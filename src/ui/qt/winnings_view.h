@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The winnings pages: the player's plays, and the check for winning tickets.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The model's texts as a widget shows them: ampersands, mnemonics, headings over columns.
 #pragma once
 

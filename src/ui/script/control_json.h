@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What `show` and `print` tell of a control, and `plays` of a play.
 #pragma once
 

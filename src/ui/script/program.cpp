@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/script/program.h"
 
 #include "app/data_folder_choice.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program tallywick-script: its command line, start-up and exit codes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The surroundings of a scripted run: boxes are printed and answered from a queue, pages and programs are
 // told.
 #pragma once

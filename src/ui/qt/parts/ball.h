@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers drawn as balls. A mark is the ball's colour and a second sign, so that nobody needs to tell the
 // colours apart: a ring for a main number, a filled band for the extra ball. The frequent numbers' colours
 // come with dots.

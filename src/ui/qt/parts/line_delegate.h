@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Paints a line of a LineList: emphasised fields in bold, lines that stand out on a tinted ground with a bar.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/line_list.h"
 
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lists of text lines that stay quick with a million lines.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What lists do with lines of text, without any window: fields, comma-separated form, emphasis, search.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What all windows share in looks: the rhythm of their spacing, their faces, and colours that stay readable
 // on light and dark desktops.
 #pragma once
