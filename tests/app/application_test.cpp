@@ -31,22 +31,6 @@ TEST(GameSwitch, UpdateComesBackWhereTheSwitchHidItButNotWhereAnUpdateDid) {
   EXPECT_FALSE(form.update.Command2.visible());
 }
 
-TEST(DoublePlay, FillsOnlyWhatItNames) {
-  ApplicationTest test;
-  const MainForm& form = test.start();
-  test.press("mnuMegaMillions");
-  for (const char* file : {"QZRNUM6.Dat", "QZRNUM62.Dat", "QzrPwr.Win"}) {
-    std::filesystem::remove(test.scratch.root() / "QzrNumbers" / "QZR6PWR" / file);
-  }
-  test.platform.boxes.answers = {MessageBox::Answer::yes};
-  test.press("mnuPowerBall");
-  EXPECT_EQ(form.summary.Label16.caption(), "PowerBall Double Play Display");
-  EXPECT_EQ(form.summary.Label19.caption(), "Previous Mega Millions Draw");
-  EXPECT_EQ(form.summary.List1.items()[1], " 12-27-2026    02 03 04 05 06   02     40")
-      << "another game's draws";
-  EXPECT_EQ(form.bar.Command48.caption(), "Mega Millions Play Selection");
-}
-
 TEST(Windows, OneSelectionWindowAGameAndTheMainWindowEndsEverything) {
   ApplicationTest test;
   const MainForm& form = test.start();
