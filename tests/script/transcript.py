@@ -9,7 +9,7 @@ one only its first and last items. --accept writes it anew: read every changed l
 Lines that begin with #! are for this driver: `write FILE` writes the records that follow (separated by ` | `), `remove FILE`
 removes a file, `cat FILE` prints it as it is now. Those before the script's first line run before the program starts. A FILE
 with a folder is below QzrNumbers."""
-import argparse, datetime, difflib, json, pathlib, subprocess, sys, tempfile
+import argparse, datetime, difflib, json, pathlib, re, subprocess, sys, tempfile
 
 NOW = '06-16-2026 12:00:00'  # a Tuesday
 
@@ -102,6 +102,7 @@ def rendered(line):
 class Run:
     def __init__(self, program, folder):
         self.program, self.folder, self.process, self.text = program, folder, None, []
+        self.sent = []  # the script's line of each line that the program got
         self.errors = open(folder / 'stderr', 'w+', encoding='utf-8')
 
     def path(self, name):
@@ -120,11 +121,12 @@ class Run:
         else:
             sys.exit('no such directive: ' + verb)
 
-    def command(self, line):
+    def command(self, number, line):
         if self.process is None:
             start = [self.program, '--folder', str(self.folder), '--now', NOW, '--seed', '1']
             self.process = subprocess.Popen(start, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.errors, encoding='utf-8')
         # What `windows` prints ends what the line prints.
+        self.sent += [number] if line == 'windows' else [number, number]
         try:
             self.process.stdin.write(line + '\n' + ('windows\n' if line != 'windows' else ''))
             self.process.stdin.flush()
@@ -140,7 +142,9 @@ class Run:
     def end(self):
         self.process.communicate()
         self.errors.seek(0)
-        self.text += ['stderr: ' + line.rstrip().replace(str(self.folder), 'BOOK') for line in self.errors]
+        for line in self.errors:
+            line = re.sub(r'(?<=: line )\d+', lambda found: str(self.sent[int(found[0]) - 1]), line.rstrip())
+            self.text.append('stderr: ' + line.replace(str(self.folder), 'BOOK'))
         self.text.append('exit code %d' % self.process.returncode)
         return '\n'.join(self.text) + '\n'
 
@@ -149,12 +153,12 @@ def transcript(program, script):
     with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as scratch:
         run = Run(program, pathlib.Path(scratch))
         mkbook(run.folder)
-        for line in script.read_text(encoding='utf-8').splitlines():
+        for number, line in enumerate(script.read_text(encoding='utf-8').splitlines(), 1):
             run.text.append('> ' + line if line and line[0] != '#' else line)
             if line.startswith('#!'):
                 run.direct(*line[2:].strip().split(' ', 1))
             elif line and line[0] != '#':
-                run.command(line)
+                run.command(number, line)
         return run.end()
 
 
