@@ -5,16 +5,21 @@ function(tallywick_library name)
   add_library(tallywick_${name} STATIC ${arg_SOURCES})
   target_include_directories(tallywick_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(tallywick_${name} PUBLIC ${arg_LIBRARIES} PRIVATE tallywick_warnings ${arg_PRIVATE_LIBRARIES})
+  tallywick_use_headers(tallywick_${name} std_headers)
 endfunction()
 
-# tallywick_test(NAME SOURCES… LIBRARIES… [FAULTS KIND FILTER…]): a test program NAME_test, each of its cases a test of
-# ctest. Those that match a kind's filter get the label faults-KIND; scripts/faults runs them.
+# tallywick_test(NAME SOURCES… LIBRARIES… [HEADERS precompiled] [FAULTS KIND FILTER…]): a test program NAME_test, each
+# of its cases a test of ctest. Those that match a kind's filter get the label faults-KIND; scripts/faults runs them.
 function(tallywick_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;FAULTS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LIBRARIES;FAULTS")
+  if(NOT arg_HEADERS)
+    set(arg_HEADERS test_headers)
+  endif()
   add_executable(${name}_test ${arg_SOURCES})
   target_include_directories(${name}_test PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES} tallywick_warnings GTest::gtest GTest::gmock
                                              GTest::gtest_main)
+  tallywick_use_headers(${name}_test ${arg_HEADERS})
   set(others "")
   while(arg_FAULTS)
     list(POP_FRONT arg_FAULTS kind filter)
