@@ -30,6 +30,8 @@ struct Surroundings {
   Platform& platform;
   /// Empty for the program's own FTP client.
   TransferFactory newTransfer;
+  /// The progress window that the FTP client can be asked for; null for none.
+  TransferWindow* transferWindow = nullptr;
 };
 
 class Application {

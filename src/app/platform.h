@@ -5,14 +5,19 @@
 
 #include "controls/form.h"
 #include "controls/surroundings.h"
+#include "update/transfer_component.h"
 
 #include <string>
 #include <string_view>
 
 namespace tallywick {
 
-class Platform : public MessageBoxes, public Screen, public ProgramStarter {
+class Platform : public MessageBoxes, public Screen, public ProgramStarter, public TransferWatch {
  public:
+  /// Where there is no window nobody looks on or cancels.
+  void progress(const TransferProgress&) override {}
+  bool cancelled() override { return false; }
+
   /// Shows a window of the model, which is to live until closeWindow(). The main window comes up centred.
   virtual void openWindow(Form& form) = 0;
   /// Takes a window off the screen; its model goes next.

@@ -130,7 +130,8 @@ TransferFactory Application::transferFactory() const {
   return [this] {
     CurlTransferSettings settings;
     settings.tlsRequired = surroundings_.settings.tls == Settings::Tls::required;
-    return newCurlTransfer(surroundings_.folder, surroundings_.clock, surroundings_.platform, settings);
+    return newCurlTransfer(surroundings_.folder, surroundings_.clock, settings, &surroundings_.platform,
+                           surroundings_.transferWindow);
   };
 }
 

@@ -39,6 +39,7 @@ constexpr std::array meanings = {
     Meaning{CURLE_QUOTE_ERROR, TransferFault::serverFolder, "the server refuses ", true},
     Meaning{CURLE_UPLOAD_FAILED, TransferFault::serverFile, "the server does not take ", true},
     Meaning{CURLE_PARTIAL_FILE, TransferFault::interrupted, "interrupted in the middle of ", true},
+    Meaning{CURLE_BAD_CONTENT_ENCODING, TransferFault::interrupted, "damaged on its way: ", true},
     Meaning{CURLE_RECV_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
     Meaning{CURLE_SEND_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
     Meaning{CURLE_GOT_NOTHING, TransferFault::interrupted, "connection lost, in hand was ", true},
@@ -47,6 +48,9 @@ constexpr std::array meanings = {
 constexpr long serviceClosing = 421;
 
 std::string_view timedOutAt(const CurlOperation& operation) {
+  if (operation.passedLimit() == PassedLimit::rate) return "timed out, too slow was ";
+  if (operation.passedLimit() == PassedLimit::folder)
+    return "timed out, the folder takes too long, in hand was ";
   if (!operation.isConnected()) return "timed out while connecting";
   return operation.bytesDone() == 0 ? "timed out while waiting for an answer, in hand was "
                                     : "timed out, the transfer stalled in the middle of ";
@@ -59,7 +63,8 @@ bool wasRefused(const CurlOperation& operation) {
 }
 
 Meaning meaningOf(CURLcode result, const CurlOperation& operation) {
-  if (operation.isTooLong()) return {result, TransferFault::limit, "too large: ", true};
+  if (operation.passedLimit() == PassedLimit::size)
+    return {result, TransferFault::limit, "too large: ", true};
   // The library counts a server that closes down among the time-outs.
   if (operation.responseCode() == serviceClosing) {
     return {result, TransferFault::connection, "the server is busy or closing down"};

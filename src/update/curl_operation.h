@@ -1,84 +1,90 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// One operation of the transfer library on a fresh handle. Known to the transfer component alone.
+// One operation of the transfer library on a fresh handle, for every protocol. Known to this folder alone.
 #pragma once
 
-#include "update/curl_transfer.h"
+#include "update/transfer_limits.h"
 
 #include <cstdint>
 #include <curl/curl.h>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace tallywick {
 
-/// What every operation of a session is told.
-struct CurlSession {
-  std::string host;
-  std::string userName;
-  std::string password;
-  bool passive = true;
-  bool tlsRequired = false;
-  std::string certificates;
-  TransferTimes times;
-};
+/// Which of the limits that the library does not watch an operation has passed.
+enum class PassedLimit : std::uint8_t { none, silence, rate, folder, size };
 
-/// `path` as it goes into an address: a server that takes it apart gets exactly these bytes back.
-std::string addressPath(std::string_view path);
+/// Raises an error where the library does not take an option: nothing is sent without it.
+void checkOption(CURLoption option, CURLcode result);
 
-/// One fresh handle, set up for the session and the server path; what comes down is kept in memory.
+/// `file`, or where that is empty the file that the environment's SSL_CERT_FILE names; empty for the system's
+/// own.
+std::string trustedCertificates(const std::string& file);
+
+/// What comes down is kept in memory.
 class CurlOperation {
  public:
-  /// `path` is a file, or a folder where it ends with "/"; an empty one is the folder in which a session
-  /// begins. Error: the host is no server's address.
-  CurlOperation(const CurlSession& session, std::string_view path);
+  /// `address` is a URL of any kind, which goes out as it is written.
+  CurlOperation(const std::string& address, const TransferTimes& times);
   CurlOperation(const CurlOperation&) = delete;
   CurlOperation& operator=(const CurlOperation&) = delete;
 
+  /// Sets an option of the library, or raises an error.
   template <typename Value>
   void set(CURLoption option, Value value) {
-    curl_easy_setopt(handle_.get(), option, value);
+    checkOption(option, curl_easy_setopt(handle_.get(), option, value));
   }
-  /// Without a transfer: only goes to the folder, or asks for the file's length.
-  void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
-  /// Takes what comes until the server ends it, not only as many bytes as the server told.
-  void takeAllBytes() { set(CURLOPT_IGNORE_CONTENT_LENGTH, 1L); }
+  /// Puts a line behind those that an option with a list already has.
+  void append(CURLoption option, const std::string& line);
   void setLimit(std::uint64_t bytes) { limit_ = bytes; }
-  /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" stands
-  /// before the command.
-  void giveCommand(const std::string& command);
-  /// Sends `bytes`, which outlive the operation.
-  void send(std::string_view bytes);
+  /// From now on the limit for connecting covers the login, too, which belongs to it in the library's eyes.
+  void allowLogin();
 
   CURL* handle() const { return handle_.get(); }
+  const TransferTimes& times() const { return times_; }
   const std::string& received() const { return received_; }
   std::uint64_t bytesDone() const { return received_.size() + sent_; }
-  /// The server's three digits to the last command.
+  /// The number of the server's last answer.
   long responseCode() const;
   /// The length that the server told; negative where it told none.
   std::int64_t toldLength() const;
-  bool isTooLong() const { return tooLong_; }
-  /// Changes whenever the server shows that it is there.
-  std::uint64_t signsOfLife() const { return bytesDone() + lines_; }
+  PassedLimit passedLimit() const { return passedLimit_; }
+  void setPassedLimit(PassedLimit limit) { passedLimit_ = limit; }
   bool isConnected() const;
+  /// Whether the server has said anything.
+  bool hasAnswer() const { return bytesDone() + lines_ != 0; }
+  /// Changes whenever the server shows that it is there.
+  std::uint64_t signsOfLife() const { return bytesDone() + lines_ + (isConnected() ? 1 : 0); }
+
+ protected:
+  ~CurlOperation() = default;
+  /// Gets each line of the server's answers as it comes, with its end.
+  std::function<void(std::string_view line)> onLine;
+  /// Sends `bytes`, which outlive the operation.
+  void setUpload(std::string_view bytes);
 
  private:
   static std::size_t takeBytes(char* bytes, std::size_t one, std::size_t count, void* self);
   static std::size_t giveBytes(char* bytes, std::size_t one, std::size_t count, void* self);
   static std::size_t takeLine(char* bytes, std::size_t one, std::size_t count, void* self);
-  void setAddress(const CurlSession& session, std::string_view path);
-  void setManners(const CurlSession& session);
 
   struct Close {
     void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
   };
+  struct CloseList {
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+  };
+  TransferTimes times_;
   std::string received_;
   std::string_view unsent_;
   std::uint64_t sent_ = 0;
   std::uint64_t lines_ = 0;
   std::uint64_t limit_;
-  bool tooLong_ = false;
-  std::unique_ptr<curl_slist, void (*)(curl_slist*)> commands_{nullptr, curl_slist_free_all};
+  PassedLimit passedLimit_ = PassedLimit::none;
+  std::map<CURLoption, std::unique_ptr<curl_slist, CloseList>> lists_;
   /// The last member: the library may still call back while it closes.
   std::unique_ptr<CURL, Close> handle_;
 };

@@ -3,16 +3,17 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/text.h"
 #include "update/curl_errors.h"
-#include "update/curl_operation.h"
 #include "update/curl_runner.h"
 #include "update/folder_transfer.h"
+#include "update/ftp_operation.h"
+#include "update/incoming_files.h"
 #include "update/transfer_errors.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace tallywick {
@@ -23,9 +24,9 @@ namespace {
 
 class CurlTransfer : public TransferComponent {
  public:
-  CurlTransfer(const DataFolder& folder, const Clock& clock, Screen& screen, CurlTransferSettings settings,
-               TransferWindow* window)
-      : folder_(folder), clock_(clock), settings_(std::move(settings)), window_(window), runner_(screen) {
+  CurlTransfer(const DataFolder& folder, const Clock& clock, CurlTransferSettings settings,
+               TransferWatch* watch, TransferWindow* window)
+      : folder_(folder), clock_(clock), settings_(std::move(settings)), window_(window), runner_(watch) {
     prepare();
   }
   ~CurlTransfer() override { leave(); }
@@ -59,7 +60,8 @@ class CurlTransfer : public TransferComponent {
   Listing peopleListing(std::string_view serverFolder);
   std::vector<ListedFile> filesOf(std::string_view serverFolder, std::string_view wildcard);
   std::optional<std::uint64_t> lengthOf(std::string_view path, const ListedFile& file);
-  std::string fetch(std::string_view serverFolder, const ListedFile& file);
+  /// No longer than `most` bytes.
+  std::string fetch(std::string_view serverFolder, const ListedFile& file, std::uint64_t most);
   fs::path localFolderOf(std::string_view written) const;
   void tell(std::string_view status) const;
   void tell(const TransferInfo& info) const;
@@ -72,11 +74,13 @@ class CurlTransfer : public TransferComponent {
   CurlTransferSettings settings_;
   TransferWindow* window_;
   CurlRunner runner_;
-  CurlSession session_;
+  FtpSession session_;
   bool windowWanted_ = false;
   int inactivityLifetime_ = 0;
   TransferListener* listener_ = nullptr;
 };
+
+constexpr std::chrono::milliseconds farewellTime(1'000);
 
 /// Closes the progress window on every way out.
 struct WindowCloser {
@@ -108,17 +112,12 @@ std::vector<fs::path> filesToSend(const fs::path& folder, std::string_view wildc
   return files;
 }
 
-/// A file of certificates that the user names to every program that speaks TLS.
-std::string certificatesOfUser() {
-  const char* file = std::getenv("SSL_CERT_FILE");
-  return file != nullptr ? file : "";
-}
-
 void CurlTransfer::prepare() {
   leave();
   session_ = {};
   session_.tlsRequired = settings_.tlsRequired;
-  session_.certificates = settings_.certificates.empty() ? certificatesOfUser() : settings_.certificates;
+  session_.addresses = settings_.addresses;
+  session_.certificates = trustedCertificates(settings_.certificates);
   windowWanted_ = false;
 }
 
@@ -128,7 +127,8 @@ void CurlTransfer::openSession() {
     session_.times.answer = session_.times.stall = std::chrono::seconds(inactivityLifetime_);
   }
   tell("Connecting to the update server");
-  CurlOperation operation(session_, "");
+  runner_.begin(session_.times);
+  FtpOperation operation(session_, "");
   operation.goThereOnly();
   runOrRaise(operation, "the login", "");
 }
@@ -137,16 +137,19 @@ void CurlTransfer::download(std::string_view serverFolder, std::string_view wild
                             std::string_view localFolder) {
   const WindowCloser closer{windowWanted_ ? window_ : nullptr};
   const fs::path local = localFolderOf(localFolder);
-  const std::vector<ListedFile> files = filesOf(serverFolder, wildcard);
-  checkIncoming(files, settings_.limits);
-  inRuntimeTerms([&] {
-    IncomingFiles incoming(local, files, clock_);
-    for (const ListedFile& file : files) {
-      tell(join("Receiving ", file.name));
-      incoming.add(file.name, fetch(serverFolder, file));
-    }
-    incoming.commit();
-  });
+  runner_.begin(session_.times);
+  const std::vector<ListedFile> listed = filesOf(serverFolder, wildcard);
+  checkIncoming(listed, settings_.limits);
+  runner_.progress().filesInAll = listed.size();
+  std::vector<IncomingFile> files;
+  std::uint64_t room = settings_.limits.allSizes;
+  for (const ListedFile& file : listed) {
+    tell(join("Receiving ", file.name));
+    files.push_back({file.name, fetch(serverFolder, file, std::min(room, settings_.limits.fileSize))});
+    room -= files.back().contents.size();
+  }
+  runner_.look();
+  inRuntimeTerms([&] { takeIn(files, local, clock_); });
   tell("");
 }
 
@@ -155,12 +158,14 @@ void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcar
   const WindowCloser closer{windowWanted_ ? window_ : nullptr};
   std::vector<fs::path> files;
   inRuntimeTerms([&] { files = filesToSend(localFolderOf(localFolder), wildcard); });
+  runner_.begin(session_.times);
+  runner_.progress().filesInAll = files.size();
   for (const fs::path& file : files) {
     const std::string name = nameOf(file);
     tell(join("Sending ", name));
     const os::FileBytes bytes = os::readFile(file);
     const std::string path = join(serverFolder, name);
-    CurlOperation operation(session_, path);
+    FtpOperation operation(session_, path);
     operation.send(bytes.view());
     runOrRaise(operation, inQuotes(name), path, {name, 0, bytes.view().size()});
   }
@@ -169,7 +174,8 @@ void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcar
 
 bool CurlTransfer::directoryExists(std::string_view serverFolder) {
   const std::string path = closedWith('/', serverFolder);
-  CurlOperation operation(session_, path);
+  runner_.begin(session_.times);
+  FtpOperation operation(session_, path);
   operation.goThereOnly();
   const CURLcode result = run(operation);
   if (result == CURLE_OK) return true;
@@ -182,7 +188,8 @@ void CurlTransfer::createDirectory(std::string_view serverFolder) {
   if (std::ranges::any_of(serverFolder, isControl)) {
     throw transferError(TransferFault::name, join(inQuotes(serverFolder), " is no folder's name"));
   }
-  CurlOperation operation(session_, "");
+  runner_.begin(session_.times);
+  FtpOperation operation(session_, "");
   operation.goThereOnly();
   operation.giveCommand(join("MKD ", serverFolder));
   runOrRaise(operation, inQuotes(serverFolder), serverFolder);
@@ -192,21 +199,29 @@ void CurlTransfer::createDirectory(std::string_view serverFolder) {
 void CurlTransfer::leave() noexcept {
   if (!runner_.isConnected()) return;
   try {
-    CurlOperation farewell(session_, "");
+    FtpSession hurried = session_;
+    hurried.times.connect = hurried.times.answer = hurried.times.stall = farewellTime;
+    FtpOperation farewell(hurried, "");
     farewell.goThereOnly();
     farewell.giveCommand("*QUIT");
     // Keeps the operation from its end, so that the connection goes with it.
     farewell.giveCommand("*NOOP");
     runner_.leave(farewell);
-  } catch (const std::exception&) {
+  } catch (...) {
     // The connection is gone all the same.
   }
 }
 
 CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
-  return runner_.run(operation, session_.times, [&] {
-    if (!info.file.empty()) tell({info.file, operation.bytesDone(), info.bytesInAll});
+  TransferProgress& progress = runner_.progress();
+  const std::uint64_t bytesBefore = progress.bytes;
+  const CURLcode result = runner_.run(operation, [&] {
+    if (info.file.empty()) return;
+    progress.bytes = bytesBefore + operation.bytesDone();
+    tell({info.file, operation.bytesDone(), info.bytesInAll});
   });
+  if (!info.file.empty()) ++progress.files;
+  return result;
 }
 
 void CurlTransfer::runOrRaise(CurlOperation& operation, std::string_view subject, std::string_view path,
@@ -217,7 +232,7 @@ void CurlTransfer::runOrRaise(CurlOperation& operation, std::string_view subject
 
 /// None where the server does not know this form, or where it cannot be relied on.
 Listing CurlTransfer::machineListing(std::string_view serverFolder) {
-  CurlOperation operation(session_, serverFolder);
+  FtpOperation operation(session_, serverFolder);
   operation.set(CURLOPT_CUSTOMREQUEST, "MLSD");
   const CURLcode result = run(operation);
   if (result == CURLE_OK) return readMachineListing(operation.received());
@@ -230,7 +245,7 @@ Listing CurlTransfer::machineListing(std::string_view serverFolder) {
 }
 
 Listing CurlTransfer::peopleListing(std::string_view serverFolder) {
-  CurlOperation operation(session_, serverFolder);
+  FtpOperation operation(session_, serverFolder);
   runOrRaise(operation, inQuotes(serverFolder), serverFolder);
   return readPeopleListing(operation.received());
 }
@@ -250,18 +265,18 @@ std::vector<ListedFile> CurlTransfer::filesOf(std::string_view serverFolder, std
 /// What the list tells, or else the server when it is asked; none where it does not know.
 std::optional<std::uint64_t> CurlTransfer::lengthOf(std::string_view path, const ListedFile& file) {
   if (file.size) return file.size;
-  CurlOperation operation(session_, path);
+  FtpOperation operation(session_, path);
   operation.goThereOnly();
   runOrRaise(operation, inQuotes(file.name), path);
   const std::int64_t told = operation.toldLength();
   return told < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(told));
 }
 
-std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile& file) {
+std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile& file, std::uint64_t most) {
   const std::string path = join(serverFolder, file.name);
   const std::optional<std::uint64_t> length = lengthOf(path, file);
-  CurlOperation operation(session_, path);
-  operation.setLimit(settings_.limits.fileSize);
+  FtpOperation operation(session_, path);
+  operation.setLimit(most);
   operation.takeAllBytes();
   const TransferInfo info{file.name, 0, length.value_or(0)};
   tell(info);
@@ -294,9 +309,9 @@ void CurlTransfer::tell(const TransferInfo& info) const {
 }  // namespace
 
 std::unique_ptr<TransferComponent> newCurlTransfer(const DataFolder& folder, const Clock& clock,
-                                                   Screen& screen, CurlTransferSettings settings,
+                                                   CurlTransferSettings settings, TransferWatch* watch,
                                                    TransferWindow* window) {
-  return std::make_unique<CurlTransfer>(folder, clock, screen, std::move(settings), window);
+  return std::make_unique<CurlTransfer>(folder, clock, std::move(settings), watch, window);
 }
 
 }  // namespace tallywick

@@ -3,10 +3,12 @@
 
 #include "core/data_folder.h"
 #include "core/dated_copies.h"
+#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/text.h"
 #include "update/transfer_errors.h"
 
+#include <set>
 #include <utility>
 
 namespace tallywick {
@@ -19,6 +21,7 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
     throw transferError(TransferFault::limit, "the server's folder holds too many files");
   }
   std::set<std::string> names;
+  std::uint64_t room = limits.allSizes;
   for (const ListedFile& file : files) {
     const std::string lists = join("the server lists ", inQuotes(file.name));
     if (!isPlainFileName(file.name)) {
@@ -33,30 +36,31 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
     if (file.size.value_or(0) > limits.fileSize) {
       throw transferError(TransferFault::limit, join(lists, ", which is too large"));
     }
-  }
-}
-
-IncomingFiles::IncomingFiles(fs::path folder, const std::vector<ListedFile>& files, const Clock& clock)
-    : folder_(std::move(folder)), commit_(folder_), clock_(clock) {
-  for (const ListedFile& file : files) takenNames_.insert(lowered(file.name));
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
-    const std::string name = lowered(nameOf(entry.path()));
-    if (takenNames_.contains(name) && entry.is_directory()) {
-      throw transferError(TransferFault::name, join("the file ", inQuotes(name), " would replace a folder"));
+    if (file.size.value_or(0) > room) {
+      throw transferError(TransferFault::limit, "the server's folder holds too much");
     }
+    room -= file.size.value_or(0);
   }
 }
 
-void IncomingFiles::add(std::string_view name, std::string_view contents) {
-  const fs::path old = entryInAnyCase(folder_, name);
-  const bool isKept = isPlayFileName(name) && fs::exists(old) && os::readFile(old).view() != contents;
-  if (isKept) copies_.emplace_back(name, stageDatedCopy(commit_, name, clock_, takenNames_));
-  commit_.stage(name, contents);
-}
-
-void IncomingFiles::commit() {
-  commit_.commit();
-  for (const auto& [name, copy] : copies_) pruneDatedCopies(folder_, name, copy);
+void takeIn(const std::vector<IncomingFile>& files, const fs::path& folder, const Clock& clock) {
+  FileCommit change(folder);
+  std::set<std::string> taken;
+  for (const IncomingFile& file : files) taken.insert(lowered(file.name));
+  std::vector<std::pair<std::string, std::string>> copies;
+  for (const IncomingFile& file : files) {
+    const fs::path old = entryInAnyCase(folder, file.name);
+    if (fs::is_directory(old)) {
+      throw transferError(TransferFault::name,
+                          join("the file ", inQuotes(file.name), " would replace a folder"));
+    }
+    const bool isKept =
+        isPlayFileName(file.name) && fs::exists(old) && os::readFile(old).view() != file.contents;
+    if (isKept) copies.emplace_back(file.name, stageDatedCopy(change, file.name, clock, taken));
+    change.stage(file.name, file.contents);
+  }
+  change.commit();
+  for (const auto& [name, copy] : copies) pruneDatedCopies(folder, name, copy);
 }
 
 }  // namespace tallywick

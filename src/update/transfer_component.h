@@ -2,8 +2,9 @@
 // What the transfer classes need of an FTP client.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <filesystem>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -34,6 +35,32 @@ class TransferWindow {
   /// Opens the window where it is not open, and shows the file in hand.
   virtual void show(const TransferInfo& info) = 0;
   virtual void close() = 0;
+};
+
+/// How far the transfer of a folder is.
+struct TransferProgress {
+  /// Of all its files together.
+  std::uint64_t bytes = 0;
+  /// Those that are through.
+  std::size_t files = 0;
+  /// 0 before the folder's list is there.
+  std::size_t filesInAll = 0;
+};
+
+/// Looks after a transfer, for example to keep a window painted and to offer Cancel.
+class TransferWatch {
+ public:
+  virtual ~TransferWatch() = default;
+  /// Called many times a second until the transfer ends, also while nothing comes.
+  virtual void progress(const TransferProgress& soFar) = 0;
+  /// Whether the transfer is to end at once, with TransferCancelled and without a change.
+  virtual bool cancelled() = 0;
+};
+
+/// Ends a transfer that its watch has cancelled. It is no RuntimeError: the program goes on.
+class TransferCancelled : public std::exception {
+ public:
+  const char* what() const noexcept override { return "The transfer was cancelled"; }
 };
 
 /// An FTP client: set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell

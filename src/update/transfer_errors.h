@@ -26,6 +26,8 @@ enum class TransferFault : int {
   limit,
   nothingThere,
   protocol,
+  webAnswer,
+  redirect,
 };
 
 /// "The transfer failed: " and `what`; `where` is for standard error.

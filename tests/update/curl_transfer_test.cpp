@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The FTP client against a real server: both modes, both listings, both directions.
 #include "transfer_test.h"
+#include "update/ftp_operation.h"
 
 #include <algorithm>
 
@@ -56,7 +57,7 @@ TEST_F(RealServer, GivesEveryPlainFileOfItsFolder) {
     return info.file == "QZRNUM6.Dat" && info.bytesDone == draws.size() && info.bytesInAll == draws.size();
   };
   EXPECT_TRUE(std::ranges::any_of(listener.infos, isEndOfDraws));
-  EXPECT_GT(screen.refreshed, 0);
+  EXPECT_TRUE(watch.last.files == 3 && watch.last.filesInAll == 3 && watch.last.bytes == draws.size() + 3);
 }
 
 TEST_F(RealServer, ListsAsUnixOrAsWindowsDoesAndCallsBack) {
@@ -98,11 +99,24 @@ TEST_F(RealServer, FillsAProgressWindowWhereThatIsAskedFor) {
 
 TEST_F(RealServer, IsRefusedWhereTheLoginIsWrong) {
   const ServerProcess server = serve();
-  auto component = newCurlTransfer(scratch.folder(), clock, screen);
+  auto component = newCurlTransfer(scratch.folder(), clock);
   component->setUserName(serverLogin);
   component->setPassword("wrong");
   component->setHost(server.address());
   EXPECT_EQ(errorOf([&] { component->openSession(); }), "The transfer failed: login denied");
+}
+
+TEST(CurlOption, ThatTheLibraryDoesNotTakeIsAnError) {
+  FtpSession session;
+  session.host = "127.0.0.1";
+  FtpOperation operation(session, "");
+  try {
+    operation.set(CURLOPT_USE_SSL, 99L);
+    FAIL() << "it went unnoticed";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.description(),
+              "The transfer failed: the transfer library does not take the setting USE_SSL");
+  }
 }
 
 }  // namespace

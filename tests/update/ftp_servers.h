@@ -93,12 +93,16 @@ inline void putText(const std::filesystem::path& file, const std::string& text) 
   std::ofstream(file, std::ios::binary) << text;
 }
 
-/// A certificate of 127.0.0.1 with its key, in one file.
-inline void makeCertificate(const std::string& file) {
+/// A certificate with its key, in one file. Without an `authority`, the file of another one, it vouches for
+/// itself.
+inline void makeCertificate(const std::string& file, const std::string& owner = "IP:127.0.0.1",
+                            const std::string& authority = "") {
+  const std::string signer = authority.empty() ? "" : " -CA " + authority + " -CAkey " + authority + ".key";
   const std::string make =
-      "openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2 -subj /CN=test "
-      "-addext subjectAltName=IP:127.0.0.1 -out " +
-      file + " -keyout " + file + ".key 2>/dev/null && cat " + file + ".key >> " + file;
+      "openssl req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2 "
+      "-addext subjectAltName=" +
+      owner + " -subj /CN=" + std::filesystem::path(file).filename().string() + signer + " -out " + file +
+      " -keyout " + file + ".key 2>/dev/null && cat " + file + ".key >> " + file;
   if (std::system(make.c_str()) != 0) throw std::runtime_error("the openssl command makes no certificate");
 }
 

@@ -3,6 +3,7 @@
 #include "update/incoming_files.h"
 
 #include "core/clock.h"
+#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/runtime_error.h"
 #include "support/killed_run.h"
@@ -15,7 +16,7 @@ namespace tallywick::test {
 namespace {
 
 std::string refusal(const std::vector<ListedFile>& files) {
-  return raisedBy([&] { checkIncoming(files, {3, 100}); }).description;
+  return raisedBy([&] { checkIncoming(files, {3, 100, 150}); }).description;
 }
 
 TEST(CheckIncoming, RefusesWhatIsNoPlainNameOfAnothersFile) {
@@ -36,6 +37,7 @@ TEST(CheckIncoming, RefusesWhatIsNoPlainNameOfAnothersFile) {
 TEST(CheckIncoming, RefusesDoublesAndWhatIsTooMuchOrNothing) {
   EXPECT_EQ(refusal({{"a.Dat", 1}, {"A.dat", 1}}), "The transfer failed: the server lists \"A.dat\" twice");
   EXPECT_EQ(refusal({{"a", 100}, {"b", 1}, {"c", 1}}), "");
+  EXPECT_EQ(refusal({{"a", 100}, {"b", 51}}), "The transfer failed: the server's folder holds too much");
   EXPECT_EQ(refusal({{"a", 101}}), "The transfer failed: the server lists \"a\", which is too large");
   EXPECT_EQ(refusal({{"a", 1}, {"b", 1}, {"c", 1}, {"d", 1}}),
             "The transfer failed: the server's folder holds too many files");
@@ -53,13 +55,7 @@ TEST(Wildcard, StarDotStarMeansEveryName) {
 class Incoming : public testing::Test {
  protected:
   std::filesystem::path pwr() const { return scratch.root() / "QzrNumbers/QZR6PWR"; }
-  void receive(const std::vector<std::pair<std::string, std::string>>& files) {
-    std::vector<ListedFile> listed;
-    for (const auto& [name, text] : files) listed.push_back({name, text.size()});
-    IncomingFiles incoming(pwr(), listed, clock);
-    for (const auto& [name, text] : files) incoming.add(name, text);
-    if (committed) incoming.commit();
-  }
+  void receive(const std::vector<IncomingFile>& files) { takeIn(files, pwr(), clock); }
   std::string get(const std::string& name) { return scratch.read("QzrNumbers/QZR6PWR/" + name); }
   void put(const std::string& name, std::string_view text) {
     scratch.write("QzrNumbers/QZR6PWR/" + name, text);
@@ -67,16 +63,10 @@ class Incoming : public testing::Test {
 
   ScratchFolder scratch;
   StandingClock clock{"11-21-2026", "18:15:00"};
-  bool committed = true;
 };
 
-TEST_F(Incoming, TakeTheNamesOfTheOldOnesOrLeaveNoTrace) {
+TEST_F(Incoming, TakeTheNamesOfTheOldOnes) {
   put("qzrnum6.DAT", "old");
-  const auto before = scratch.snapshot();
-  committed = false;
-  receive({{"QZRNUM6.Dat", "new"}, {"other", ""}});
-  EXPECT_EQ(scratch.snapshot(), before);
-  committed = true;
   receive({{"QZRNUM6.Dat", "new"}, {"other", ""}});
   EXPECT_EQ(scratch.snapshot(), (std::map<std::string, std::string>{{"QzrNumbers/QZR6PWR/qzrnum6.DAT", "new"},
                                                                     {"QzrNumbers/QZR6PWR/other", ""}}));
@@ -120,8 +110,9 @@ TEST_F(Incoming, DoNotReplaceAFolder) {
   std::filesystem::create_directory(pwr() / "Archive");
   std::filesystem::create_directory(pwr() / "Backup");
   std::filesystem::create_directory(pwr() / "backup");
-  EXPECT_THROW(receive({{"archive", "x"}}), RuntimeError);
-  committed = false;
+  const auto before = scratch.snapshot();
+  EXPECT_THROW(receive({{"QZRNUM6.Dat", "new"}, {"archive", "x"}}), RuntimeError);
+  EXPECT_EQ(scratch.snapshot(), before);
   EXPECT_NO_THROW(receive({{"QZRNUM6.Dat", "new"}}))
       << "the folder's lock was kept, or folders that nobody lists are in the way";
 }

@@ -28,8 +28,11 @@ const std::string draws = "-rw-r--r-- 1 o g 20000 Nov 21 10:35 QZRNUM6.Dat\r\n";
 class BadServer : public TransferTest {
  protected:
   BadServer() {
-    settings.times = {500ms, 500ms, 500ms};
-    settings.limits = {10, 50'000};
+    settings.times = {500ms, 500ms, 500ms, 600ms, 100, 20s};
+    watch.onLook = [this] {
+      EXPECT_FALSE(scratch.exists(join(pwrHere, lockName))) << "the lock is taken before all has come";
+    };
+    settings.limits = {10, 50'000, 60'000};
     putText(tree.root() / "first.Dat", "one");
     putText(tree.root() / "QZRNUM6.Dat", std::string(20'000, 'd'));
   }
@@ -53,8 +56,8 @@ TEST_P(Misbehaving, LeavesTheFolderAsItWas) {
   EXPECT_EQ(errorOf([&] { download(GetParam().fault, GetParam().list); }),
             "The transfer failed: " + GetParam().error);
   EXPECT_EQ(scratch.snapshot(), before);
-  EXPECT_FALSE(scratch.exists(join(pwrHere, "TALLYWICK.LCK")));
-  EXPECT_TRUE(GetParam().fault != "stall" || screen.refreshed > 8) << "the window was not painted meanwhile";
+  EXPECT_FALSE(scratch.exists(join(pwrHere, lockName)));
+  EXPECT_TRUE(GetParam().fault != "stall" || watch.looks > 8) << "the window was not painted meanwhile";
   EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
 }
 INSTANTIATE_TEST_SUITE_P(
@@ -87,6 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{"noEnd", "no end", draws, "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\""},
         Misdeed{"noAnswer", "no answer", draws,
                 "timed out while waiting for an answer, in hand was \"QZRNUM6.Dat\""},
+        Misdeed{"drip", "drip", draws, "timed out, too slow was \"QZRNUM6.Dat\""},
         Misdeed{"endless", "endless", draws, "too large: \"QZRNUM6.Dat\""}),
     [](const auto& tested) { return tested.param.name; });
 
@@ -112,6 +116,36 @@ TEST_F(BadServer, HasTheTimeOfAnAnswerForEachStepOfTheLogin) {
   EXPECT_EQ(get("first.Dat"), "one");
 }
 
+TEST_F(BadServer, HasOneLimitForAWholeFolder) {
+  settings.times.folder = 700ms;
+  std::string list;
+  for (const std::string name : {"1", "2", "3", "4", "5", "6"}) {
+    putText(tree.root() / name, "one");
+    list += "-rw-r--r-- 1 o g 3 Nov 21 10:35 " + name + "\r\n";
+  }
+  EXPECT_THAT(errorOf([&] { download("crawl", list); }), testing::HasSubstr("the folder takes too long"));
+  EXPECT_EQ(scratch.snapshot(), before);
+}
+
+TEST_F(BadServer, IsFoundWhereTheFirstOfItsAddressesIsSilent) {
+  putText(tree.root() / "LIST", first);
+  const ServerProcess server("bad_server.py", {tree.root().string(), "silent address"});
+  const std::string port = server.address().substr(server.address().find(':') + 1);
+  settings.addresses = join("two.test:", port, ":127.0.0.2,127.0.0.1");
+  settings.times.connect = 800ms;
+  connected(join("two.test:", port))->download("/", "*.*", pwrHere);
+  EXPECT_EQ(get("first.Dat"), "one");
+}
+
+TEST_F(BadServer, IsLeftByWhoeverCancels) {
+  settings.times.stall = 20s;
+  for (const int look : {1, 3, 15}) {
+    watch.cancelAt = watch.looks + look;
+    EXPECT_THROW(download("stall", first + draws), TransferCancelled);
+    EXPECT_EQ(scratch.snapshot(), before);
+  }
+}
+
 TEST_F(BadServer, NeedNotAnswerTheFarewell) {
   const auto started = std::chrono::steady_clock::now();
   download("no farewell", first);
@@ -119,7 +153,7 @@ TEST_F(BadServer, NeedNotAnswerTheFarewell) {
   EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
   // One from the change to the other kind of listing, one at the end.
   EXPECT_EQ(commands("QUIT"), 2);
-  EXPECT_GT(screen.refreshed, 30) << "the window was not painted meanwhile";
+  EXPECT_GT(watch.looks, 30) << "the window was not painted meanwhile";
 }
 
 TEST_F(BadServer, GetsNoLoginWithoutTlsWhereThatIsRequired) {

@@ -2,8 +2,8 @@
 // A component of the real kind on a data folder of the test's own.
 #pragma once
 
-#include "controls/surroundings.h"
 #include "core/clock.h"
+#include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "ftp_servers.h"
@@ -11,8 +11,10 @@
 #include "update/curl_transfer.h"
 
 #include <algorithm>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,10 +24,18 @@ namespace tallywick::test {
 inline constexpr std::string_view pwrHere =
     R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6PWR\)";
 
-class CountingScreen : public Screen {
+class CountingWatch : public TransferWatch {
  public:
-  void refresh() override { ++refreshed; }
-  int refreshed = 0;
+  void progress(const TransferProgress& soFar) override {
+    ++looks;
+    last = soFar;
+    if (onLook) onLook();
+  }
+  bool cancelled() override { return looks >= cancelAt; }
+  int looks = 0;
+  int cancelAt = std::numeric_limits<int>::max();
+  TransferProgress last;
+  std::function<void()> onLook;
 };
 
 class RecordingListener : public TransferListener {
@@ -56,7 +66,7 @@ class TransferTest : public testing::Test {
   }
 
   std::unique_ptr<TransferComponent> connected(const std::string& host, bool passive = true) {
-    auto component = newCurlTransfer(scratch.folder(), clock, screen, settings, &window);
+    auto component = newCurlTransfer(scratch.folder(), clock, settings, &watch, &window);
     component->setListener(&listener);
     component->prepare();
     component->setUserName(serverLogin);
@@ -88,7 +98,7 @@ class TransferTest : public testing::Test {
 
   ScratchFolder scratch;
   StandingClock clock{"11-21-2026", "18:15:00"};
-  CountingScreen screen;
+  CountingWatch watch;
   RecordingListener listener;
   RecordingWindow window;
   CurlTransferSettings settings;

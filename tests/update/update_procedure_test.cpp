@@ -164,7 +164,7 @@ TEST_F(Update, BringsDrawsFromARealServerGameByGame) {
   scratch.write("PWF2.TXT", serverLogin);
   const std::string play = records({"11-23-2026,01,02,03,04,05,06,5000000"});
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", play);
-  newTransfer = [this] { return newCurlTransfer(scratch.folder(), clock, *this); };
+  newTransfer = [this] { return newCurlTransfer(scratch.folder(), clock); };
 
   auto expected = scratch.snapshot();
   EXPECT_EQ(run(Command2_Click), static_cast<std::int32_t>(0x80040000U + 28105U))

@@ -9,7 +9,6 @@
 #include "ui/qt/qt_platform.h"
 #include "ui/qt/screenshot.h"
 #include "ui/qt/transfer_window.h"
-#include "update/curl_transfer.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -81,11 +80,7 @@ int runOn(const DataFolder& folder, const Options& options) {
   MixingGenerator random(entropy());
   QtPlatform platform(folder);
   QtTransferWindow transferWindow;
-  Application application({folder, settingsOf(folder), clock, random, platform, [&] {
-                             CurlTransferSettings settings;
-                             settings.tlsRequired = application.settings().tls == Settings::Tls::required;
-                             return newCurlTransfer(folder, clock, platform, settings, &transferWindow);
-                           }});
+  Application application({folder, settingsOf(folder), clock, random, platform, {}, &transferWindow});
   connectDesk(application, platform);
   if (!options.screenshot.empty()) return takeScreenshot(application, platform, options);
   return runWindows(application, platform, !options.noSplash);

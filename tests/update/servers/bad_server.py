@@ -75,6 +75,12 @@ class Session:
             self.control.close()
         elif fault == "long":
             self.send(body + b"!!")
+        elif fault == "drip":
+            self.say("150 Here it comes")
+            with self.open_data() as data:
+                for letter in body:
+                    data.sendall(bytes([letter]))
+                    time.sleep(0.05)
         elif fault == "endless":
             self.say("150 Here it comes")
             with self.open_data() as data:
@@ -88,6 +94,8 @@ class Session:
     def answer(self, command, argument):
         if fault == "slow" and command in ("USER", "PASS", "PWD"):
             time.sleep(0.4)
+        if fault == "crawl" and command == "RETR":
+            time.sleep(0.2)
         if command == "AUTH" and contents("certificate") is not None:
             self.start_tls()
         elif command == "USER":
@@ -152,8 +160,20 @@ def serve(control):
     control.close()
 
 
+def be_silent_at(address):
+    """Lets nobody in: its queue is full and stays so."""
+    queue = socket.create_server(address, backlog=0)
+    waiting = [socket.socket() for _ in range(4)]
+    for client in waiting:
+        client.setblocking(False)
+        client.connect_ex(address)
+    return queue, waiting
+
+
 listener = socket.create_server(("127.0.0.1", 0))
-print(listener.getsockname()[1], flush=True)
+port = listener.getsockname()[1]
+silent = be_silent_at(("127.0.0.2", port)) if fault == "silent address" else None
+print(port, flush=True)
 threading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()
 while True:
     threading.Thread(target=serve, args=(listener.accept()[0],), daemon=True).start()
