@@ -8,6 +8,7 @@
 #include "update/maintenance.h"
 #include "update/transfer_status.h"
 
+#include <initializer_list>
 #include <string_view>
 
 namespace tallywick {
@@ -72,6 +73,21 @@ class Fetcher {
   Download download_;
 };
 
+/// Runs the part of an update that can be cancelled. Cancelling it lets the user update again; what has come
+/// down before stays.
+template <typename Action>
+void untilCancelled(UpdateSurroundings& update, std::initializer_list<MenuEntry*> entries, Action action) {
+  try {
+    action();
+  } catch (const TransferCancelled&) {
+    update.page.ProgressBar1.hide();
+    update.page.Command2.show();
+    for (MenuEntry* entry : entries) entry->setEnabled(true);
+    update.page.StatusBar1.setPanel(1, "The update was cancelled");
+    throw;
+  }
+}
+
 void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry& entry) {
   UpdatePage& page = update.page;
   tell(update.boxes, join("Updating The Tallywick Software ", one.game.name, " game"));
@@ -80,7 +96,7 @@ void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry&
   page.Command2.hide();
   entry.setEnabled(false);
   update.screen.refresh();
-  Fetcher(update).fetch(one.game, one.folderForMenu);
+  untilCancelled(update, {&entry}, [&] { Fetcher(update).fetch(one.game, one.folderForMenu); });
   progressTo(update, 100);
   maintainPlayFiles(one.game, update.folder, update.programs);
   update.refreshPictures();
@@ -104,10 +120,12 @@ void Command2_Click(UpdateSurroundings& update) {
   tell(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
   page.ProgressBar1.show();
   update.screen.refresh();
-  Fetcher fetcher(update);
-  fetcher.fetch(powerBall, powerBallUpdate.folderForButton);
-  progressTo(update, 50);
-  fetcher.fetch(megaMillions, megaMillionsUpdate.folderForButton);
+  untilCancelled(update, {&update.mnuPowerBall2, &update.mnuMegaMillions2}, [&] {
+    Fetcher fetcher(update);
+    fetcher.fetch(powerBall, powerBallUpdate.folderForButton);
+    progressTo(update, 50);
+    fetcher.fetch(megaMillions, megaMillionsUpdate.folderForButton);
+  });
   progressTo(update, 100);
   Command1_Click(update.folder, update.programs);
   Command51_Click(update.folder, update.programs);

@@ -34,6 +34,8 @@ struct UpdateSurroundings {
 };
 
 /// Both games; refused up to 07:00:00. A failure ends it as it stands: the games that have come down stay.
+/// Where the transfer's watch cancels it, TransferCancelled passes through, and the controls let the user
+/// update again.
 void Command2_Click(UpdateSurroundings& update);
 /// One game, at any time.
 void mnuPowerBall2_Click(UpdateSurroundings& update);

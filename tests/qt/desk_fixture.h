@@ -70,7 +70,8 @@ class Desktop : public testing::Test {
   StandingClock clock{"11-21-2026", "12:00:00"};
   MixingGenerator random{1};
   QtPlatform platform{scratch.folder()};
-  Application application{{scratch.folder(), {}, clock, random, platform, {}}};
+  TransferFactory newTransfer;
+  Application application{{scratch.folder(), {}, clock, random, platform, [this] { return newTransfer(); }}};
   QString helpPage;
   QString boxTitle;
   QString boxText;

@@ -144,6 +144,21 @@ TEST_F(Update, EndsWhereItFails) {
   EXPECT_TRUE(transfers.empty());
 }
 
+TEST_F(Update, ThatIsCancelledLetsTheUserUpdateAgain) {
+  bool first = true;
+  newTransfer = fakeTransfers(transfers, [&](std::string_view) {
+    if (!std::exchange(first, false)) throw TransferCancelled();
+  });
+  EXPECT_THROW(run(Command2_Click), TransferCancelled) << "in the second game";
+  EXPECT_THROW(run(mnuPowerBall2_Click), TransferCancelled);
+  EXPECT_EQ(log, (std::vector<std::string>{
+                     "box The Tallywick Software is updating,\r\nPlease allow the updates to complete...",
+                     "box Updating The Tallywick Software PowerBall game"}));
+  EXPECT_EQ(page.StatusBar1.panels()[0], "The update was cancelled");
+  EXPECT_TRUE(page.Command2.visible() && mnuPowerBall2.enabled() && mnuMegaMillions2.enabled());
+  EXPECT_FALSE(page.ProgressBar1.visible());
+}
+
 TEST_F(Update, TellsFileAndBytesInTheStatusBar) {
   TransferStatus status(page.StatusBar1);
   status.transferInfo({"QZRNUM6.Dat", 1234567, 22345678});

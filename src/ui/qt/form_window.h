@@ -22,6 +22,8 @@ struct Desk {
   std::function<void(const QString& page)> help;
 };
 
+class TransferPanel;
+
 class FormWindow : public QMainWindow {
  public:
   FormWindow(Form& form, const Desk& desk);
@@ -34,6 +36,8 @@ class FormWindow : public QMainWindow {
   virtual QString helpPage() const = 0;
   /// Keeps sizes for the next time; called before the window goes.
   virtual void keepLayout() {}
+  /// Where a transfer shows how far it is and can be cancelled; null where this window has no such place.
+  virtual TransferPanel* transferPanel() const { return nullptr; }
 
  protected:
   /// F1 opens the help at helpPage().

@@ -102,6 +102,10 @@ QString MainWindow::helpPage() const {
   return QString::fromLatin1(helpPages.at(static_cast<std::size_t>(pages_->currentIndex())));
 }
 
+TransferPanel* MainWindow::transferPanel() const {
+  return bar_->transferPanel();
+}
+
 void MainWindow::keepLayout() {
   saveLayout(*this);
 }

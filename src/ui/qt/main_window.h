@@ -17,6 +17,7 @@ class MainWindow : public FormWindow {
 
   QString helpPage() const override;
   void keepLayout() override;
+  TransferPanel* transferPanel() const override;
 
  private:
   void addPages();

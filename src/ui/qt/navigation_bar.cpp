@@ -4,6 +4,7 @@
 #include "app/main_form.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/layouts.h"
+#include "ui/qt/transfer_panel.h"
 
 #include <QProgressBar>
 #include <QPushButton>
@@ -45,7 +46,10 @@ QToolButton* settingsButton(QWidget* parent) {
 }  // namespace
 
 NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
-    : form_(form), powerBall_(gameSwitch(this)), megaMillions_(gameSwitch(this)) {
+    : form_(form),
+      powerBall_(gameSwitch(this)),
+      megaMillions_(gameSwitch(this)),
+      transfer_(new TransferPanel(this)) {
   auto* selection = new QPushButton(this);
   auto* update = new QPushButton(this);
   auto* progress = new QProgressBar(this);
@@ -65,6 +69,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   bar->addWidget(selection);
   bar->addWidget(update);
   bar->addWidget(progress, 1);
+  bar->addWidget(transfer_);
   bar->addStretch();
   bar->addWidget(next);
   bar->addWidget(settings);

@@ -11,17 +11,20 @@ namespace tallywick {
 
 class FormWindow;
 class MainForm;
+class TransferPanel;
 
 class NavigationBarView : public QWidget {
  public:
   NavigationBarView(MainForm& form, FormWindow& window);
   /// Presses the switch in for the game on show.
   void showGame();
+  TransferPanel* transferPanel() const { return transfer_; }
 
  private:
   MainForm& form_;
   QPushButton* powerBall_;
   QPushButton* megaMillions_;
+  TransferPanel* transfer_;
 };
 
 }  // namespace tallywick

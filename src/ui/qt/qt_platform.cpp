@@ -4,10 +4,12 @@
 #include "app/program_start.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "ui/qt/transfer_panel.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
@@ -69,9 +71,18 @@ QtPlatform::~QtPlatform() {
 
 void QtPlatform::run(const std::function<void()>& handler) {
   if (running_ || ended_) return;
+  runGuarded(handler);
+  endTransfer();
+}
+
+void QtPlatform::runGuarded(const std::function<void()>& handler) {
   const Flag running(running_);
   try {
-    handler();
+    try {
+      handler();
+    } catch (const TransferCancelled&) {
+      // The handler's controls say so.
+    }
     showChanges();
   } catch (...) {
     endWithError(currentRuntimeError());
@@ -80,6 +91,7 @@ void QtPlatform::run(const std::function<void()>& handler) {
 
 MessageBox::Answer QtPlatform::show(const MessageBox& box) {
   showChanges();
+  if (TransferPanel* panel = transferPanel()) panel->end();
   const bool isQuestion = box.buttons == MessageBox::Buttons::yesNo;
   if (alone_) return isQuestion ? MessageBox::Answer::no : MessageBox::Answer::ok;
   QMessageBox shown(iconOf(box.icon), toQString(box.title), toQString(box.text).remove(u'\r'),
@@ -99,6 +111,21 @@ void QtPlatform::refresh() {
   showChanges();
   // What the user does meanwhile waits until the handler has ended.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtPlatform::progress(const TransferProgress& soFar) {
+  showChanges();
+  TransferPanel* panel = transferPanel();
+  if (panel != nullptr) panel->showProgress(soFar);
+  transferInput_.handleEvents(panel != nullptr ? &panel->button() : nullptr, [&](FormWindow& window) {
+    closing_.emplace_back(&window);
+    if (TransferPanel* own = window.transferPanel()) own->cancel();
+  });
+}
+
+bool QtPlatform::cancelled() {
+  const TransferPanel* panel = transferPanel();
+  return panel != nullptr && panel->isCancelled();
 }
 
 void QtPlatform::start(std::string_view program, std::string_view workingFolder) {
@@ -155,6 +182,20 @@ FormWindow* QtPlatform::windowOf(const Form& form) const {
 
 void QtPlatform::showChanges() {
   for (FormWindow* window : std::vector<FormWindow*>(windows_)) window->binding().showChanges();
+}
+
+TransferPanel* QtPlatform::transferPanel() const {
+  for (const FormWindow* window : windows_) {
+    if (TransferPanel* panel = window->transferPanel()) return panel;
+  }
+  return nullptr;
+}
+
+void QtPlatform::endTransfer() {
+  if (TransferPanel* panel = transferPanel()) panel->end();
+  for (const QPointer<FormWindow>& window : std::exchange(closing_, {})) {
+    if (window) window->close();
+  }
 }
 
 void QtPlatform::end(int exitCode) {

@@ -6,7 +6,9 @@
 #include "core/data_folder.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/handler_runner.h"
+#include "ui/qt/transfer_input.h"
 
+#include <QPointer>
 #include <functional>
 #include <vector>
 
@@ -31,6 +33,8 @@ class QtPlatform : public Platform, public HandlerRunner {
 
   MessageBox::Answer show(const MessageBox& box) override;
   void refresh() override;
+  void progress(const TransferProgress& soFar) override;
+  bool cancelled() override;
   void start(std::string_view program, std::string_view workingFolder) override;
   void openWindow(Form& form) override;
   void closeWindow(Form& form) override;
@@ -46,12 +50,20 @@ class QtPlatform : public Platform, public HandlerRunner {
   int exitCode() const { return exitCode_; }
 
  private:
+  void runGuarded(const std::function<void()>& handler);
   void showChanges();
+  /// The first window's that has one; null without.
+  TransferPanel* transferPanel() const;
+  /// Takes the panel off the screen and closes the windows that were to be closed meanwhile.
+  void endTransfer();
   void end(int exitCode);
   void endWithError(const RuntimeError& error);
 
   const DataFolder& folder_;
   std::vector<FormWindow*> windows_;
+  TransferInput transferInput_;
+  /// To be closed when the handler has ended.
+  std::vector<QPointer<FormWindow>> closing_;
   bool running_ = false;
   bool alone_ = false;
   bool ended_ = false;
