@@ -1,0 +1,153 @@
+#include "update/https_fetch.h"
+
+#include "core/text.h"
+#include "update/curl_address.h"
+#include "update/curl_errors.h"
+#include "update/curl_runner.h"
+#include "update/transfer_errors.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tallywick {
+
+namespace {
+
+constexpr int mostRedirects = 5;
+
+constexpr long ok = 200;
+constexpr long notModified = 304;
+
+struct Refusal {
+  long status;
+  std::string_view text;
+};
+
+constexpr std::array refusals = {
+    Refusal{403, "the server refuses access to "},
+    Refusal{404, "the server does not have "},
+    Refusal{429, "too many requests, try again later: the server puts off "},
+    Refusal{503, "the server is overloaded or being repaired, try again later for "},
+};
+
+struct WebAddress {
+  std::string text;
+  bool isEncrypted = false;
+  bool isOnThisComputer = false;
+};
+
+bool isLoopback(std::string_view host) {
+  const bool isNumeric = host.find_first_not_of("0123456789.") == std::string_view::npos;
+  return host == "localhost" || host == "[::1]" || (isNumeric && host.starts_with("127."));
+}
+
+/// Raises an error where the address is none that may be asked.
+WebAddress webAddress(const std::string& text) {
+  const CurlAddress parts(text);
+  const std::string scheme = parts.part(CURLUPART_SCHEME);
+  if (!parts.isValid() || (scheme != "https" && scheme != "http") || parts.has(CURLUPART_USER) ||
+      parts.has(CURLUPART_PASSWORD)) {
+    throw transferError(TransferFault::address, join(inQuotes(text), " is no web address"), printable(text));
+  }
+  WebAddress address{text, scheme == "https", isLoopback(parts.part(CURLUPART_HOST))};
+  if (!address.isEncrypted && !address.isOnThisComputer) {
+    throw transferError(TransferFault::tls, join(inQuotes(text), " is an address without encryption"),
+                        printable(text));
+  }
+  return address;
+}
+
+bool isHeaderText(std::string_view text) {
+  return !text.empty() &&
+         std::ranges::all_of(text, [](char letter) { return letter >= ' ' && letter <= '~'; });
+}
+
+class WebOperation : public CurlOperation {
+ public:
+  WebOperation(const WebAddress& address, const Validators& known, const FetchSettings& settings)
+      : CurlOperation(address.text, settings.times) {
+    setLimit(settings.largest);
+    const std::string certificates = trustedCertificates(settings.certificates);
+    if (!certificates.empty()) set(CURLOPT_CAINFO, certificates.c_str());
+    // What this computer serves takes no way round.
+    if (address.isOnThisComputer) set(CURLOPT_PROXY, "");
+    set(CURLOPT_USERAGENT, "Tallywick");
+    // Whatever the library can unpack.
+    set(CURLOPT_ACCEPT_ENCODING, "");
+    if (isHeaderText(known.entityTag)) append(CURLOPT_HTTPHEADER, join("If-None-Match: ", known.entityTag));
+    if (isHeaderText(known.lastModified)) {
+      append(CURLOPT_HTTPHEADER, join("If-Modified-Since: ", known.lastModified));
+    }
+    onLine = [this](std::string_view line) { takeHeader(line); };
+  }
+
+  const Validators& validators() const { return validators_; }
+
+  /// Empty where the server does not lead elsewhere.
+  std::string redirect() const {
+    char* address = nullptr;
+    curl_easy_getinfo(handle(), CURLINFO_REDIRECT_URL, &address);
+    return address != nullptr ? address : "";
+  }
+
+ private:
+  void takeHeader(std::string_view line) {
+    // Each answer begins with one; an interim one may come before the last.
+    if (line.starts_with("HTTP/")) validators_ = {};
+    const std::size_t colon = line.find(':');
+    if (colon == std::string_view::npos) return;
+    const std::string_view name = line.substr(0, colon);
+    line.remove_prefix(colon + 1);
+    while (line.ends_with('\n') || line.ends_with('\r')) line.remove_suffix(1);
+    if (equalIgnoringCase(name, "ETag")) validators_.entityTag = trimmed(line);
+    if (equalIgnoringCase(name, "Last-Modified")) validators_.lastModified = trimmed(line);
+  }
+
+  Validators validators_;
+};
+
+[[noreturn]] void refuse(long status, const std::string& subject, const std::string& where) {
+  const auto* known = std::ranges::find(refusals, status, &Refusal::status);
+  const std::string_view text =
+      known != refusals.end() ? known->text : "the server gives no usable answer for ";
+  throw transferError(TransferFault::webAnswer, join(text, subject, " (", std::to_string(status), ")"),
+                      where);
+}
+
+/// Where the server leads instead of `from`; raises an error where nobody may follow.
+WebAddress redirected(const WebAddress& from, const std::string& to) {
+  const WebAddress next = webAddress(to);
+  if (from.isEncrypted && !next.isEncrypted) {
+    throw transferError(TransferFault::redirect,
+                        join(inQuotes(from.text), " leads to an address without encryption"), printable(to));
+  }
+  return next;
+}
+
+}  // namespace
+
+FetchedDocument fetchDocument(const std::string& address, const Validators& known,
+                              const FetchSettings& settings, TransferWatch* watch) {
+  CurlRunner runner(watch);
+  runner.begin(settings.times);
+  runner.progress().filesInAll = 1;
+  WebAddress from = webAddress(address);
+  const std::string subject = inQuotes(address);
+  for (int redirects = 0; redirects <= mostRedirects; ++redirects) {
+    const std::string where = printable(from.text);
+    WebOperation operation(from, known, settings);
+    const CURLcode result = runner.run(operation, [&] { runner.progress().bytes = operation.bytesDone(); });
+    if (result != CURLE_OK) throw curlError(result, operation, subject, where);
+    const long status = operation.responseCode();
+    if (status == ok) return {false, operation.received(), operation.validators()};
+    if (status == notModified && known != Validators{}) return {true, {}, known};
+    const std::string next = operation.redirect();
+    if (next.empty()) refuse(status, subject, where);
+    from = redirected(from, next);
+  }
+  throw transferError(TransferFault::redirect, join(subject, " leads to more than five other addresses"),
+                      printable(from.text));
+}
+
+}  // namespace tallywick
