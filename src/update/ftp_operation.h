@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One operation on an FTP server: a file, a listing, or a way to a folder.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fetches one document of a web server, verified and whole, or raises an error that says why not.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long a transfer may take, and how much it may bring.
 #pragma once
 

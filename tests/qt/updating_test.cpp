@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows during an update: they stay alive, take no input but Cancel and the closing of a window, and go
 // on afterwards.
 #include "app/main_form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is fetched over HTTPS comes whole from the server that it was asked of, or an error says why not.
 #include "update/https_fetch.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keeps the windows alive during a transfer: they are painted, moved and closed, and only Cancel takes input.
 #pragma once
 

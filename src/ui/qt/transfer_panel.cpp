@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/transfer_panel.h"
 
 #include "ui/qt/layouts.h"

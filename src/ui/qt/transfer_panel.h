@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a window shows while a transfer is under way: how far it is, and Cancel.
 #pragma once
 
