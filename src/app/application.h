@@ -4,7 +4,7 @@
 
 #include "app/main_form.h"
 #include "app/platform.h"
-#include "app/settings.h"
+#include "settings/settings.h"
 #include "app/small_windows.h"
 #include "core/clock.h"
 #include "core/data_folder.h"

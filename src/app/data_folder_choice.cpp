@@ -3,6 +3,7 @@
 
 #include "core/data_folder.h"
 #include "core/os.h"
+#include "core/runtime_error.h"
 
 #include <cstdlib>
 #include <exception>
@@ -11,10 +12,22 @@ namespace tallywick {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// The folder of that name, seen from the working folder, which may have been removed.
+fs::path seenFromHere(const fs::path& named) {
+  std::error_code error;
+  fs::path folder = fs::absolute(named, error);
+  if (error) throw RuntimeError(ErrorNumber::pathNotFound, named.string() + " (the working folder is gone)");
+  return folder;
+}
+
+}  // namespace
+
 fs::path chooseDataFolder(const std::string& named) {
-  if (!named.empty()) return fs::absolute(named);
+  if (!named.empty()) return seenFromHere(named);
   if (const char* folder = std::getenv("TALLYWICK_FOLDER"); folder != nullptr && *folder != '\0') {
-    return fs::absolute(folder);
+    return seenFromHere(folder);
   }
   std::error_code error;
   const fs::path here = fs::current_path(error);

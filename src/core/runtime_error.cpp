@@ -79,6 +79,8 @@ RuntimeError currentRuntimeError() {
     return runtimeErrorFrom(error.code(), error.path1());
   } catch (const std::exception& error) {
     return RuntimeError(ErrorNumber::internalError, error.what());
+  } catch (...) {
+    return RuntimeError(ErrorNumber::internalError);
   }
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup/new_folder.h"
 
-#include "app/settings.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/text.h"
 #include "exports/record_texts.h"
+#include "settings/settings.h"
 #include "setup/ball_picture.h"
 #include "setup/folder_notes.h"
 #include "setup/records.h"
@@ -82,7 +82,7 @@ void writeRoot(const fs::path& root, const FolderContents& contents) {
   files.add(calendarFile, calendarText(dayOf(2002, 1, 1), dayOf(2050, 12, 31)));
   files.add(loginFile, "\"tallywick\"\r\n");
   files.add(passwordFile, "\"change-me\"\r\n");
-  files.add(settingsFile, settingsText({"127.0.0.1:2121", Settings::Tls::off, "", ""}));
+  files.add(settingsFile, settingsText({}));
   files.commit();
   writeNotes(root, contents);
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file: what is written is read again, and what cannot be understood is named.
-#include "app/settings.h"
+#include "settings/settings.h"
 
 #include "app/data_folder_choice.h"
 #include "app/program_start.h"
 #include "core/os.h"
+#include "core/program_run.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "support/scratch_folder.h"
 
 #include <cstdlib>
@@ -19,29 +21,67 @@ using test::ScratchFolder;
 TEST(Settings, ComeBackAsTheyWereWritten) {
   const ScratchFolder scratch;
   EXPECT_EQ(readSettings(scratch.folder()), Settings{});
-  const Settings settings = {"127.0.0.1:2121", Settings::Tls::required, "https://example.org/?a=b&c=d#e", ""};
+  const Settings settings = {"127.0.0.1:2121",
+                             Settings::Tls::required,
+                             "https://example.org/?a=b;c=d, 'e' #f",
+                             "",
+                             Settings::Source::server,
+                             "http://localhost:8000/powerball.csv",
+                             "https://example.org/mega;millions.csv"};
   writeSettings(scratch.folder(), settings);
   EXPECT_EQ(readSettings(scratch.folder()), settings);
-  scratch.write("TALLYWICK.INI", "; a remark\r\nserver = host\r\n");
-  EXPECT_EQ(readSettings(scratch.folder()).server, "host");
+  for (const char* value : {"a\"b", "a\nb"})
+    EXPECT_THROW(writeSettings(scratch.folder(), {value, Settings::Tls::off, "", ""}), std::invalid_argument);
+  EXPECT_EQ(readSettings(scratch.folder()), settings);
 }
 
-TEST(Settings, AMisspeltOneIsNamedRatherThanIgnored) {
+TEST(Settings, AreReadAsPeopleAndEditorsWriteThem) {
+  const ScratchFolder scratch;
+  scratch.write("TALLYWICK.INI",
+                "\xEF\xBB\xBF; a remark\r\n\r\n\tserver = host # mine\r\nweb-site='a;\"b' ; x");
+  EXPECT_EQ(readSettings(scratch.folder()).server, "host");
+  EXPECT_EQ(readSettings(scratch.folder()).webSite, "a;\"b");
+}
+
+TEST(Settings, ComeFromTheServerOnlyWhereOneIsSet) {
+  for (const auto& [text, source] : std::initializer_list<std::pair<const char*, Settings::Source>>{
+           {"", Settings::Source::publicExports},
+           {"server=\"\"\n", Settings::Source::publicExports},
+           {"server=host\n", Settings::Source::server},
+           {"server=127.0.0.1:2121\n", Settings::Source::publicExports},
+           {"source=server\nserver=127.0.0.1:2121\n", Settings::Source::server},
+           {"server=host\nsource=public\npowerball-draws=\"\"", Settings::Source::publicExports}}) {
+    EXPECT_EQ(settingsFrom(text).source, source) << text;
+    EXPECT_EQ(settingsFrom(text).powerBallDraws, powerBallExport);
+  }
+}
+
+TEST(Settings, ALineThatCannotBeUnderstoodIsNamedRatherThanIgnored) {
   const ScratchFolder scratch;
   for (const auto& [text, complaint] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"tls=requird\n", "tallywick.ini: tls is \"requird\"; it can be off or required"},
-           {"web-site=http://x/?a=1,2\n",
-            "tallywick.ini: web-site has a value with blanks or commas; put it between double quotes"},
-           {"servr=host\n", "tallywick.ini: there is no setting \"servr\""}}) {
+           {"tls=requird", "1: tls is \"requird\"; it can be off or required"},
+           {"\nsource=ftp", "2: source is \"ftp\"; it can be public or server"},
+           {"mega-millions-draws=file:///x",
+            "1: mega-millions-draws is \"file:///x\"; it can be an address that begins with https://"},
+           {"web-site=http://x/?a=1,2",
+            "1: web-site has a value with a comma, a semicolon or a quote; put it between double quotes"},
+           {"server=a b", "1: server has a value with blanks; put it between double quotes"},
+           {"server=\"a", "1: the value of server has no closing quote"},
+           {"server=\"a\"b\"", "1: there is more behind the closing quote of server"},
+           {"tls=off\nserver", "2: server has no value"},
+           {"server= ; none\n", "1: server has no value"},
+           {"servr=host", "1: there is no setting \"servr\""},
+           {"a.server=host", "1: there is no setting \"a.server\""},
+           {"[a]\nserver=host", "1: there are no sections in this file"},
+           {"server=a\ntls=off\nserver=b", "3: server is set a second time"}}) {
     scratch.write(settingsFile, text);
     try {
       readSettings(scratch.folder());
       ADD_FAILURE() << text;
     } catch (const std::invalid_argument& error) {
-      EXPECT_STREQ(error.what(), complaint);
+      EXPECT_EQ(error.what(), join((scratch.root() / settingsFile).string(), ", line ", complaint));
     }
   }
-  EXPECT_THROW(writeSettings(scratch.folder(), {"a\"b", Settings::Tls::off, "", ""}), std::invalid_argument);
 }
 
 TEST(DataFolderChoice, GoesFromTheCommandLineDownToTheUsersFolder) {
@@ -58,6 +98,29 @@ TEST(DataFolderChoice, GoesFromTheCommandLineDownToTheUsersFolder) {
   EXPECT_EQ(chooseDataFolder("/named"), "/named");
   for (const char* name : {"TALLYWICK_FOLDER", "XDG_DATA_HOME"}) ::unsetenv(name);
   std::filesystem::current_path(before);
+}
+
+TEST(DataFolderChoice, NeedsTheWorkingFolderForARelativeNameOnly) {
+  namespace fs = std::filesystem;
+  const fs::path before = fs::current_path();
+  const ScratchFolder scratch;
+  const fs::path removed = scratch.root() / "removed";
+  fs::create_directory(removed);
+  fs::current_path(removed);
+  fs::remove(removed);
+  EXPECT_EQ(chooseDataFolder("/named"), "/named");
+  EXPECT_NO_THROW(chooseDataFolder(""));
+  EXPECT_THROW(chooseDataFolder("named"), RuntimeError);
+  fs::current_path(before);
+}
+
+TEST(ProgramRun, WhatEscapesAProgramBecomesAMessageAndAnExitCode) {
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(runToItsEnd("tallywick", [] { return 3; }), 3);
+  EXPECT_EQ(runToItsEnd("tallywick", []() -> int { throw RuntimeError(ErrorNumber::diskFull, "file"); }), 1);
+  EXPECT_EQ(runToItsEnd("tallywick", []() -> int { throw 7; }), 1);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "tallywick: Disk full: file\ntallywick: Internal error\n");
 }
 
 TEST(ProgramStart, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {

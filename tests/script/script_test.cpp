@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The lines that a script may not have.
 #include "support/record_book.h"
+#include "ui/script/program.h"
 #include "ui/script/script_run.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -56,6 +58,24 @@ TEST(Script, ALineThatCannotBeUnderstoodIsNumbered) {
     EXPECT_EQ(outputOf(std::string("windows\r\n") + line),
               std::string("{\"windows\":[\"Form1\"]}\n!line 2: ") + complaint);
   }
+}
+
+TEST(Program, EndsWithTwoWhereItsFolderOrItsSettingsAreNoUse) {
+  const test::ScratchFolder scratch;
+  const auto complaintOn = [](std::string folder) {
+    std::string name = "tallywick-script";
+    std::string option = "--folder";
+    std::array<char*, 3> arguments = {name.data(), option.data(), folder.data()};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(runProgram(3, arguments.data()), 2);
+    return testing::internal::GetCapturedStderr();
+  };
+  const std::string nowhere = (scratch.root() / "nowhere").string();
+  EXPECT_EQ(complaintOn(nowhere), "tallywick-script: there is no record book in " + nowhere + "\n");
+  scratch.write("tallywick.ini", "tls=off\n[more]\n");
+  EXPECT_EQ(complaintOn(scratch.root().string()),
+            "tallywick-script: " + (scratch.root() / "tallywick.ini").string() +
+                ", line 2: there are no sections in this file\n");
 }
 
 }  // namespace

@@ -39,10 +39,13 @@ void openHelp(const DataFolder& folder, const QString& page) {
 }
 
 void editSettings(Application& application, QtPlatform& platform) {
-  SettingsDialog dialog(application.settings(), QApplication::activeWindow());
-  if (dialog.exec() != QDialog::Accepted) return;
+  const DataFolder& folder = application.surroundings().folder;
   try {
-    writeSettings(application.surroundings().folder, dialog.settings());
+    // A file that cannot be understood is not overwritten.
+    application.setSettings(readSettings(folder));
+    SettingsDialog dialog(application.settings(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted) return;
+    writeSettings(folder, dialog.settings());
     application.setSettings(dialog.settings());
   } catch (const std::exception& error) {
     platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});

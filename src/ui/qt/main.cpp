@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/os.h"
+#include "core/program_run.h"
 #include "ui/qt/program.h"
 
 int main(int argumentCount, char** arguments) {
-  tallywick::os::reportSizeLimit();
-  return tallywick::runProgram(argumentCount, arguments);
+  return tallywick::runToItsEnd("tallywick", [&] { return tallywick::runProgram(argumentCount, arguments); });
 }

@@ -5,6 +5,7 @@
 #include "ui/qt/wording.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -15,6 +16,9 @@ namespace tallywick {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString exportExplanation =
+    u"The web address of the game's public export; empty for that of the state of New York's open data."_s;
 
 /// A field with its explanation close below it.
 void addField(QFormLayout& form, const QString& label, QWidget& field, const QString& explanation) {
@@ -30,14 +34,27 @@ void addField(QFormLayout& form, const QString& label, QWidget& field, const QSt
   field.setAccessibleDescription(explanation);
 }
 
+std::string textOr(std::string_view whenEmpty, const QLineEdit& edit) {
+  const std::string text = toText(edit.text().trimmed());
+  return text.empty() ? std::string(whenEmpty) : text;
+}
+
 }  // namespace
 
 SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
-    : QDialog(parent), tls_(new QCheckBox(u"Only with &encryption"_s)) {
+    : QDialog(parent), source_(new QComboBox), tls_(new QCheckBox(u"Only with &encryption"_s)) {
   setWindowTitle(u"Settings"_s);
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::pageMargin);
+  source_->addItem(u"Public exports of draws"_s);
+  source_->addItem(u"An update server"_s);
+  source_->setCurrentIndex(settings.source == Settings::Source::server ? 1 : 0);
+  addField(*form, u"Updates &come from:"_s, *source_,
+           u"So far an update always needs a server; with public exports it uses the one below."_s);
+  powerBallDraws_ = addText(*form, u"&PowerBall draws:"_s, settings.powerBallDraws, exportExplanation);
+  megaMillionsDraws_ =
+      addText(*form, u"&Mega Millions draws:"_s, settings.megaMillionsDraws, exportExplanation);
   server_ = addText(*form, u"&Update server:"_s, settings.server,
                     u"Its name or address, with a colon and a port where that is not 21."_s);
   tls_->setChecked(settings.tls == Settings::Tls::required);
@@ -52,7 +69,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   column->addLayout(form);
   column->addStretch();
   column->addWidget(buttons);
-  resize(60 * theme::gap, sizeHint().height());
+  resize(72 * theme::gap, sizeHint().height());
 }
 
 QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, const std::string& value,
@@ -66,6 +83,9 @@ QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, cons
 
 Settings SettingsDialog::settings() const {
   Settings settings;
+  settings.source = source_->currentIndex() == 1 ? Settings::Source::server : Settings::Source::publicExports;
+  settings.powerBallDraws = textOr(powerBallExport, *powerBallDraws_);
+  settings.megaMillionsDraws = textOr(megaMillionsExport, *megaMillionsDraws_);
   settings.server = toText(server_->text().trimmed());
   settings.tls = tls_->isChecked() ? Settings::Tls::required : Settings::Tls::off;
   settings.webSite = toText(webSite_->text().trimmed());

@@ -2,11 +2,12 @@
 // The settings, each with a line that explains it.
 #pragma once
 
-#include "app/settings.h"
+#include "settings/settings.h"
 
 #include <QDialog>
 
 class QCheckBox;
+class QComboBox;
 class QFormLayout;
 class QLineEdit;
 
@@ -22,6 +23,9 @@ class SettingsDialog : public QDialog {
   QLineEdit* addText(QFormLayout& form, const QString& label, const std::string& value,
                      const QString& explanation);
 
+  QComboBox* source_;
+  QLineEdit* powerBallDraws_;
+  QLineEdit* megaMillionsDraws_;
   QLineEdit* server_;
   QCheckBox* tls_;
   QLineEdit* webSite_;

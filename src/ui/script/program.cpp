@@ -20,6 +20,7 @@ struct Options {
   std::string folder;
   std::string now;
   std::uint64_t seed = entropy();
+  std::string source;
   std::string server;
   std::string script;
 };
@@ -30,7 +31,11 @@ void declare(CLI::App& line, Options& options) {
   line.add_option("--now", options.now, "Sets the clock, which then stands still")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
   line.add_option("--seed", options.seed, "Makes Quick Pick repeatable")->type_name("N");
-  line.add_option("--server", options.server, "The update server, in the place of the settings' one")
+  line.add_option("--source", options.source, "Where updates come from, in the place of the settings' source")
+      ->type_name("public|server")
+      ->check(CLI::IsMember({"public", "server"}));
+  line.add_option("--server", options.server,
+                  "The update server, in the place of the settings' source and server")
       ->type_name("HOST[:PORT]");
   line.add_option("script", options.script, "The file with the script's lines; standard input without one")
       ->type_name("SCRIPT");
@@ -71,7 +76,7 @@ int runLines(Application& application, ScriptPlatform& platform, SettableClock& 
 
 int run(const Options& options) {
   const DataFolder folder(chooseDataFolder(options.folder));
-  if (!isDataFolder(folder.root())) complain(folder.root().string() + " holds no record book");
+  if (!isDataFolder(folder.root())) return complain("there is no record book in " + folder.root().string());
   SettableClock clock;
   if (!options.now.empty() && !clock.set(options.now)) return complain("--now takes \"MM-DD-YYYY HH:MM:SS\"");
   std::ifstream file;
@@ -81,7 +86,11 @@ int run(const Options& options) {
       return complain(options.script + " cannot be read");
   }
   Settings settings = readSettings(folder);
-  if (!options.server.empty()) settings.server = options.server;
+  if (!options.server.empty()) {
+    settings.server = options.server;
+    settings.source = Settings::Source::server;
+  }
+  if (!options.source.empty()) settings.source = sourceNamed(options.source);
   ScriptPlatform platform(std::cout, folder);
   MixingGenerator random(options.seed);
   Application application({folder, settings, clock, random, platform, {}});
