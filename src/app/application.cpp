@@ -13,6 +13,14 @@ namespace tallywick {
 
 Application::Application(Surroundings surroundings) : surroundings_(std::move(surroundings)) {}
 
+Application::~Application() {
+  try {
+    closeAll();
+  } catch (const std::exception&) {
+    // The program ends; there is nobody left to be told.
+  }
+}
+
 void Application::showSplash() {
   open(std::make_unique<SplashForm>());
 }
@@ -102,13 +110,17 @@ void Application::openSelection(const GameInfo& game) {
 }
 
 void Application::exit() {
+  closeAll();
+  surroundings_.platform.endProgram();
+}
+
+void Application::closeAll() {
   main_ = nullptr;
   while (!windows_.empty()) {
     surroundings_.platform.closeWindow(*windows_.back());
     closed_.push_back(std::move(windows_.back()));
     windows_.pop_back();
   }
-  surroundings_.platform.endProgram();
 }
 
 template <typename Window>
@@ -134,10 +146,10 @@ void Application::showSystemInformation() {
     const std::string folder =
         platform.registryValue(R"(SOFTWARE\Microsoft\Shared Tools Location)", "MSINFO");
     if (!folder.empty()) program = folder + R"(\MSINFO32.EXE)";
-    if (!platform.fileExists(program)) program.clear();
   }
   try {
-    if (program.empty()) throw RuntimeError(ErrorNumber::fileNotFound);
+    // A path left behind by a removed program, or one with a variable in it, leads to no file.
+    if (program.empty() || !platform.fileExists(program)) throw RuntimeError(ErrorNumber::fileNotFound);
     platform.start(program, "");
   } catch (const RuntimeError&) {
     platform.show({"System Information Is Unavailable At This Time", std::string(programTitle)});

@@ -4,13 +4,13 @@
 
 #include "app/main_form.h"
 #include "app/platform.h"
-#include "settings/settings.h"
 #include "app/small_windows.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/games.h"
 #include "core/random.h"
 #include "selection/selection_form.h"
+#include "settings/settings.h"
 #include "update/update_procedure.h"
 
 #include <array>
@@ -37,6 +37,10 @@ struct Surroundings {
 class Application {
  public:
   explicit Application(Surroundings surroundings);
+  /// Closes the windows that are still open, before the forms that they show go.
+  ~Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
 
   /// Shows the splash window; its timer is the binding's and calls splashTimer().
   void showSplash();
@@ -63,6 +67,7 @@ class Application {
  private:
   template <typename Window>
   Window& open(std::unique_ptr<Window> window);
+  void closeAll();
   /// Finishes what a crash, of this program or of another on the same folder, cut short.
   void recover() const;
   /// Shows what the recoveries could not finish.

@@ -76,10 +76,13 @@ TEST(SystemInformation, IsFoundByTwoKeysOrReportedAsMissing) {
   EXPECT_EQ(pressed(), "");
   EXPECT_EQ(test.platform.boxes.shown.back().text, "System Information Is Unavailable At This Time");
   test.platform.registry[R"(SOFTWARE\Microsoft\Shared Tools Location:MSINFO)"] = R"(C:\Shared)";
-  EXPECT_EQ(pressed(), "") << "the file does not stand";
+  EXPECT_EQ(pressed(), "") << "the file does not exist";
   test.platform.existingFile = R"(C:\Shared\MSINFO32.EXE)";
   EXPECT_EQ(pressed(), R"(C:\Shared\MSINFO32.EXE)");
   test.platform.registry[R"(SOFTWARE\Microsoft\Shared Tools\MSINFO:PATH)"] = R"(C:\Info\msinfo32.exe)";
+  EXPECT_EQ(pressed(), R"(C:\Shared\MSINFO32.EXE)") << "the first key leads to no file";
+  EXPECT_EQ(test.platform.boxes.shown.size(), 3U);
+  test.platform.existingFile = R"(C:\Info\msinfo32.exe)";
   EXPECT_EQ(pressed(), R"(C:\Info\msinfo32.exe)");
 }
 
