@@ -20,6 +20,11 @@ TEST_F(Selection, MarksThatNoPressMakesAreRefusedOrTakenOff) {
   EXPECT_EQ(marks(), "05 11 [52] ");
   press("52");
   EXPECT_EQ(marks(), "05 11 ");
+  // A fifth mark makes a play where it is an extra one up to 55, though no press marks 27 to 55 so.
+  select("33 42", "55");
+  EXPECT_EQ(get("7.Ply"), records({"11-21-2026,05,11,33,42,55,55,1101110"}));
+  select("05 11 12 33", "56");
+  EXPECT_EQ(boxes.shown.back().text, "Six Numbers Must Be Selected...");
   form->Label1.setCaption("odd");
   form->Command4.setEnabled(true);
   press("Command4");
