@@ -59,7 +59,7 @@ void check(std::string_view journal) {
     const std::string name = game + letter;
     const std::string before = startingFiles().at(name);
     require(files.contains(name), "no file of the folder is lost");
-    const std::string now = files.at(name);
+    const std::string& now = files.at(name);
     require(now == before || now == startingFiles().at(name + ".tw~"),
             "a file is the old one or the new one");
   }

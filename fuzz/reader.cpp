@@ -61,7 +61,7 @@ class PlainReader {
   }
 
   std::string takeUntil(std::string_view ends) {
-    const std::string taken(rest_.substr(0, rest_.find_first_of(ends)));
+    std::string taken(rest_.substr(0, rest_.find_first_of(ends)));
     rest_.remove_prefix(taken.size());
     return taken;
   }

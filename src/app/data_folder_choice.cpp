@@ -30,7 +30,7 @@ fs::path chooseDataFolder(const std::string& named) {
     return seenFromHere(folder);
   }
   std::error_code error;
-  const fs::path here = fs::current_path(error);
+  fs::path here = fs::current_path(error);
   if (!error && isDataFolder(here)) return here;
   return os::userDataFolder();
 }

@@ -83,7 +83,7 @@ fs::path driveFolder(const fs::path& tree) {
 /// Makes `folder / spelling` the same folder as `made`: it is already where the letter case counts for
 /// nothing, else by a link that stays within the tree, else by a second folder.
 fs::path spelledAlso(const fs::path& made, std::string_view spelling) {
-  const fs::path other = made.parent_path() / spelling;
+  fs::path other = made.parent_path() / spelling;
   std::error_code noLinks;
   if (!fs::exists(other)) fs::create_directory_symlink(made.filename(), other, noLinks);
   fs::create_directories(other);

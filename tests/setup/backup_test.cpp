@@ -79,7 +79,7 @@ TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {
   backUp(book, zip);
   const auto before = filesOf(book);
   const auto archiveWith = [&](const char* name) {
-    const fs::path file = holder / "odd.zip";
+    fs::path file = holder / "odd.zip";
     fs::copy_file(zip, file, fs::copy_options::overwrite_existing);
     zip_t* archive = zip_open(file.c_str(), 0, nullptr);
     zip_file_add(archive, name, zip_source_buffer(archive, "x", 1, 0), 0);

@@ -92,7 +92,7 @@ std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   }
   QSettings settings;
   const fs::path last = pathOf(settings.value(lastFolderKey).toString());
-  const std::optional<fs::path> found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
+  std::optional<fs::path> found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
   if (found) settings.setValue(lastFolderKey, shown(*found));
   return found;
 }
