@@ -87,20 +87,6 @@ class Update : public testing::Test, public MessageBoxes, public Screen, public 
   std::vector<std::string> log;
 };
 
-TEST_F(Update, IsRefusedUpToSevenInTheMorning) {
-  for (const char* time : {"00:00:00", "07:00:00"}) {
-    clock = StandingClock("11-21-2026", time);
-    EXPECT_EQ(run(Command2_Click), 0);
-  }
-  EXPECT_EQ(log[1],
-            "box ! The Tallywick Software servers are unavailable,\r\n"
-            "Please retry your request after 07:00 AM EST");
-  EXPECT_TRUE(log.size() == 2 && page.Command2.visible() && mnuPowerBall2.enabled());
-  clock = StandingClock("11-21-2026", "00:00:00");
-  EXPECT_EQ(run(mnuPowerBall2_Click), 0);
-  EXPECT_GT(log.size(), 3U) << "a single game is updated at any time";
-}
-
 TEST_F(Update, OfBothGamesGoesThroughItsSteps) {
   EXPECT_EQ(run(Command2_Click), 0);
   EXPECT_EQ(log, (std::vector<std::string>{
