@@ -2,14 +2,15 @@
 #include "exports/export_rows.h"
 
 #include "core/eras.h"
-#include "core/os.h"
 #include "core/text.h"
-#include "exports/csv_table.h"
+#include "exports/csv_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <set>
 #include <stdexcept>
+#include <utility>
 
 namespace tallywick::exports {
 
@@ -26,8 +27,29 @@ template <typename... Pieces>
   throw Refusal(join(pieces...));
 }
 
-std::size_t needed(const CsvTable& table, std::initializer_list<std::string_view> names) {
-  const auto column = table.column(names);
+/// At most `most` characters of `text`, with what a terminal would not show as a hexadecimal number.
+std::string visible(std::string_view text, std::size_t most) {
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  std::string shown;
+  for (const char letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (byte >= ' ' && byte < 0x7F) {
+      shown += letter;
+    } else {
+      shown.append("\\x").append(1, digits[byte >> 4U]).append(1, digits[byte & 15U]);
+    }
+    if (shown.size() > most) return shown.substr(0, most - 3).append("...");
+  }
+  return shown;
+}
+
+/// A field as a refusal quotes it.
+std::string quoted(std::string_view field) {
+  return join("\"", visible(field, 32), "\"");
+}
+
+std::size_t needed(const CsvReader& rows, std::initializer_list<std::string_view> names) {
+  const auto column = rows.column(names);
   if (!column) throw std::runtime_error(join("there is no column \"", *names.begin(), "\""));
   return *column;
 }
@@ -36,7 +58,7 @@ int numberOf(std::string_view text) {
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (text.empty() || error != std::errc() || end != text.data() + text.size()) {
-    refuse("\"", text, "\" is no number");
+    refuse(quoted(text), " is no number");
   }
   return number;
 }
@@ -56,20 +78,6 @@ void requireRange(int number, int highest, std::string_view what) {
   refuse(what, " ", std::to_string(number), " is not from 1 to ", std::to_string(highest));
 }
 
-/// The balls of a draw by the game's rules on its day; the last number is the extra ball.
-Balls ballsOf(std::vector<int> numbers, const Matrix& matrix) {
-  if (numbers.size() != 6) refuse(std::to_string(numbers.size()), " numbers instead of 6");
-  Balls balls{};
-  balls.extra = numbers.back();
-  std::sort(numbers.begin(), numbers.end() - 1);
-  std::copy_n(numbers.begin(), balls.white.size(), balls.white.begin());
-  for (int white : balls.white) requireRange(white, matrix.white, "the white ball");
-  const auto twice = std::ranges::adjacent_find(balls.white);
-  if (twice != balls.white.end()) refuse("the white ball ", std::to_string(*twice), " stands twice");
-  requireRange(balls.extra, matrix.extra, "the extra ball");
-  return balls;
-}
-
 /// The multiplier without a leading zero; "1" where there was none.
 std::string multiplierOf(std::string_view text) {
   if (text.empty()) return "1";
@@ -80,17 +88,17 @@ std::string multiplierOf(std::string_view text) {
 
 Day dayOfRow(std::string_view text) {
   const std::optional<Day> day = parseDay(text);
-  if (!day) refuse("\"", text, "\" is no date (MM/DD/YYYY)");
+  if (!day) refuse(quoted(text), " is no date (MM/DD/YYYY)");
   return *day;
 }
 
 struct DrawColumns {
-  DrawColumns(Game game, const CsvTable& table)
-      : date(needed(table, {"Draw Date", "Date"})),
-        numbers(needed(table, {"Winning Numbers"})),
-        multiplier(needed(table, {"Multiplier"})) {
-    if (game == Game::megaMillions) extra = needed(table, {"Mega Ball"});
-    if (game == Game::powerBall) doublePlay = table.column({"Double Play Winning Numbers"});
+  DrawColumns(Game game, const CsvReader& rows)
+      : date(needed(rows, {"Draw Date", "Date"})),
+        numbers(needed(rows, {"Winning Numbers"})),
+        multiplier(needed(rows, {"Multiplier"})) {
+    if (game == Game::megaMillions) extra = needed(rows, {"Mega Ball"});
+    if (game == Game::powerBall) doublePlay = rows.column({"Double Play Winning Numbers"});
   }
 
   std::size_t date;
@@ -100,32 +108,47 @@ struct DrawColumns {
   std::optional<std::size_t> doublePlay;
 };
 
-DrawEntry drawOfRow(Game game, const DrawColumns& columns, const CsvTable::Row& row) {
-  DrawEntry draw{dayOfRow(row.field(columns.date)), {}};
-  const std::optional<Matrix> matrix = matrixOn(game, draw.day);
-  if (!matrix) refuse("the game was not drawn yet on ", displayDate(draw.day));
+DrawEntry drawOfRow(Game game, Day day, const DrawColumns& columns, const CsvReader::Row& row,
+                    std::string& notice) {
   std::vector<int> numbers = numbersOf(row.field(columns.numbers));
   if (columns.extra) numbers.push_back(numberOf(row.field(*columns.extra)));
-  draw.balls = ballsOf(std::move(numbers), *matrix);
+  DrawEntry draw{day, checkedBalls(game, day, std::move(numbers), notice)};
   draw.multiplier = multiplierOf(row.field(columns.multiplier));
   if (columns.doublePlay && !row.field(*columns.doublePlay).empty()) {
-    draw.doublePlay = ballsOf(numbersOf(row.field(*columns.doublePlay)), *matrix);
+    draw.doublePlay = checkedBalls(game, day, numbersOf(row.field(*columns.doublePlay)), notice);
   }
   return draw;
 }
 
-/// Gives each row to `take`, and keeps those that it refuses.
+/// Takes note of a refused row.
+void addRefused(RefusedRows& refused, RefusedRow row, std::optional<Day> day) {
+  ++refused.count;
+  if (day && (!refused.newestDay || *day > *refused.newestDay)) {
+    refused.newestDay = day;
+    refused.newest = row;
+  }
+  if (refused.first.size() < RefusedRows::mostKept) refused.first.push_back(std::move(row));
+}
+
+/// Gives each row with its day to `take`, and keeps those that it refuses. A row that `take` returns false
+/// for is passed over.
 template <typename Take>
-std::vector<RefusedRow> takeRows(const CsvTable& table, Take take) {
-  std::vector<RefusedRow> refused;
+RefusedRows takeRows(Game game, CsvReader& rows, std::size_t dateColumn, Day today, Take take) {
+  RefusedRows refused;
   std::set<Day> days;
-  for (const CsvTable::Row& row : table.rows()) {
+  CsvReader::Row row;
+  while (rows.next(row)) {
+    std::optional<Day> day;
     try {
-      take(row, [&](Day day) {
-        if (!days.insert(day).second) refuse("a second row for ", displayDate(day));
-      });
-    } catch (const Refusal& refusal) {
-      refused.push_back({row.line, refusal.what()});
+      const Day date = dayOfRow(row.field(dateColumn));
+      if (date > today) refuse(displayDate(date), " is later than today, ", displayDate(today));
+      day = date;
+      if (row.isCut) refuse("the row has an opening quote and no closing one");
+      if (!matrixOn(game, date)) refuse("the game was not drawn yet on ", displayDate(date));
+      if (days.contains(date)) refuse("a second row for ", displayDate(date));
+      if (take(row, date)) days.insert(date);
+    } catch (const std::runtime_error& refusal) {
+      addRefused(refused, {row.line, visible(refusal.what(), 80)}, day);
     }
   }
   return refused;
@@ -133,35 +156,64 @@ std::vector<RefusedRow> takeRows(const CsvTable& table, Take take) {
 
 }  // namespace
 
-ImportedDraws importDraws(Game game, const CsvTable& table) {
-  ImportedDraws imported;
-  const DrawColumns columns(game, table);
-  imported.refused = takeRows(table, [&](const CsvTable::Row& row, auto once) {
-    DrawEntry draw = drawOfRow(game, columns, row);
-    once(draw.day);
-    imported.draws.push_back(std::move(draw));
-  });
-  std::ranges::sort(imported.draws, std::greater(), &DrawEntry::day);
-  return imported;
+Balls checkedBalls(Game game, Day day, std::vector<int> numbers, std::string& notice) {
+  if (numbers.size() != 6) refuse(std::to_string(numbers.size()), " numbers instead of 6");
+  const Matrix known = matrixOn(game, day).value();
+  const bool mayHaveChanged = day >= erasOf(game).back().from;
+  const Matrix matrix = mayHaveChanged ? Matrix{99, 99} : known;
+  Balls balls{};
+  balls.extra = numbers.back();
+  std::sort(numbers.begin(), numbers.end() - 1);
+  std::copy_n(numbers.begin(), balls.white.size(), balls.white.begin());
+  for (int white : balls.white) requireRange(white, matrix.white, "the white ball");
+  const auto twice = std::ranges::adjacent_find(balls.white);
+  if (twice != balls.white.end()) refuse("the white ball ", std::to_string(*twice), " occurs twice");
+  requireRange(balls.extra, matrix.extra, "the extra ball");
+  if (balls.white.back() > known.white || balls.extra > known.extra) {
+    notice = join(displayDate(day), " has a number beyond ", std::to_string(known.white), " or ",
+                  std::to_string(known.extra), ": the game's rules seem to have changed");
+  }
+  return balls;
 }
 
-ImportedAmounts importAmounts(const CsvTable& table) {
-  ImportedAmounts imported;
-  const std::size_t date = needed(table, {"Draw Date", "Date"});
-  const std::size_t amount = needed(table, {"Amount"});
-  const std::size_t marks = needed(table, {"Mark Count", "Marks"});
-  imported.refused = takeRows(table, [&](const CsvTable::Row& row, auto once) {
-    const Day day = dayOfRow(row.field(date));
+ExportedDraws readDraws(Game game, CsvReader& rows, Day today) {
+  ExportedDraws exported;
+  const DrawColumns columns(game, rows);
+  std::optional<Day> firstNew;
+  std::string firstNotice;
+  exported.refused = takeRows(game, rows, columns.date, today, [&](const CsvReader::Row& row, Day day) {
+    std::string notice;
+    exported.draws.push_back(drawOfRow(game, day, columns, row, notice));
+    if (!notice.empty() && (!firstNew || day < *firstNew)) {
+      firstNew = day;
+      firstNotice = std::move(notice);
+    }
+    return true;
+  });
+  if (firstNew) exported.notices.push_back(std::move(firstNotice));
+  std::ranges::sort(exported.draws, std::greater(), &DrawEntry::day);
+  return exported;
+}
+
+ExportedAmounts readAmounts(Game game, CsvReader& rows, Day today) {
+  ExportedAmounts exported;
+  const std::size_t date = needed(rows, {"Draw Date", "Date"});
+  const std::size_t amount = needed(rows, {"Amount"});
+  const std::size_t marks = needed(rows, {"Mark Count", "Marks"});
+  exported.refused = takeRows(game, rows, date, today, [&](const CsvReader::Row& row, Day day) {
     const std::string_view text = row.field(amount);
-    if (text.find_first_of("\"\r\n") != std::string_view::npos)
-      refuse("the amount holds a quote or a line end");
+    const auto isUnfit = [](char letter) {
+      return letter == '"' || static_cast<unsigned char>(letter) < ' ';
+    };
+    if (std::ranges::any_of(text, isUnfit)) refuse("the amount contains a quote or a control character");
     const std::string_view count = row.field(marks);
     const int number = count.empty() ? 0 : numberOf(count);
-    once(day);
-    imported.amounts.push_back({day, std::string(text), number});
+    if (text.empty()) return false;
+    exported.amounts.push_back({day, std::string(text), number});
+    return true;
   });
-  std::ranges::sort(imported.amounts, std::greater(), &AmountEntry::day);
-  return imported;
+  std::ranges::sort(exported.amounts, std::greater(), &AmountEntry::day);
+  return exported;
 }
 
 std::vector<Day> missingDraws(Game game, const std::vector<DrawEntry>& draws) {

@@ -1,43 +1,63 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Real draws and amounts from public exports.
+// The rows of public exports: draws and amounts that are taken over, and rows that are refused.
 #pragma once
 
 #include "core/games.h"
 #include "exports/entries.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tallywick::exports {
 
-class CsvTable;
+class CsvReader;
 
-/// A row that is not taken over, and why.
+/// A row that is not taken over, and why: at most 80 characters, all of them visible.
 struct RefusedRow {
   std::size_t line;
   std::string reason;
 };
 
-struct ImportedDraws {
+struct RefusedRows {
+  /// So many are kept, the others only counted.
+  static constexpr std::size_t mostKept = 20;
+
+  std::vector<RefusedRow> first;
+  std::size_t count = 0;
+  /// The newest one that has a date not later than today.
+  std::optional<Day> newestDay;
+  RefusedRow newest = {};
+};
+
+struct ExportedDraws {
   /// Newest first.
   std::vector<DrawEntry> draws;
-  std::vector<RefusedRow> refused;
+  RefusedRows refused;
+  /// What has been taken over although it is new to the program.
+  std::vector<std::string> notices;
 };
 
-struct ImportedAmounts {
+struct ExportedAmounts {
+  /// Newest first.
   std::vector<AmountEntry> amounts;
-  std::vector<RefusedRow> refused;
+  RefusedRows refused;
 };
 
-/// Takes the columns "Draw Date", "Winning Numbers", "Multiplier" and, where they are there, "Mega Ball" and
+/// Takes the columns "Draw Date", "Winning Numbers", "Multiplier" and, where they exist, "Mega Ball" and
 /// "Double Play Winning Numbers". White balls are put in ascending order; the extra ball is the sixth number,
-/// or the Mega Ball. Rows that hold no draw by the game's rules on their day are refused. std::runtime_error
-/// where a column is missing.
-ImportedDraws importDraws(Game game, const CsvTable& table);
+/// or the Mega Ball. Rows that contain no draw by the game's rules on their day, and days before the game
+/// began or after `today`, are refused. Since the last known change of the rules numbers up to 99 are taken,
+/// with a notice. std::runtime_error where a column is missing or a row is too long.
+ExportedDraws readDraws(Game game, CsvReader& rows, Day today);
 
-/// Takes the columns "Draw Date", "Amount" and "Mark Count".
-ImportedAmounts importAmounts(const CsvTable& table);
+/// Takes the columns "Draw Date", "Amount" and "Mark Count". A row with a blank amount is passed over.
+ExportedAmounts readAmounts(Game game, CsvReader& rows, Day today);
+
+/// The balls of a draw on `day`, five white ones and the extra ball, in the order of the files.
+/// std::runtime_error where the rules of that day do not allow them; `notice` is set where they are new.
+Balls checkedBalls(Game game, Day day, std::vector<int> numbers, std::string& notice);
 
 /// The scheduled draws between the oldest and the newest of `draws` that are not among them, oldest first.
 std::vector<Day> missingDraws(Game game, const std::vector<DrawEntry>& draws);

@@ -1,25 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reading export files, and what the user is told about them.
+// Reading export files, and what the user is told about a merge.
 #pragma once
 
 #include "core/games.h"
-#include "exports/entries.h"
+#include "exports/merge.h"
 
 #include <filesystem>
 #include <iosfwd>
-#include <vector>
 
 namespace tallywick::exports {
 
-/// Newest first.
-struct ExportedGame {
-  std::vector<DrawEntry> draws;
-  std::vector<AmountEntry> amounts;
-};
+/// Reads an export file in pieces. std::runtime_error with the file's name where it cannot be used at all.
+ExportedDraws readDrawsFile(Game game, const std::filesystem::path& file, Day today);
+ExportedAmounts readAmountsFile(Game game, const std::filesystem::path& file, Day today);
 
-/// Reads the exports of a game and reports what was taken, refused and is missing. `amounts` may be empty.
-/// std::runtime_error where a file cannot be used at all.
-ExportedGame readExports(Game game, const std::filesystem::path& draws, const std::filesystem::path& amounts,
-                         std::ostream& out);
+/// Prints what was new, changed, refused and is missing, each line behind two blanks. Long lists are cut: at
+/// most twenty refused rows, and more than twenty missing draws as ranges, of which at most twenty are
+/// printed.
+void print(const MergeReport& report, Game game, std::ostream& out);
 
 }  // namespace tallywick::exports

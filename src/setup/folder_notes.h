@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The README of a data folder: what is in it and what of it is made up.
+// The README of a data folder: what is in it and what of it may be made up.
 #pragma once
 
 #include <string>
 
 namespace tallywick::setup {
 
-struct FolderContents;
-
-std::string folderNotes(const FolderContents& contents);
+std::string folderNotes();
 
 }  // namespace tallywick::setup

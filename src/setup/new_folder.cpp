@@ -5,7 +5,8 @@
 #include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/text.h"
-#include "exports/record_texts.h"
+#include "exports/made_up.h"
+#include "exports/merge.h"
 #include "settings/settings.h"
 #include "setup/ball_picture.h"
 #include "setup/folder_notes.h"
@@ -21,7 +22,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The files of one folder, made together. A file that stands already and is not to be replaced stays.
+bool isThere(const fs::path& entry) {
+  std::error_code ignored;
+  // A link that leads nowhere has its name all the same.
+  return fs::symlink_status(entry, ignored).type() != fs::file_type::not_found;
+}
+
+/// The files of one folder, made together.
 class FolderFiles {
  public:
   FolderFiles(const fs::path& root, std::string_view written) : folder_(DataFolder(root).resolve(written)) {
@@ -29,10 +36,13 @@ class FolderFiles {
     commit_.emplace(folder_);
   }
 
-  void replace(std::string_view name, std::string_view contents) { commit_->stage(name, contents); }
-  bool lacks(std::string_view name) const { return !fs::exists(entryInAnyCase(folder_, name)); }
-  void add(std::string_view name, std::string_view contents) {
-    if (lacks(name)) replace(name, contents);
+  const fs::path& folder() const { return folder_; }
+  void replace(std::string_view name, std::string_view contents, os::Access access = os::Access::usual) {
+    commit_->stage(name, contents, access);
+  }
+  bool lacks(std::string_view name) const { return !isThere(entryInAnyCase(folder_, name)); }
+  void add(std::string_view name, std::string_view contents, os::Access access = os::Access::usual) {
+    if (lacks(name)) replace(name, contents, access);
   }
   void commit() { commit_->commit(); }
 
@@ -42,17 +52,17 @@ class FolderFiles {
 };
 
 void stageDraws(FolderFiles& files, const FolderContents::Part& part) {
-  const GameInfo& game = infoOf(part.game);
-  const std::string draws = exports::drawsText(part.book.draws);
-  files.replace(drawsFile, draws);
-  files.replace(searchDrawsFile, draws);
-  if (part.game == Game::powerBall) files.replace(doublePlayFile, exports::doublePlayText(part.book.draws));
-  files.replace(game.winningsFile, exports::winningsText(part.book.amounts, part.book.draws));
+  const exports::GameFiles before = exports::readGameFiles(infoOf(part.game), files.folder());
+  for (const exports::NewFile& file :
+       exports::mergeInto(part.game, part.book.draws, part.book.amounts, before, exports::Standing::madeUp)
+           .files) {
+    files.replace(file.name, file.contents);
+  }
+  if (part.madeUp) files.add(exports::madeUpMark, "");
 }
 
-void addPlays(const fs::path& root, const FolderContents::Part& part) {
+void addPlays(FolderFiles& files, const FolderContents::Part& part) {
   const GameInfo& game = infoOf(part.game);
-  FolderFiles files(root, game.folder);
   const std::string committed = playsText(part.game, part.book.committed);
   const std::string played = playsText(part.game, part.book.played);
   files.add(playFileName(game, PlaySlot::committed), committed);
@@ -63,7 +73,6 @@ void addPlays(const fs::path& root, const FolderContents::Part& part) {
     files.add(playFileName(game, slot), "");
   }
   files.add(savedTextsFileName(game), savedTexts(part.book.savedTexts));
-  files.commit();
 }
 
 void writePictures(const fs::path& root) {
@@ -77,14 +86,46 @@ void writePictures(const fs::path& root) {
   files.commit();
 }
 
-void writeRoot(const fs::path& root, const FolderContents& contents) {
+void writeRoot(const fs::path& root) {
   FolderFiles files(root, "");
   files.add(calendarFile, calendarText(dayOf(2002, 1, 1), dayOf(2050, 12, 31)));
-  files.add(loginFile, "\"tallywick\"\r\n");
-  files.add(passwordFile, "\"change-me\"\r\n");
+  files.add(loginFile, "\"tallywick\"\r\n", os::Access::ownerOnly);
+  files.add(passwordFile, "\"change-me\"\r\n", os::Access::ownerOnly);
   files.add(settingsFile, settingsText({}));
+  files.add(exports::notesFile, folderNotes());
   files.commit();
-  writeNotes(root, contents);
+}
+
+/// std::runtime_error where `folder` exists and is no folder of its own.
+void requireFolder(const fs::path& folder) {
+  if (!isThere(folder)) return;
+  if (fs::is_symlink(folder)) {
+    throw std::runtime_error(folder.string() + " is in the way: it is a link. Nothing was changed");
+  }
+  if (!fs::is_directory(folder)) {
+    throw std::runtime_error(folder.string() + " is in the way: it is no folder. Nothing was changed");
+  }
+}
+
+/// std::runtime_error where there is no room for the folders of a new data folder.
+void requireRoom(const fs::path& root) {
+  if (isThere(root) && !fs::is_directory(root)) {
+    throw std::runtime_error(root.string() + " is in the way: it is no folder. Nothing was changed");
+  }
+  for (const std::string_view written : {powerBall.folder, megaMillions.folder, pictureFolder}) {
+    const std::string_view outer = written.substr(0, written.find('\\'));
+    const std::string_view inner = written.substr(outer.size() + 1);
+    const fs::path numbers = entryInAnyCase(root, outer);
+    requireFolder(numbers);
+    requireFolder(entryInAnyCase(numbers, inner.substr(0, inner.size() - 1)));
+  }
+}
+
+bool isRecordFile(std::string_view name, const GameInfo& game) {
+  const std::string small = lowered(name);
+  return small.ends_with(".ply") || small.ends_with(".sav") || small.ends_with(".sel") ||
+         equalIgnoringCase(name, game.winningsFile) || equalIgnoringCase(name, drawsFile) ||
+         equalIgnoringCase(name, searchDrawsFile) || equalIgnoringCase(name, doublePlayFile);
 }
 
 }  // namespace
@@ -103,40 +144,41 @@ FolderContents sampleContents(Day last, std::uint64_t seed) {
     part.game = games[i];
     part.book.draws = sampleDraws(part.game, last, seed);
     part.book.amounts = sampleAmounts(part.game, part.book.draws, seed);
-    part.origin = "made-up sample draws and amounts";
   }
   return contents;
 }
 
-bool holdsPlays(const fs::path& folder) {
+bool holdsRecords(const fs::path& folder) {
   for (const GameInfo* game : {&powerBall, &megaMillions}) {
     std::error_code ignored;
-    const fs::path plays = DataFolder(folder).resolve(game->folder);
-    for (const fs::directory_entry& entry : fs::directory_iterator(plays, ignored)) {
-      const std::string name = lowered(nameOf(entry.path()));
-      if (name.ends_with(".ply") || name.ends_with(".sav") || name.ends_with(".sel")) return true;
+    const fs::path files = DataFolder(folder).resolve(game->folder);
+    for (const fs::directory_entry& entry : fs::directory_iterator(files, ignored)) {
+      if (isRecordFile(nameOf(entry.path()), *game)) return true;
     }
   }
   return false;
 }
 
 void writeFolder(const fs::path& folder, const FolderContents& contents) {
+  requireRoom(folder);
+  if (holdsRecords(folder)) {
+    throw std::runtime_error(folder.string() + " already holds draws or plays; nothing was changed");
+  }
   fs::create_directories(folder);
   writePictures(folder);
-  writeRoot(folder, contents);
-  // Plays come last: once they stand, the folder is somebody's.
-  for (const FolderContents::Part& part : contents.games) replaceDraws(folder, part);
-  for (const FolderContents::Part& part : contents.games) addPlays(folder, part);
+  writeRoot(folder);
+  for (const FolderContents::Part& part : contents.games) {
+    FolderFiles files(folder, infoOf(part.game).folder);
+    stageDraws(files, part);
+    addPlays(files, part);
+    files.commit();
+  }
 }
 
 void replaceDraws(const fs::path& folder, const FolderContents::Part& part) {
   FolderFiles files(folder, infoOf(part.game).folder);
   stageDraws(files, part);
   files.commit();
-}
-
-void writeNotes(const fs::path& folder, const FolderContents& contents) {
-  replaceFile(entryInAnyCase(folder, "README.txt"), folderNotes(contents));
 }
 
 void makeSampleFolder(const fs::path& folder, std::uint64_t seed) {

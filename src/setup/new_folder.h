@@ -18,8 +18,8 @@ struct FolderContents {
   struct Part {
     Game game;
     GameBook book;
-    /// Where the draws come from, for people: "sample draws", "1511 draws from powerball.csv".
-    std::string origin;
+    /// Whether the draws are samples; their folder is marked so.
+    bool madeUp = true;
   };
   std::array<Part, 2> games;
 };
@@ -31,17 +31,16 @@ Day lastDrawnDay(std::string_view date, std::string_view time);
 /// Sample draws, amounts and plays of both games up to `last`.
 FolderContents sampleContents(Day last, std::uint64_t seed);
 
-/// Whether plays of either game stand in the folder.
-bool holdsPlays(const std::filesystem::path& folder);
+/// Whether draws, amounts or plays of either game are in the folder, so that it is somebody's.
+bool holdsRecords(const std::filesystem::path& folder);
 
-/// Makes a whole data folder. Of the files that stand already, only draws and amounts are replaced.
+/// Makes a whole data folder. Every file that exists already stays. std::runtime_error where the folder holds
+/// records, or where a file or a link has the name of one of its folders; then nothing is written.
 void writeFolder(const std::filesystem::path& folder, const FolderContents& contents);
 
-/// Replaces the draws and amounts of one game in a folder that stands, and nothing else.
+/// Replaces the draws and amounts of one game as a whole, marks it where they are made up, and leaves
+/// everything else alone.
 void replaceDraws(const std::filesystem::path& folder, const FolderContents::Part& part);
-
-/// The README of the folder, which tells what of it is made up.
-void writeNotes(const std::filesystem::path& folder, const FolderContents& contents);
 
 /// A new data folder with sample draws, for a first start: today's clock, any seed.
 void makeSampleFolder(const std::filesystem::path& folder, std::uint64_t seed);

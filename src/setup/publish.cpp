@@ -13,7 +13,9 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <ostream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -57,10 +59,22 @@ PublishedFile readPublished(const DataFolder& folder, const GameInfo& game, std:
   return {std::string(name), std::string(reader.text())};
 }
 
+/// An update of this very folder is not to be caught in its middle. A folder that cannot be written is read
+/// without a lock, if no change of it was cut short.
+std::optional<os::FileLock> lockSource(const fs::path& folder) {
+  try {
+    return lockFolder(folder);
+  } catch (const LockedByAnother&) {
+    throw;
+  } catch (const RuntimeError&) {
+    if (fs::exists(folder / journalName)) throw;
+    return std::nullopt;
+  }
+}
+
 PublishedGame readGame(const DataFolder& folder, const ServerFolder& place) {
   const GameInfo& game = place.game;
-  // An update of this very folder is not to be caught in its middle.
-  const os::FileLock lock = lockFolder(folder.resolve(game.folder));
+  const std::optional<os::FileLock> lock = lockSource(folder.resolve(game.folder));
   PublishedGame published{place, {}, {}};
   published.files.push_back(readPublished<winningsFields>(folder, game, game.winningsFile));
   published.files.push_back(readPublished<drawFields>(folder, game, searchDrawsFile));
@@ -108,14 +122,33 @@ std::vector<fs::path> foldersOf(const fs::path& tree, const ServerFolder& place)
   return folders;
 }
 
+/// A client whose file names ignore the letter case would get one of two such files in the place of the
+/// other.
+void requireOneSpelling(const fs::path& folder, const PublishedFile& file) {
+  const fs::path first = entryInAnyCase(folder, file.name);
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    if (equalIgnoringCase(nameOf(entry.path()), file.name) && entry.path() != first) {
+      throw std::runtime_error(join(folder.string(), " contains both ", nameOf(first), " and ",
+                                    nameOf(entry.path()), "; nothing was published"));
+    }
+  }
+}
+
 bool holds(const fs::path& file, std::string_view bytes) {
   return fs::is_regular_file(file) && os::readFile(file).view() == bytes;
+}
+
+/// Raises what would stop publishInto().
+void requireReplaceable(const fs::path& folder, const std::vector<PublishedFile>& files) {
+  for (const PublishedFile& file : files) {
+    requireOneSpelling(folder, file);
+    os::checkReplaceable(entryInAnyCase(folder, file.name));
+  }
 }
 
 /// A work file among the published ones would be listed to a client and refused by it, so it is written
 /// beside their folder.
 void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files) {
-  for (const PublishedFile& file : files) os::checkReplaceable(entryInAnyCase(folder, file.name));
   std::vector<std::pair<fs::path, fs::path>> names;
   for (const PublishedFile& file : files) {
     const fs::path target = entryInAnyCase(folder, file.name);
@@ -135,11 +168,16 @@ void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
   for (const ServerFolder& place : serverFolders) games.push_back(readGame(folder, place));
   fs::create_directories(tree);
   const os::FileLock lock(tree / lockName, os::FileLock::Wait::yes);
+  std::vector<std::vector<fs::path>> targets;
   for (const PublishedGame& game : games) {
-    const std::vector<fs::path> folders = foldersOf(tree, game.place);
-    for (const fs::path& target : folders) publishInto(target, game.files);
+    targets.push_back(foldersOf(tree, game.place));
+    for (const fs::path& target : targets.back()) requireReplaceable(target, game.files);
+  }
+  for (std::size_t i = 0; i < games.size(); ++i) {
+    const PublishedGame& game = games[i];
+    for (const fs::path& target : targets[i]) publishInto(target, game.files);
     out << game.place.game.name << ": " << game.files.size() << " files, newest draw " << game.newestDraw
-        << ", in " << folders.front().string() << "\n";
+        << ", in " << targets[i].front().string() << "\n";
   }
 }
 

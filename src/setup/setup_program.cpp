@@ -2,8 +2,10 @@
 #include "setup/setup_program.h"
 
 #include "core/clock.h"
+#include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/text.h"
+#include "exports/folder_merge.h"
 #include "exports/import_report.h"
 #include "setup/backup.h"
 #include "setup/new_folder.h"
@@ -11,12 +13,13 @@
 #include "setup/sample.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <array>
 #include <filesystem>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace tallywick::setup {
 
@@ -59,7 +62,7 @@ void describe(CLI::App& app, Options& options) {
   addExports(app, "--powerball", powerBallExports);
   addExports(app, "--mega-millions", megaMillionsExports);
   app.add_flag("--force-draws", options.forceDraws,
-               "Replace the draws and amounts of a folder that holds plays; the plays stay");
+               "Replace all draws and amounts of a folder that holds some; the plays stay");
   app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
   app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
   app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
@@ -76,57 +79,122 @@ void describe(CLI::App& app, Options& options) {
                                          "Make DIR what a backup contains; what DIR was stays beside it");
   backup->type_name("[FILE]")->expected(0, 1)->needs(folder);
   restored->type_name("FILE")->needs(folder)->excludes(backup);
-  app.final_callback([folder, tree, backup, &options] {
+  app.final_callback([folder, tree, from, backup, &options] {
     options.backsUp = backup->count() > 0;
     if (folder->empty() && tree->empty()) throw CLI::RequiredError("DIR or --publish");
+    for (const CLI::Option* option : {folder, tree, from}) {
+      if (option->count() > 0 && option->as<std::string>().empty()) {
+        throw CLI::ValidationError(option->get_name(), "the name is empty");
+      }
+    }
   });
 }
 
-Day lastDrawn(const Options& options) {
-  if (!options.now.empty()) return lastDrawnDay(cut(options.now, 1, 10), cut(options.now, 12, 8));
-  const SystemClock clock;
-  return lastDrawnDay(clock.date(), clock.time());
-}
+/// The date and the time of the day to go by.
+struct Now {
+  explicit Now(const Options& options) : date(cut(options.now, 1, 10)), time(cut(options.now, 12, 8)) {
+    if (!options.now.empty()) return;
+    const SystemClock clock;
+    date = clock.date();
+    time = clock.time();
+  }
+  Day lastDrawn() const { return lastDrawnDay(date, time); }
+  Day today() const { return lastDrawnDay(date, "24:00:00"); }
 
-/// Sample draws, and real ones in their place for each game that has an export. Sample plays go with sample
-/// draws. In a folder that is somebody's, a game without an export is left alone where the other one has one.
-FolderContents contentsOf(const Options& options, bool isSomebodys, std::ostream& out) {
-  const auto hasExport = [](const ExportFiles& files) { return !files.draws.empty(); };
-  const bool onlyExports = isSomebodys && std::ranges::any_of(options.exports, hasExport);
-  const Day last = lastDrawn(options);
-  FolderContents contents = sampleContents(last, options.seed);
-  for (std::size_t i = 0; i < contents.games.size(); ++i) {
-    FolderContents::Part& part = contents.games[i];
-    const ExportFiles& files = options.exports[i];
-    if (hasExport(files)) {
-      exports::ExportedGame exported = exports::readExports(part.game, files.draws, files.amounts, out);
-      part.book.draws = std::move(exported.draws);
-      part.book.amounts = std::move(exported.amounts);
-      part.origin = join("real draws from ", fs::path(files.draws).filename().string());
-    } else if (onlyExports) {
-      part.book = {};
-      part.origin = "draws and amounts left as they were";
-    } else {
-      if (!options.withoutPlays) addSamplePlays(part.game, part.book, last, options.seed);
-      out << infoOf(part.game).name << ": " << part.book.draws.size() << " draws, " << part.origin << "\n";
+  std::string date;
+  std::string time;
+};
+
+/// What the exports of one game contain.
+struct ExportedGame {
+  ExportedGame(Game itsGame, const ExportFiles& files, Day today)
+      : game(itsGame), name(files.draws), draws(exports::readDrawsFile(game, files.draws, today)) {
+    if (!files.amounts.empty()) amounts = exports::readAmountsFile(game, files.amounts, today);
+  }
+
+  exports::Merge mergeInto(const exports::GameFiles& files, exports::Standing standing) const {
+    try {
+      return exports::mergeExport(game, draws, amounts, files, standing);
+    } catch (const std::runtime_error& error) {
+      throw std::runtime_error(join(name, ": ", error.what()));
     }
   }
-  return contents;
+
+  void print(const exports::MergeReport& report, std::ostream& out) const {
+    out << infoOf(game).name << ": " << report.draws << " draws taken from " << name << "\n";
+    exports::print(report, game, out);
+  }
+
+  Game game;
+  std::string name;
+  exports::ExportedDraws draws;
+  exports::ExportedAmounts amounts;
+};
+
+std::vector<ExportedGame> readExports(const Options& options, Day today) {
+  std::vector<ExportedGame> exported;
+  constexpr std::array games = {Game::powerBall, Game::megaMillions};
+  for (std::size_t i = 0; i < games.size(); ++i) {
+    const ExportFiles& files = options.exports[i];
+    if (!files.draws.empty()) exported.emplace_back(games[i], files, today);
+  }
+  return exported;
+}
+
+void addSamplePlays(FolderContents& contents, Day last, const Options& options) {
+  if (options.withoutPlays) return;
+  for (FolderContents::Part& part : contents.games) {
+    if (part.madeUp) addSamplePlays(part.game, part.book, last, options.seed);
+  }
+}
+
+void makeNewFolder(const Options& options, const std::vector<ExportedGame>& exported, std::ostream& out) {
+  const Day last = Now(options).lastDrawn();
+  FolderContents contents = sampleContents(last, options.seed);
+  std::vector<exports::MergeReport> reports;
+  for (const ExportedGame& real : exported) {
+    FolderContents::Part& part = contents.games[real.game == Game::powerBall ? 0 : 1];
+    reports.push_back(real.mergeInto({}, exports::Standing::real).report);
+    part.book.draws = real.draws.draws;
+    part.book.amounts = real.amounts.amounts;
+    part.madeUp = false;
+  }
+  addSamplePlays(contents, last, options);
+  writeFolder(options.folder, contents);
+  for (std::size_t i = 0; i < exported.size(); ++i) exported[i].print(reports[i], out);
+  for (const FolderContents::Part& part : contents.games) {
+    if (part.madeUp)
+      out << infoOf(part.game).name << ": " << part.book.draws.size() << " made-up sample draws\n";
+  }
+}
+
+/// Both games' changes are worked out before either is made.
+void mergeExports(const Options& options, const std::vector<ExportedGame>& exported, std::ostream& out) {
+  std::vector<std::unique_ptr<exports::FolderMerge>> merges;
+  for (const ExportedGame& real : exported) {
+    merges.push_back(std::make_unique<exports::FolderMerge>(
+        DataFolder(options.folder), real.game,
+        [&](const exports::GameFiles& files, exports::Standing standing) {
+          return real.mergeInto(files, options.forceDraws ? exports::Standing::madeUp : standing);
+        }));
+    real.print(merges.back()->report(), out);
+  }
+  for (const auto& merge : merges) merge->commit();
 }
 
 void makeFolder(const Options& options, std::ostream& out) {
-  const bool isSomebodys = holdsPlays(options.folder);
-  if (isSomebodys && !options.forceDraws) {
+  const std::vector<ExportedGame> exported = readExports(options, Now(options).today());
+  if (!holdsRecords(options.folder)) return makeNewFolder(options, exported, out);
+  if (!exported.empty()) return mergeExports(options, exported, out);
+  if (!options.forceDraws) {
     throw std::runtime_error(
         options.folder +
-        " already holds plays; nothing was changed. --force-draws replaces its draws and amounts");
+        " already holds draws or plays; nothing was changed. --force-draws replaces its draws and amounts");
   }
-  const FolderContents contents = contentsOf(options, isSomebodys, out);
-  if (!isSomebodys) return writeFolder(options.folder, contents);
-  for (const FolderContents::Part& part : contents.games) {
-    if (!part.book.draws.empty()) replaceDraws(options.folder, part);
+  for (const FolderContents::Part& part : sampleContents(Now(options).lastDrawn(), options.seed).games) {
+    replaceDraws(options.folder, part);
+    out << infoOf(part.game).name << ": " << part.book.draws.size() << " made-up sample draws\n";
   }
-  writeNotes(options.folder, contents);
 }
 
 void backUpFolder(const Options& options, std::ostream& out) {

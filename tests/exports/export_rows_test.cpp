@@ -2,8 +2,8 @@
 // The rows of public exports: what their quirks become and what is refused.
 #include "exports/export_rows.h"
 
-#include "exports/csv_table.h"
-#include "exports/record_texts.h"
+#include "exports/csv_reader.h"
+#include "exports/merge.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,11 +15,14 @@ using testing::HasSubstr;
 
 constexpr const char* powerBallHeader = "Draw Date,Winning Numbers,Multiplier,double_play_winning_numbers\n";
 
-/// The records that an export becomes, and after "!" its refused lines.
+constexpr Day today = dayOf(2026, 11, 21);
+
+/// The main history that an export becomes, and after "!" its refused lines.
 std::string imported(Game game, const std::string& csv) {
-  const ImportedDraws draws = importDraws(game, CsvTable(csv));
-  std::string text = drawsText(draws.draws);
-  for (const RefusedRow& row : draws.refused) text += "!" + std::to_string(row.line) + " " + row.reason;
+  CsvReader rows(csv);
+  const ExportedDraws draws = readDraws(game, rows, today);
+  std::string text = mergeInto(game, draws.draws, {}, {}).files.back().contents;
+  for (const RefusedRow& row : draws.refused.first) text += "!" + std::to_string(row.line) + " " + row.reason;
   return text;
 }
 
@@ -47,10 +50,14 @@ TEST(Import, RowsThatHoldNoDrawAreRefusedWithLineAndReason) {
            {"06/31/2026,01 02 03 04 05 06,2,", "!3 \"06/31/2026\" is no date (MM/DD/YYYY)"},
            {"257/01/2026,01 02 03 04 05 06,2,", "!3 \"257/01/2026\" is no date (MM/DD/YYYY)"},
            {"06/13/2026,01 02 03 04 05,2,", "!3 5 numbers instead of 6"},
-           {"06/13/2026,01 02 03 04 70 06,2,", "!3 the white ball 70 is not from 1 to 69"},
+           {"06/13/2026,01 02 03 04 100 06,2,", "!3 the white ball 100 is not from 1 to 99"},
            {"01/04/2012,01 02 03 04 60 06,2,", "!3 the white ball 60 is not from 1 to 59"},
-           {"06/13/2026,01 02 03 04 05 27,2,", "!3 the extra ball 27 is not from 1 to 26"},
-           {"06/13/2026,01 02 03 04 04 06,2,", "!3 the white ball 4 stands twice"},
+           {"11/28/2026,01 02 03 04 05 06,2,", "!3 11-28-2026 is later than today, 11-21-2026"},
+           {"\"06/13/2026,01 02 03 04 05 06",
+            "!3 \"06/13/2026,01 02 03 04 05 06\\x0A\" is no date (MM/DD/YYYY)"},
+           {"06/13/2026,\"01 02 03 04 05 06", "!3 the row has an opening quote and no closing one"},
+           {"06/13/2026,01 02 \x1B[31m 04 05 06,2,", "!3 \"\\x1B[31m\" is no number"},
+           {"06/13/2026,01 02 03 04 04 06,2,", "!3 the white ball 4 occurs twice"},
            {"06/13/2026,01 02 x 04 05 06,2,", "!3 \"x\" is no number"},
            {"06/13/2026,01 02 03 04 05 06,2,1 2 3", "!3 3 numbers instead of 6"},
            {"06/10/2026,11 12 13 14 15 06,2,", "!3 a second row for 06-10-2026"},
@@ -58,6 +65,37 @@ TEST(Import, RowsThatHoldNoDrawAreRefusedWithLineAndReason) {
     const std::string text = imported(Game::powerBall, powerBallHeader + good + row + "\n");
     EXPECT_EQ(text.substr(text.find('!')), refused);
     EXPECT_THAT(text, HasSubstr("\"06\",\"10\",\"2026\"")) << "the good row stays";
+  }
+}
+
+TEST(Import, NumbersBeyondTheLastKnownRulesAreTakenWithANotice) {
+  const std::string csv =
+      powerBallHeader + std::string("06/13/2026,01 02 03 04 72 06,2,\n06/10/2026,01 02 03 04 05 06,2,\n");
+  CsvReader rows(csv);
+  const ExportedDraws draws = readDraws(Game::powerBall, rows, today);
+  EXPECT_EQ(draws.draws.size(), 2U);
+  EXPECT_THAT(draws.notices, testing::ElementsAre(HasSubstr("06-13-2026 has a number beyond 69 or 26")));
+}
+
+TEST(Import, MemoryIsBoundedByTheLongestRow) {
+  std::size_t left = 300;
+  CsvReader rows([&](char* to, std::size_t) {
+    const std::string row = left == 300 ? powerBallHeader : std::string(200, '\x1B') + ",1 2\n";
+    return left-- > 0 ? row.copy(to, row.size()) : 0;
+  });
+  const RefusedRows refused = readDraws(Game::powerBall, rows, today).refused;
+  EXPECT_EQ(refused.count, 299U);
+  EXPECT_EQ(refused.first.size(), 20U);
+  EXPECT_LE(refused.first.front().reason.size(), 80U);
+
+  const std::string csv = std::string("Date\n\n") + std::string(CsvReader::longestRow + 1, 'x');
+  CsvReader tooLong(csv);
+  CsvReader::Row row;
+  try {
+    tooLong.next(row);
+    ADD_FAILURE() << "it was read";
+  } catch (const std::runtime_error& error) {
+    EXPECT_STREQ(error.what(), "line 3 is longer than 65536 characters");
   }
 }
 

@@ -108,6 +108,9 @@ TEST_F(Publishing, WritesNothingWhereAFileIsMissingOrCutOrInTheWay) {
   fs::remove(pwr / "QzrPwr.Win");
   fs::create_directory(pwr / "qzrpwr.win");
   fails(75, "qzrpwr.win");
+  std::ofstream(pwr / "QZRPWR.win") << "another spelling";
+  EXPECT_THROW(run(), std::runtime_error);
+  EXPECT_EQ(textOf(pwr / "QZRPWR.win"), "another spelling");
 }
 
 }  // namespace

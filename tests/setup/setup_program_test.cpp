@@ -2,10 +2,12 @@
 // tallywick-setup: what a new folder holds and what an existing one keeps.
 #include "setup/setup_program.h"
 
+#include "core/day.h"
 #include "core/draws.h"
 #include "core/plays.h"
 #include "support/scratch_folder.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -13,7 +15,6 @@
 namespace tallywick::setup {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -30,29 +31,84 @@ std::string run(std::vector<std::string> arguments, int expected = 0) {
   return out.str() + errors.str();
 }
 
-TEST(Setup, ForceDrawsReplacesDrawsAndAmountsAndLeavesPlaysAlone) {
+/// An export with a draw of every day of so many before 11-21-2026.
+std::string dailyExport(int count) {
+  std::string csv = powerBallHeader;
+  for (Day day = dayOf(2026, 11, 20); count-- > 0; day += -1) csv += displayDate(day) + ",1 2 3 4 5 6,2,\n";
+  return csv;
+}
+
+TEST(Setup, AnExportIsMergedIntoAFolderAndForceDrawsReplacesAll) {
   const test::ScratchFolder scratch;
   const std::string folder = (scratch.root() / "book").string();
-  run({folder, "--now", "11-21-2026 12:00:00"});
+  const std::string now = "11-21-2026 12:00:00";
+  run({folder, "--now", now});
   const auto before = scratch.snapshot();
-  EXPECT_THAT(run({folder}, 1), HasSubstr("already holds plays; nothing was changed"));
+  EXPECT_THAT(run({folder}, 1), HasSubstr("already holds draws or plays; nothing was changed"));
   EXPECT_EQ(scratch.snapshot(), before);
 
-  scratch.write("powerball.csv",
-                powerBallHeader + std::string("06/10/2026,01 02 03 04 05 06,2,11 12 13 14 15 16\n"));
-  scratch.write("amounts.csv", "Draw Date,Amount,Mark Count\n06/10/2026,\"1,500\",2\n");
-  run({folder, "--force-draws", "--powerball", (scratch.root() / "powerball.csv").string(),
-       "--powerball-amounts", (scratch.root() / "amounts.csv").string()});
-  const auto after = scratch.snapshot();
-  std::vector<std::string> changed;
-  for (const auto& [name, text] : after) {
-    if (before.contains(name) && before.at(name) != text) changed.push_back(name.substr(name.rfind('/') + 1));
+  scratch.write("long.csv", dailyExport(150));
+  scratch.write("short.csv", dailyExport(101));
+  scratch.write("amounts.csv", "Draw Date,Amount,Mark Count\n11/20/2026,\"1,500\",2\n11/19/2026,,\n");
+  const auto merge = [&](const std::string& csv, const std::vector<std::string>& more) {
+    std::vector<std::string> words = {folder, "--now", now, "--powerball", (scratch.root() / csv).string()};
+    words.insert(words.end(), more.begin(), more.end());
+    return run(words);
+  };
+  const auto countDraws = [&] {
+    return std::ranges::count(scratch.read("book/QzrNumbers/QZR6PWR/QZRNUM6.Dat"), '\n');
+  };
+  EXPECT_THAT(merge("long.csv", {"--powerball-amounts", (scratch.root() / "amounts.csv").string()}),
+              HasSubstr("150 new draws, 0 changed, 1 new amounts"));
+  EXPECT_THAT(scratch.read("book/QzrNumbers/QZR6PWR/QzrPwr.Win"),
+              testing::StartsWith(R"("11","20","2026","1,500","2")"));
+  EXPECT_EQ(countDraws(), 150) << "made-up draws go as a whole";
+  merge("short.csv", {});
+  EXPECT_EQ(countDraws(), 150) << "real ones stay";
+  merge("short.csv", {"--force-draws"});
+  EXPECT_EQ(countDraws(), 101);
+  for (const auto& [name, text] : before) {
+    const bool isOthers = name.find("QZR6PWR/QZRNUM") == std::string::npos && !name.ends_with("QzrPwr.Win") &&
+                          !name.ends_with("QZR6PWR/SAMPLE.TXT");
+    EXPECT_TRUE(!isOthers || scratch.read(name) == text) << name;
   }
-  EXPECT_THAT(changed,
-              ElementsAre("QZRNUM6.Dat", "QZRNUM62.Dat", "QZRNUM72.Dat", "QzrPwr.Win", "README.txt"));
-  EXPECT_EQ(after.at("book/QzrNumbers/QZR6PWR/QzrPwr.Win"),
-            "\"06\",\"10\",\"2026\",\"1,500\",\"2\"\r\n\"06\",\"10\",\"2026\",\"1,500\",\"2\"\r\n");
-  EXPECT_THAT(after.at("book/README.txt"), HasSubstr("Mega Millions: draws and amounts left as they were"));
+}
+
+TEST(Setup, ANewFolderTakesNothingThatIsThereAlready) {
+  const test::ScratchFolder scratch;
+  namespace fs = std::filesystem;
+  struct Case {
+    const char* name;
+    std::string says;
+  };
+  scratch.write("a/qzrnumbers", "a file");
+  scratch.write("b/QzrNumbers/qzr6meg/qzrnum6.dat", "draws without plays");
+  fs::create_directories(scratch.root() / "c/QzrNumbers");
+  fs::create_directory_symlink(scratch.root() / "a", scratch.root() / "c/QzrNumbers/QZR6PWR");
+  scratch.write("d", "a file");
+  const auto before = scratch.snapshot();
+  for (const Case& refused :
+       {Case{"a", "qzrnumbers is in the way: it is no folder"}, Case{"b", "already holds draws or plays"},
+        Case{"c", "QZR6PWR is in the way: it is a link"}, Case{"d", "d is in the way: it is no folder"}}) {
+    EXPECT_THAT(run({(scratch.root() / refused.name).string()}, 1), HasSubstr(refused.says));
+    EXPECT_EQ(scratch.snapshot(), before) << refused.name;
+  }
+  for (const std::vector<std::string>& empty :
+       {std::vector<std::string>{""}, {"--publish", "", "--from", "x"}, {"--publish", "x", "--from", ""}}) {
+    EXPECT_THAT(run(empty, 2), HasSubstr("the name is empty"));
+  }
+
+  scratch.write("e/ReadMe.TXT", "mine");
+  fs::create_symlink("nowhere", scratch.root() / "e/tallywick.ini");
+  run({(scratch.root() / "e").string()});
+  EXPECT_EQ(scratch.read("e/ReadMe.TXT"), "mine");
+  EXPECT_FALSE(fs::exists(scratch.root() / "e/README.txt"));
+  EXPECT_TRUE(fs::is_symlink(scratch.root() / "e/tallywick.ini"));
+  EXPECT_TRUE(fs::exists(scratch.root() / "e/QzrNumbers/QZR6PWR/SAMPLE.TXT"));
+  for (const char* secret : {"e/PWF.TXT", "e/PWF2.TXT"}) {
+    const fs::perms others = fs::status(scratch.root() / secret).permissions() & fs::perms(077);
+    EXPECT_EQ(others, fs::perms::none) << secret;
+  }
 }
 
 TEST(Setup, ASampleFolderIsRepeatableAndHasWhatTheDisplaysRead) {

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exports/game_files.h"
+
+#include "core/data_folder.h"
+#include "core/os.h"
+
+#include <utility>
+
+namespace tallywick::exports {
+
+namespace fs = std::filesystem;
+
+GameFiles readGameFiles(const GameInfo& game, const fs::path& folder) {
+  const auto textOf = [&](std::string_view name) {
+    const fs::path file = entryInAnyCase(folder, name);
+    if (!fs::exists(file)) return std::string();
+    return std::string(os::readFile(file).view());
+  };
+  GameFiles files{textOf(drawsFile), textOf(searchDrawsFile), {}, textOf(game.winningsFile)};
+  if (game.game == Game::powerBall) files.doublePlay = textOf(doublePlayFile);
+  return files;
+}
+
+std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before, GameFiles now) {
+  std::vector<NewFile> changed;
+  const auto add = [&](std::string_view name, const std::string& old, std::string& text) {
+    if (text != old) changed.push_back({name, std::move(text)});
+  };
+  add(game.winningsFile, before.amounts, now.amounts);
+  if (game.game == Game::powerBall) add(doublePlayFile, before.doublePlay, now.doublePlay);
+  add(searchDrawsFile, before.searchDraws, now.searchDraws);
+  add(drawsFile, before.draws, now.draws);
+  return changed;
+}
+
+}  // namespace tallywick::exports

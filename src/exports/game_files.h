@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The draw and amount files of a game folder as texts.
+#pragma once
+
+#include "core/games.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallywick::exports {
+
+/// What the files contain; a missing one is empty.
+struct GameFiles {
+  std::string draws;
+  std::string searchDraws;
+  /// PowerBall's alone.
+  std::string doublePlay;
+  std::string amounts;
+};
+
+struct NewFile {
+  std::string_view name;
+  std::string contents;
+};
+
+/// Reads the files of the game folder `folder`. RuntimeError where one exists and cannot be read.
+GameFiles readGameFiles(const GameInfo& game, const std::filesystem::path& folder);
+
+/// The files of `now` that differ from `before`, the main history last.
+std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before, GameFiles now);
+
+}  // namespace tallywick::exports
