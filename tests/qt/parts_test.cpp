@@ -87,6 +87,10 @@ TEST(LineTexts, EmphasiseWholeFieldsOnly) {
   EXPECT_THAT(emphasisedRuns(" 11-06-2026    06 08 30 51 55   13", {"06", "13"}),
               testing::ElementsAre(TextRun{15, 2}, TextRun{32, 2}));
   EXPECT_THAT(emphasisedRuns(" 06 106 6", {"6"}), testing::ElementsAre(TextRun{8, 1}));
+  EXPECT_THAT(emphasisedRuns(" 01-01-2020   Winning Ticket... Play", {"Winning Ticket...", "Winning Tick"}),
+              testing::ElementsAre(TextRun{14, 17}));
+  EXPECT_THAT(emphasisedRuns("  01-01-2020      01  02", {"  01-01-2020      01  02"}),
+              testing::ElementsAre(TextRun{2, 22}));
 }
 
 TEST(LineTexts, QuoteWhatCommasWouldPart) {

@@ -9,12 +9,16 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace tallywick {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// What screen readers say after a line that stands out.
+const QString winningMeaning = u"winning"_s;
 
 /// What a line of a winning ticket says.
 constexpr std::string_view winningWords = "Winning Ticket";
@@ -38,7 +42,16 @@ LineList* titledList(QSplitter& side, const QString& title, ListBox& list, const
 void showWinningLines(LineList& list) {
   list.lineModel()->setStandOut(
       [](std::size_t, std::string_view line) { return line.find(winningWords) != std::string_view::npos; },
-      u"winning"_s);
+      winningMeaning);
+}
+
+/// The plays that a check found to have won.
+void showEmphasisedLines(LineList& lines, const ListBox& list) {
+  lines.lineModel()->setStandOut(
+      [&list](std::size_t, std::string_view line) {
+        return std::ranges::find(list.emphasis(), line) != list.emphasis().end();
+      },
+      winningMeaning);
 }
 
 }  // namespace
@@ -53,8 +66,9 @@ WinningsView::WinningsView(MainForm& form, Binding& binding) {
 QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
   auto* page = new QWidget;
   auto* lists = splitter(Qt::Horizontal, u"plays"_s);
-  titledList(*lists, u"Plays Already Dr&awn"_s, form.winnings.List14,
-             u"No play's draw has taken place yet."_s, binding);
+  showEmphasisedLines(*titledList(*lists, u"Plays Already Dr&awn"_s, form.winnings.List14,
+                                  u"No play's draw has taken place yet."_s, binding),
+                      form.winnings.List14);
   titledList(*lists, u"Plays &to Be Drawn"_s, form.winnings.List17, u"No play waits for its draw."_s,
              binding);
   auto* movePowerBall = new QPushButton(page);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/line_text.h"
 
+#include "core/text.h"
+
 #include <algorithm>
 
 namespace tallywick {
@@ -9,9 +11,17 @@ namespace {
 
 constexpr char blank = ' ';
 
+bool beginsField(std::string_view line, std::size_t at) {
+  return at == 0 || line[at - 1] == blank;
+}
+
+bool endsField(std::string_view line, std::size_t end) {
+  return end == line.size() || line[end] == blank;
+}
+
 bool hasFieldBeginningWith(std::string_view line, std::string_view typed) {
   for (std::size_t at = line.find(typed); at != std::string_view::npos; at = line.find(typed, at + 1)) {
-    if (at == 0 || line[at - 1] == blank) return true;
+    if (beginsField(line, at)) return true;
   }
   return false;
 }
@@ -46,11 +56,14 @@ std::string csvLine(std::string_view line) {
 
 std::vector<TextRun> emphasisedRuns(std::string_view line, const std::vector<std::string>& texts) {
   std::vector<TextRun> runs;
-  if (texts.empty()) return runs;
-  for (const std::string_view field : fieldsOf(line)) {
-    if (std::find(texts.begin(), texts.end(), field) != texts.end())
-      runs.push_back({static_cast<std::size_t>(field.data() - line.data()), field.size()});
+  for (const std::string_view text : texts) {
+    const std::string_view wanted = trimmed(text);
+    if (wanted.empty()) continue;
+    for (std::size_t at = line.find(wanted); at != std::string_view::npos; at = line.find(wanted, at + 1)) {
+      if (beginsField(line, at) && endsField(line, at + wanted.size())) runs.push_back({at, wanted.size()});
+    }
   }
+  std::ranges::sort(runs, {}, &TextRun::begin);
   return runs;
 }
 

@@ -24,8 +24,8 @@ struct TextRun {
   bool operator==(const TextRun&) const = default;
 };
 
-/// Where fields of the line equal one of the texts, in the order of the line. A date that only holds such a
-/// text is another field.
+/// Where one of the texts is a field of the line or several fields that follow each other, in the order of
+/// the line. A date that only contains such a text is another field.
 std::vector<TextRun> emphasisedRuns(std::string_view line, const std::vector<std::string>& texts);
 
 /// The first line from `start` on, and then from the top, in which a field begins with `typed`; the number of
