@@ -44,7 +44,7 @@ class Bindings : public Desktop {};
 TEST_F(Bindings, NamesAControlThatNoWidgetShows) {
   SplashForm form;
   const Label forgotten(form, "lblForgotten");
-  Desk desk = {platform, scratch.folder(), {}, {}, {}};
+  Desk desk = {platform, scratch.folder(), {}, {}, {}, {}};
   try {
     makeWindow(form, desk);
     FAIL() << "a control without a widget went unnoticed";

@@ -4,6 +4,7 @@
 #include "ui/qt/ball_picture.h"
 #include "ui/qt/chart_view.h"
 #include "ui/qt/choice_list.h"
+#include "ui/qt/handler_runner.h"
 #include "ui/qt/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/settings_dialog.h"
@@ -11,6 +12,7 @@
 #include "ui/qt/transfer_window.h"
 #include "ui/qt/wording.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
@@ -46,13 +48,26 @@ TEST(Wordings, PutCaptionsOnTheScreen) {
   }
 }
 
+/// Runs what it is given, or only counts it.
+class CountingRunner : public HandlerRunner {
+ public:
+  void run(const std::function<void()>& handler) override { handler(); }
+  void attempt(const std::function<void()>& action) override {
+    ++attempts;
+    if (doesRun) action();
+  }
+  int attempts = 0;
+  bool doesRun = true;
+};
+
 TEST(Lists, CopyTheLinesThatAreSelected) {
   TextLines lines;
   for (const char* line :
        {" 11-18-2026    06 08   13", " 11-16-2026    05 19   20", " 11-14-2026    09 10   04"})
     lines.add(line);
   LineList list(lines);
-  addLineActions(list);
+  CountingRunner runner;
+  addLineActions(list, runner);
   list.resize(300, 200);
   list.show();
   QCoreApplication::processEvents();
@@ -90,6 +105,17 @@ TEST(ChoiceLists, TellWhatIsChosenByMouseAndByKeyboard) {
   EXPECT_EQ(chosen.last(), QStringLiteral("first"));
 }
 
+TEST(Actions, OfListsAndChartsAreAttemptedSoThatNothingEscapesIntoTheToolkit) {
+  CountingRunner runner;
+  runner.doesRun = false;
+  TextLines lines;
+  LineList list(lines);
+  addLineActions(list, runner);
+  const ChartView chart(runner);
+  for (QAction* action : list.actions() + chart.actions()) action->trigger();
+  EXPECT_EQ(runner.attempts, 6);
+}
+
 TEST(Charts, CanBeReadAsText) {
   const std::vector<Chart::Bar> bars = {{7, "06", colors::yellow}, {0, "13", Color::rgb(153, 153, 153)}};
   EXPECT_EQ(ChartView::inWords(QStringLiteral("Tallywick Last 100 Draws"), bars).toStdString(),
@@ -112,13 +138,20 @@ TEST(BallPictures, ShowThePictureOrDrawTheBall) {
 }
 
 TEST(SettingsDialogs, GiveBackWhatTheyWereGiven) {
-  const Settings settings = {"host:2121", Settings::Tls::required, "https://a.example/",
-                             "https://b.example/?x=1&y=2"};
+  const Settings settings = {"host:2121",
+                             Settings::Tls::required,
+                             "https://a.example/",
+                             "https://b.example/?x=1&y=2",
+                             Settings::Source::server,
+                             "https://c.example/",
+                             "https://d.example/"};
   SettingsDialog dialog(settings, nullptr);
   EXPECT_EQ(dialog.settings(), settings);
   // A quote would end the value in the settings file.
   for (auto* edit : dialog.findChildren<QLineEdit*>()) QTest::keyClicks(edit, QStringLiteral("\""));
   EXPECT_EQ(dialog.settings(), settings);
+  for (auto* edit : dialog.findChildren<QLineEdit*>()) edit->clear();
+  EXPECT_EQ(dialog.settings().powerBallDraws, powerBallExport) << "an empty address is the built-in one";
 }
 
 TEST(Summaries, ArePrintedWithTheirHeadings) {

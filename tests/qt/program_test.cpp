@@ -60,6 +60,29 @@ TEST_F(Program, TellsWhatIsWrongWithItsCommandLine) {
       run({QStringLiteral("--folder"), pictures.path(), QStringLiteral("--screenshot"), picture});
   EXPECT_EQ(folderless.exitCode, 1);
   EXPECT_NE(folderless.errors.find("no record book"), std::string::npos);
+  EXPECT_EQ(run(pictureOf({QStringLiteral("--size"), QStringLiteral("0x99999")})).exitCode, 2);
+}
+
+TEST_F(Program, EndsWithAMessageWhateverItsSurroundingsLack) {
+  scratch.write("tallywick.ini", "servr=x\n");
+  const Outcome misspelt = run(pictureOf({}));
+  EXPECT_EQ(misspelt.exitCode, 0) << "a picture needs no settings";
+  EXPECT_NE(misspelt.errors.find("tallywick.ini, line 1: there is no setting"), std::string::npos);
+  picture = QStringLiteral("/no/such/folder/window.png");
+  const Outcome unwritable = run(pictureOf({}));
+  EXPECT_EQ(unwritable.exitCode, 1);
+  EXPECT_NE(unwritable.errors.find("window.png cannot be written"), std::string::npos);
+  QProcess shell;
+  shell.start(
+      QStringLiteral("/bin/sh"),
+      {QStringLiteral("-c"),
+       QStringLiteral(
+           "mkdir \"$1\" && cd \"$1\" && rmdir \"$1\" && exec \"$0\" --folder book --screenshot x.png"),
+       QStringLiteral(TALLYWICK_PROGRAM), pictures.filePath(QStringLiteral("gone"))});
+  shell.waitForFinished();
+  EXPECT_EQ(shell.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(shell.exitCode(), 1);
+  EXPECT_TRUE(shell.readAllStandardError().contains("Path not found: book"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the window tests without a display and without the user's own settings.
-#include <QApplication>
+#include "ui/qt/guarded_application.h"
+
 #include <QSettings>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -13,6 +14,6 @@ int main(int argumentCount, char** arguments) {
   QCoreApplication::setOrganizationName(QStringLiteral("Tallywick"));
   QCoreApplication::setApplicationName(QStringLiteral("tallywick"));
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  const QApplication qt(argumentCount, arguments);
+  const tallywick::GuardedApplication qt(argumentCount, arguments);
   return RUN_ALL_TESTS();
 }

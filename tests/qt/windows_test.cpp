@@ -3,13 +3,18 @@
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"
 #include "ui/qt/first_start.h"
+#include "ui/qt/guarded_application.h"
 #include "ui/qt/help.h"
 #include "ui/qt/layout_memory.h"
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QToolButton>
+#include <algorithm>
+#include <new>
 
 namespace tallywick::test {
 namespace {
@@ -46,6 +51,89 @@ TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {
   EXPECT_EQ(boxText, QStringLiteral("Run-time error '53':\n\nFile not found"));
   EXPECT_TRUE(platform.ended());
   EXPECT_EQ(platform.exitCode(), 1);
+}
+
+TEST_F(Windows, WhatTheyAddToTheModelMayFailWithoutEndingTheProgram) {
+  platform.onHelp = [](const QString&) { throw std::bad_alloc(); };
+  platform.onEditSettings = [] { throw RuntimeError(ErrorNumber::permissionDenied, "tallywick.ini"); };
+  QApplication::setActiveWindow(&open("Form1"));
+  answerNextBox(QMessageBox::Ok);
+  QTest::keyClick(&window("Form1"), Qt::Key_F1);
+  EXPECT_EQ(boxText, QStringLiteral("std::bad_alloc"));
+  answerNextBox(QMessageBox::Ok);
+  for (auto* button : window("Form1").findChildren<QToolButton*>()) {
+    if (button->text() == u"Settings…") button->click();
+  }
+  EXPECT_EQ(boxText, QStringLiteral("Permission denied: tallywick.ini"));
+  EXPECT_FALSE(platform.ended());
+}
+
+/// A widget whose painting or mouse handling fails.
+class FailingWidget : public QWidget {
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::User) throw RuntimeError(ErrorNumber::deviceIoError, "an event");
+    return QWidget::event(event);
+  }
+};
+
+TEST_F(Windows, AnErrorInAnEventEndsTheProgramRatherThanAbortIt) {
+  auto& qt = static_cast<GuardedApplication&>(*QCoreApplication::instance());
+  std::vector<std::string> escaped;
+  qt.onEscaped = [&escaped](const RuntimeError& error) { escaped.emplace_back(error.what()); };
+  FailingWidget widget;
+  for (int i = 0; i < 2; ++i) QCoreApplication::postEvent(&widget, new QEvent(QEvent::User));
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  EXPECT_EQ(escaped, std::vector<std::string>{"Device I/O error: an event"});
+  qt.onEscaped = nullptr;
+}
+
+TEST_F(Windows, HelpIsThereWhereTheDataFolderCannotBeRead) {
+  const std::filesystem::path loop = scratch.root() / "loop";
+  std::filesystem::create_symlink(loop, loop);
+  openHelp(DataFolder(loop), QStringLiteral("index.html"));
+  QWidgetList shown = QApplication::topLevelWidgets();
+  shown.erase(std::remove_if(shown.begin(), shown.end(),
+                             [](const QWidget* each) { return each->windowTitle() != u"Tallywick Help"; }),
+              shown.end());
+  ASSERT_EQ(shown.size(), 1);
+  shown.front()->close();
+}
+
+TEST_F(Windows, SettingsThatCannotBeUnderstoodAreNotOverwritten) {
+  scratch.write("tallywick.ini", "server=host\ntls=requird\n");
+  const auto refusal = QString::fromStdString((scratch.root() / "tallywick.ini").string()) +
+                       QStringLiteral(", line 2: tls is \"requird\"");
+  answerNextBox(QMessageBox::Ok);
+  const Settings none = settingsAtStart(scratch.folder(), platform);
+  EXPECT_TRUE(boxText.startsWith(refusal)) << boxText.toStdString();
+  EXPECT_EQ(none.server, "");
+  EXPECT_EQ(none.source, Settings::Source::server);
+  answerNextBox(QMessageBox::Ok);
+  platform.attempt([this] { editSettings(application, platform); });
+  EXPECT_TRUE(boxText.startsWith(refusal)) << boxText.toStdString();
+  EXPECT_EQ(scratch.read("tallywick.ini"), "server=host\ntls=requird\n");
+}
+
+TEST_F(Windows, AnUpdateWithoutAServerIsNotStarted) {
+  platform.onPress = [this](const Control& control) { return mayPress(application, platform, control); };
+  open("Form1");
+  answerNextBox(QMessageBox::Ok);
+  widget<QPushButton>("Form1", "Command2").click();
+  EXPECT_TRUE(boxText.startsWith(QStringLiteral("No update server is set.")));
+  EXPECT_FALSE(platform.ended());
+}
+
+TEST_F(Windows, CloseBeforeTheFormsTheyShow) {
+  QPointer<FormWindow> shown;
+  {
+    Application other({scratch.folder(), {}, clock, random, platform, {}});
+    platform.run([&other] { other.showMainWindow(); });
+    shown = platform.windowOf(*other.find("Form1"));
+    shown->show();
+  }
+  ASSERT_NE(shown, nullptr);
+  EXPECT_TRUE(shown->binding().isReleased());
 }
 
 TEST_F(Windows, PaintInTheMiddleOfAHandlerButTakeNoInput) {

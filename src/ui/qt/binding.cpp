@@ -69,7 +69,10 @@ void Binding::release() {
 }
 
 void Binding::press(Control& control) {
-  if (form_ != nullptr) runner_.run([&control] { click(control); });
+  if (form_ == nullptr) return;
+  runner_.run([this, &control] {
+    if (!mayPress || mayPress(control)) click(control);
+  });
 }
 
 void Binding::take(const std::function<void()>& change) {

@@ -65,6 +65,9 @@ class Binding : public QObject {
   /// What a window derives from several controls; runs after each showChanges().
   std::function<void()> afterChanges;
 
+  /// Asked before each press, where it is set; a press that it refuses leads nowhere.
+  std::function<bool(const Control&)> mayPress;
+
   /// The model goes; from now on the widgets lead nowhere.
   void release();
   bool isReleased() const { return form_ == nullptr; }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How each type of control is shown by its widget, and what the widget's actions lead to.
 #include "core/data_folder.h"
-#include "core/runtime_error.h"
+#include "core/os.h"
 #include "core/text.h"
 #include "ui/qt/ball_picture.h"
 #include "ui/qt/binding.h"
@@ -50,11 +50,15 @@ QString spokenName(std::string_view caption) {
 /// The picture that the record book keeps for a number; null where there is none that loads.
 QPixmap loadPicture(const DataFolder& folder, const std::string& written) {
   if (written.empty()) return {};
+  QPixmap picture;
   try {
-    return QPixmap(QString::fromStdU16String(folder.resolve(written).u16string()));
-  } catch (const RuntimeError&) {
+    const os::FileBytes bytes = os::readFile(folder.resolve(written));
+    const auto* const begin = reinterpret_cast<const uchar*>(bytes.view().data());
+    picture.loadFromData(begin, static_cast<uint>(bytes.view().size()));
+  } catch (const std::exception&) {
     return {};
   }
+  return picture;
 }
 
 }  // namespace
@@ -102,7 +106,7 @@ void Binding::bind(Label& label, QLabel& widget, const Wording& wording) {
 }
 
 void Binding::bind(ListBox& list, LineList& widget) {
-  addLineActions(widget);
+  addLineActions(widget, runner_);
   enter(list, widget, [&list, &widget, watch = LineWatch(list.items())]() mutable {
     if (watch.changed()) widget.reload();
     widget.setEmphasis(list.emphasis());
@@ -124,7 +128,7 @@ void Binding::bind(ComboBox& combo, Picker& widget) {
 }
 
 void Binding::bind(ComboBox& combo, ChoiceList& widget) {
-  addLineActions(widget.list());
+  addLineActions(widget.list(), runner_);
   widget.onChosen = [this, &combo](const QString& item) {
     if (form_ != nullptr) take([&] { combo.setText(toText(item)); });
   };

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/chart_view.h"
 
+#include "core/text.h"
+#include "ui/qt/handler_runner.h"
 #include "ui/qt/layouts.h"
 #include "ui/qt/wording.h"
 
 #include <QAction>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <algorithm>
 #include <cmath>
 #include <qcustomplot.h>
+#include <stdexcept>
 
 namespace tallywick {
 
@@ -27,7 +29,7 @@ constexpr int wantedTicks = 5;
 
 }  // namespace
 
-ChartView::ChartView(QWidget* parent)
+ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
     : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
   columnIn(this)->addWidget(plot_);
   setFocusPolicy(Qt::StrongFocus);
@@ -38,7 +40,7 @@ ChartView::ChartView(QWidget* parent)
   plot_->xAxis->grid()->setVisible(false);
   plot_->xAxis->setSubTicks(false);
   plot_->yAxis->setSubTicks(false);
-  addActions();
+  addActions(runner);
   draw();
 }
 
@@ -117,13 +119,13 @@ void ChartView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
-void ChartView::addActions() {
+void ChartView::addActions(HandlerRunner& runner) {
   auto* save = new QAction(u"&Save as Picture…"_s, this);
   save->setShortcut(QKeySequence::Save);
-  connect(save, &QAction::triggered, this, &ChartView::saveAsPicture);
+  connect(save, &QAction::triggered, this, [this, &runner] { runner.attempt([this] { saveAsPicture(); }); });
   auto* paper = new QAction(u"&Print…"_s, this);
   paper->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
-  connect(paper, &QAction::triggered, this, &ChartView::print);
+  connect(paper, &QAction::triggered, this, [this, &runner] { runner.attempt([this] { print(); }); });
   for (QAction* action : {save, paper}) {
     action->setShortcutContext(Qt::WidgetShortcut);
     addAction(action);
@@ -135,7 +137,7 @@ void ChartView::saveAsPicture() {
   const QString file =
       QFileDialog::getSaveFileName(this, u"Save the Chart"_s, u"chart.png"_s, u"Pictures (*.png)"_s);
   if (file.isEmpty() || plot_->savePng(file, 0, 0, devicePixelRatioF())) return;
-  QMessageBox::warning(this, window()->windowTitle(), u"%1 could not be written."_s.arg(file));
+  throw std::runtime_error(join(toText(file), " could not be written"));
 }
 
 void ChartView::print() {

@@ -12,9 +12,11 @@ class QCustomPlot;
 
 namespace tallywick {
 
+class HandlerRunner;
+
 class ChartView : public QWidget {
  public:
-  explicit ChartView(QWidget* parent = nullptr);
+  explicit ChartView(HandlerRunner& runner, QWidget* parent = nullptr);
 
   void show(const Chart& chart);
   /// The title and each number with its count, for screen readers.
@@ -27,7 +29,7 @@ class ChartView : public QWidget {
   void draw();
   void addBar(int place, const Chart::Bar& bar);
   void colorAxes();
-  void addActions();
+  void addActions(HandlerRunner& runner);
   void saveAsPicture();
   void print();
 

@@ -37,7 +37,7 @@ DrawsView::DrawsView(DrawsPage& page, Binding& binding) {
 
 QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   auto* box = new QWidget;
-  auto* view = new ChartView(box);
+  auto* view = new ChartView(binding.runner(), box);
   auto* powerBall = new QPushButton(box);
   auto* doublePlay = new QPushButton(box);
   auto* buttons = row();

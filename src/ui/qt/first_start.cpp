@@ -25,20 +25,6 @@ namespace {
 
 const QString lastFolderKey = u"lastFolder"_s;
 
-QString shown(const fs::path& path) {
-  return QString::fromStdU16String(path.u16string());
-}
-
-fs::path pathOf(const QString& text) {
-  return fs::path(text.toStdU16String());
-}
-
-void tell(const QString& text) {
-  QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok);
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
-}
-
 bool makeSample(const fs::path& folder) {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   QString failure;
@@ -48,7 +34,8 @@ bool makeSample(const fs::path& folder) {
     failure = QString::fromUtf8(error.what());
   }
   QGuiApplication::restoreOverrideCursor();
-  if (!failure.isEmpty()) tell(u"The record book in %1 could not be made: %2"_s.arg(shown(folder), failure));
+  if (!failure.isEmpty())
+    tell(u"The record book in %1 could not be made: %2"_s.arg(pathText(folder), failure));
   return failure.isEmpty();
 }
 
@@ -56,7 +43,7 @@ bool makeSample(const fs::path& folder) {
 std::optional<fs::path> askForFolder() {
   const QString chosen = QFileDialog::getExistingDirectory(nullptr, u"Open a Record Book"_s);
   if (chosen.isEmpty()) return std::nullopt;
-  if (isDataFolder(pathOf(chosen))) return pathOf(chosen);
+  if (isDataFolder(toPath(chosen))) return toPath(chosen);
   tell(u"%1 holds no record book: there is no folder QzrNumbers in it."_s.arg(chosen));
   return std::nullopt;
 }
@@ -66,14 +53,14 @@ std::optional<fs::path> offerFolder(const fs::path& folder, const fs::path& last
   QMessageBox box(
       QMessageBox::Question, toQString(programTitle),
       u"There is no record book in %1 yet.\n\nA new one begins with sample draws and plays; an update brings the real draws."_s
-          .arg(shown(folder)));
+          .arg(pathText(folder)));
   box.setTextFormat(Qt::PlainText);
   const auto* make = box.addButton(u"&Make One with Samples"_s, QMessageBox::AcceptRole);
   const QAbstractButton* openLast = nullptr;
   if (isDataFolder(last)) openLast = box.addButton(u"Open the &Last One"_s, QMessageBox::AcceptRole);
   const auto* open = box.addButton(u"&Open Another…"_s, QMessageBox::ActionRole);
   box.addButton(u"&Quit"_s, QMessageBox::RejectRole);
-  if (openLast != nullptr) box.setInformativeText(u"The last one used is in %1."_s.arg(shown(last)));
+  if (openLast != nullptr) box.setInformativeText(u"The last one used is in %1."_s.arg(pathText(last)));
   box.exec();
   if (box.clickedButton() == make && makeSample(folder)) return folder;
   if (openLast != nullptr && box.clickedButton() == openLast) return last;
@@ -83,6 +70,12 @@ std::optional<fs::path> offerFolder(const fs::path& folder, const fs::path& last
 
 }  // namespace
 
+void tell(const QString& text) {
+  QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
 std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   const fs::path chosen = chooseDataFolder(named);
   if (offer == Offer::no) {
@@ -91,9 +84,9 @@ std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
     return std::nullopt;
   }
   QSettings settings;
-  const fs::path last = pathOf(settings.value(lastFolderKey).toString());
+  const fs::path last = toPath(settings.value(lastFolderKey).toString());
   std::optional<fs::path> found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
-  if (found) settings.setValue(lastFolderKey, shown(*found));
+  if (found) settings.setValue(lastFolderKey, pathText(*found));
   return found;
 }
 
@@ -101,7 +94,7 @@ std::optional<FolderHold> holdDataFolder(const fs::path& folder) {
   try {
     return FolderHold{os::FileLock(folder / lockName, os::FileLock::Wait::no)};
   } catch (const LockedByAnother&) {
-    tell(u"The record book in %1 is already open in another window of this program."_s.arg(shown(folder)));
+    tell(u"The record book in %1 is already open in another window of this program."_s.arg(pathText(folder)));
     return std::nullopt;
   } catch (const RuntimeError&) {
     // A folder that cannot be written is safe from a second program.

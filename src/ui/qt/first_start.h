@@ -4,6 +4,7 @@
 
 #include "core/os.h"
 
+#include <QString>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -11,6 +12,9 @@
 namespace tallywick {
 
 enum class Offer { no, yes };
+
+/// Shows a warning with the program's title.
+void tell(const QString& text);
 
 /// The data folder to work on. Where the chosen one holds no record book the user is offered to make one
 /// there, or to open another; nothing where he does neither. Without the offer it is only told.

@@ -35,11 +35,13 @@ FormWindow::FormWindow(Form& form, const Desk& desk)
     : form_(form), desk_(desk), binding_(form, desk.runner, desk.folder) {
   setObjectName(toQString(form.name()));
   setWindowTitle(toQString(form.title()));
+  binding_.mayPress = desk_.mayPress;
 }
 
 void FormWindow::answerHelpKey() {
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
-  connect(help, &QShortcut::activated, this, [this] { desk_.help(helpPage()); });
+  connect(help, &QShortcut::activated, this,
+          [this] { desk_.runner.attempt([this] { desk_.help(helpPage()); }); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

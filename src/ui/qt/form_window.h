@@ -20,6 +20,8 @@ struct Desk {
   std::function<void()> editSettings;
   /// Opens the help at a page of the manual.
   std::function<void(const QString& page)> help;
+  /// Whether a press of this control goes on to its handler; where not, the user has been told why.
+  std::function<bool(const Control&)> mayPress;
 };
 
 class TransferPanel;

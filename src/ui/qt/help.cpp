@@ -4,13 +4,18 @@
 #include "app/application.h"
 #include "core/games.h"
 #include "core/os.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
 #include "ui/qt/help_window.h"
 #include "ui/qt/qt_platform.h"
 #include "ui/qt/settings_dialog.h"
+#include "ui/qt/wording.h"
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <algorithm>
 #include <array>
+#include <iostream>
 
 namespace tallywick {
 
@@ -27,29 +32,60 @@ QString findViewer() {
   return {};
 }
 
+bool openCompiledHelp(const DataFolder& folder) {
+  try {
+    const QString viewer = folder.exists(helpFile) ? findViewer() : QString();
+    if (viewer.isEmpty()) return false;
+    os::startProgram(toPath(viewer), folder.resolve(helpFile), folder.root());
+    return true;
+  } catch (const RuntimeError&) {
+    return false;  // The folder cannot be read or the viewer not started: the manual needs neither.
+  }
+}
+
 }  // namespace
 
 void openHelp(const DataFolder& folder, const QString& page) {
-  const QString viewer = folder.exists(helpFile) ? findViewer() : QString();
-  if (!viewer.isEmpty()) {
-    os::startProgram(viewer.toStdU16String(), folder.resolve(helpFile), folder.root());
-    return;
+  if (!openCompiledHelp(folder)) HelpWindow::showPage(page);
+}
+
+Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform) {
+  try {
+    return readSettings(folder);
+  } catch (const std::exception& error) {
+    const std::string text =
+        join(error.what(), "\n\nThe file is left as it is; correct it with a text editor.");
+    std::cerr << "tallywick: " << error.what() << '\n';
+    platform.show({text, std::string(programTitle), MessageBox::Icon::exclamation});
   }
-  HelpWindow::showPage(page);
+  Settings none;
+  none.source = Settings::Source::server;
+  return none;
 }
 
 void editSettings(Application& application, QtPlatform& platform) {
   const DataFolder& folder = application.surroundings().folder;
-  try {
-    // A file that cannot be understood is not overwritten.
-    application.setSettings(readSettings(folder));
-    SettingsDialog dialog(application.settings(), QApplication::activeWindow());
-    if (dialog.exec() != QDialog::Accepted) return;
-    writeSettings(folder, dialog.settings());
-    application.setSettings(dialog.settings());
-  } catch (const std::exception& error) {
-    platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
+  // Somebody may have changed the file since.
+  application.setSettings(readSettings(folder));
+  SettingsDialog dialog(application.settings(), QApplication::activeWindow());
+  while (dialog.exec() == QDialog::Accepted) {
+    try {
+      writeSettings(folder, dialog.settings());
+      application.setSettings(dialog.settings());
+      return;
+    } catch (const std::exception& error) {
+      platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
+    }
   }
+}
+
+bool mayPress(const Application& application, QtPlatform& platform, const Control& control) {
+  constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
+  if (std::ranges::find(updates, control.name()) == updates.end()) return true;
+  if (!application.settings().server.empty()) return true;
+  platform.show({"No update server is set. Press Settings… and enter its address.", std::string(programTitle),
+                 MessageBox::Icon::information});
+  return false;
 }
 
 }  // namespace tallywick

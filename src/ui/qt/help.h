@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What F1 and the settings button open.
+// What the windows ask of the program: help, settings, and what a press needs.
 #pragma once
+
+#include "settings/settings.h"
 
 class QString;
 
 namespace tallywick {
 
 class Application;
+class Control;
 class DataFolder;
 class QtPlatform;
 
@@ -14,7 +17,15 @@ class QtPlatform;
 /// manual at `page`.
 void openHelp(const DataFolder& folder, const QString& page);
 
-/// Lets the user edit the settings; what he accepts is written to the data folder and holds at once.
+/// The settings to start with. Where the file cannot be understood a message says why, and nothing is
+/// updated from anywhere.
+Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform);
+
+/// Lets the user edit the settings; what is accepted is written to the data folder and used at once. A file
+/// that cannot be understood is not overwritten: it raises what readSettings() raises.
 void editSettings(Application& application, QtPlatform& platform);
+
+/// Whether a press of the control may go on to its handler; a message says what an update lacks.
+bool mayPress(const Application& application, QtPlatform& platform, const Control& control);
 
 }  // namespace tallywick

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/line_actions.h"
 
-#include "controls/surroundings.h"
 #include "core/file_commit.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "ui/qt/handler_runner.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/wording.h"
@@ -11,11 +13,10 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
-#include <filesystem>
+#include <stdexcept>
 
 namespace tallywick {
 
@@ -33,10 +34,9 @@ void save(LineList& list) {
   if (file.isEmpty()) return;
   const bool commas = file.endsWith(u".csv"_s, Qt::CaseInsensitive);
   try {
-    replaceFile(std::filesystem::path(file.toStdU16String()), commas ? asCommaSeparated(list) : asText(list));
-  } catch (const std::exception& error) {
-    QMessageBox::warning(&list, toQString(programTitle),
-                         u"%1 could not be written: %2"_s.arg(file, QString::fromUtf8(error.what())));
+    replaceFile(toPath(file), commas ? asCommaSeparated(list) : asText(list));
+  } catch (const RuntimeError& error) {
+    throw std::runtime_error(join(toText(file), " could not be written: ", error.description()));
   }
 }
 
@@ -51,21 +51,23 @@ void print(LineList& list) {
 }
 
 template <typename Do>
-void addAction(LineList& list, const QString& text, const QKeySequence& key, Do act) {
+void addAction(LineList& list, HandlerRunner& runner, const QString& text, const QKeySequence& key, Do act) {
   auto* action = new QAction(text, &list);
   action->setShortcut(key);
   action->setShortcutContext(Qt::WidgetShortcut);
-  QObject::connect(action, &QAction::triggered, &list, act);
+  QObject::connect(action, &QAction::triggered, &list,
+                   [&list, &runner, act] { runner.attempt([&list, act] { act(list); }); });
   list.addAction(action);
 }
 
 }  // namespace
 
-void addLineActions(LineList& list) {
-  addAction(list, u"&Copy"_s, QKeySequence::Copy, [&list] { copy(list); });
-  addAction(list, u"Select &All"_s, QKeySequence::SelectAll, [&list] { list.selectAll(); });
-  addAction(list, u"&Save…"_s, QKeySequence::Save, [&list] { save(list); });
-  addAction(list, u"&Print…"_s, Qt::CTRL | Qt::SHIFT | Qt::Key_P, [&list] { print(list); });
+void addLineActions(LineList& list, HandlerRunner& runner) {
+  addAction(list, runner, u"&Copy"_s, QKeySequence::Copy, copy);
+  addAction(list, runner, u"Select &All"_s, QKeySequence::SelectAll,
+            [](LineList& lines) { lines.selectAll(); });
+  addAction(list, runner, u"&Save…"_s, QKeySequence::Save, save);
+  addAction(list, runner, u"&Print…"_s, Qt::CTRL | Qt::SHIFT | Qt::Key_P, print);
   list.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 

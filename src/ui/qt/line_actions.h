@@ -6,9 +6,10 @@
 
 namespace tallywick {
 
+class HandlerRunner;
 class LineList;
 
-void addLineActions(LineList& list);
+void addLineActions(LineList& list, HandlerRunner& runner);
 
 /// All lines of a list as a text, or with their fields separated by commas. Each line has its end.
 std::string asText(const LineList& list);

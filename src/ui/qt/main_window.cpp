@@ -3,6 +3,7 @@
 
 #include "app/main_form.h"
 #include "ui/qt/draws_view.h"
+#include "ui/qt/handler_runner.h"
 #include "ui/qt/layout_memory.h"
 #include "ui/qt/layouts.h"
 #include "ui/qt/menu_bar.h"
@@ -95,7 +96,8 @@ void MainWindow::addMenusAndStatus() {
 void MainWindow::addKeys() {
   answerHelpKey();
   auto* print = new QShortcut(QKeySequence::Print, this);
-  connect(print, &QShortcut::activated, this, [this] { printSummary(main_, *this); });
+  connect(print, &QShortcut::activated, this,
+          [this] { desk().runner.attempt([this] { printSummary(main_, *this); }); });
 }
 
 QString MainWindow::helpPage() const {

@@ -3,6 +3,7 @@
 
 #include "app/main_form.h"
 #include "ui/qt/form_window.h"
+#include "ui/qt/handler_runner.h"
 #include "ui/qt/layouts.h"
 #include "ui/qt/transfer_panel.h"
 
@@ -81,7 +82,8 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   binding.bind(form.update.Command2, *update, withMnemonic('U'));
   binding.bind(form.update.ProgressBar1, *progress);
   binding.bind(form.bar.Command8, *next, withMnemonic('N'));
-  connect(settings, &QToolButton::clicked, &window, [&window] { window.desk().editSettings(); });
+  connect(settings, &QToolButton::clicked, &window,
+          [&window] { window.desk().runner.attempt([&window] { window.desk().editSettings(); }); });
   showGame();
 }
 

@@ -4,10 +4,28 @@
 #include "app/small_windows.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
 
 namespace tallywick {
 
 namespace {
+
+/// What is wrong with a size such as "1024x768"; empty where nothing is.
+std::string isSize(const std::string& text) {
+  constexpr int largest = 10000;
+  int width = 0;
+  int height = 0;
+  const char* const end = text.data() + text.size();
+  const auto [cross, wrongWidth] = std::from_chars(text.data(), end, width);
+  const bool hasCross = wrongWidth == std::errc() && cross != end && *cross == 'x';
+  if (hasCross) {
+    const auto [rest, wrongHeight] = std::from_chars(cross + 1, end, height);
+    const bool inRange = std::min(width, height) > 0 && std::max(width, height) <= largest;
+    if (wrongHeight == std::errc() && rest == end && inRange) return {};
+  }
+  return text + " is no size such as 1024x768";
+}
 
 void declare(CLI::App& line, Options& options) {
   line.set_version_flag("--version", std::string("tallywick ") + programVersion());
@@ -30,6 +48,7 @@ void declare(CLI::App& line, Options& options) {
       ->needs(picture);
   line.add_option("--size", options.size, "Gives the window this size, for example 1024x768")
       ->type_name("WxH")
+      ->check(isSize)
       ->needs(picture);
   line.allow_extras();
 }

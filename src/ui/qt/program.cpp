@@ -3,6 +3,7 @@
 
 #include "app/application.h"
 #include "ui/qt/first_start.h"
+#include "ui/qt/guarded_application.h"
 #include "ui/qt/help.h"
 #include "ui/qt/options.h"
 #include "ui/qt/program_icon.h"
@@ -10,8 +11,6 @@
 #include "ui/qt/screenshot.h"
 #include "ui/qt/transfer_window.h"
 
-#include <QApplication>
-#include <QMessageBox>
 #include <QTimer>
 #include <iostream>
 
@@ -38,52 +37,75 @@ class ToolkitArguments {
   int count_ = 0;
 };
 
-void nameProgram(bool takesPicture) {
+bool takesPicture(const Options& options) {
+  return !options.screenshot.empty();
+}
+
+void nameProgram(bool forPicture) {
   QCoreApplication::setOrganizationName(u"Tallywick"_s);
   // A picture shows the usual layout, whatever the user's own is.
-  QCoreApplication::setApplicationName(takesPicture ? u"tallywick-picture"_s : u"tallywick"_s);
+  QCoreApplication::setApplicationName(forPicture ? u"tallywick-picture"_s : u"tallywick"_s);
   QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
   QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
   // The model tells when the program ends.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-Settings settingsOf(const DataFolder& folder) {
-  try {
-    return readSettings(folder);
-  } catch (const std::exception& error) {
-    QMessageBox box(QMessageBox::Warning, toQString(programTitle), QString::fromUtf8(error.what()),
-                    QMessageBox::Ok);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-    return {};
-  }
-}
-
 void connectDesk(Application& application, QtPlatform& platform) {
-  platform.onClose = [&](Form& form) { application.close(form); };
-  platform.onEditSettings = [&] { editSettings(application, platform); };
-  platform.onHelp = [&](const QString& page) { openHelp(application.surroundings().folder, page); };
+  platform.onClose = [&application](Form& form) { application.close(form); };
+  platform.onEditSettings = [&application, &platform] { editSettings(application, platform); };
+  platform.onHelp = [&application](const QString& page) {
+    openHelp(application.surroundings().folder, page);
+  };
+  platform.onPress = [&application, &platform](const Control& control) {
+    return mayPress(application, platform, control);
+  };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {
   QTimer timer;
   timer.setSingleShot(true);
-  QObject::connect(&timer, &QTimer::timeout, [&] { platform.run([&] { application.splashTimer(); }); });
+  QObject::connect(&timer, &QTimer::timeout, &timer, [&application, &platform] {
+    platform.run([&application] { application.splashTimer(); });
+  });
   if (splash) timer.start(SplashForm::timerMilliseconds);
-  platform.run([&] { splash ? application.showSplash() : application.showMainWindow(); });
+  platform.run([&application, splash] { splash ? application.showSplash() : application.showMainWindow(); });
   return platform.ended() ? platform.exitCode() : QApplication::exec();
 }
 
-int runOn(const DataFolder& folder, const Options& options) {
+/// Lets the platform show what escapes from an event, as long as there is one.
+class ErrorsShownBy {
+ public:
+  ErrorsShownBy(GuardedApplication& qt, QtPlatform& platform) : qt_(qt) {
+    qt.onEscaped = [&platform](const RuntimeError& error) { platform.endWithError(error); };
+  }
+  ~ErrorsShownBy() { qt_.onEscaped = nullptr; }
+  ErrorsShownBy(const ErrorsShownBy&) = delete;
+  ErrorsShownBy& operator=(const ErrorsShownBy&) = delete;
+
+ private:
+  GuardedApplication& qt_;
+};
+
+int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt) {
   SystemClock clock;
   MixingGenerator random(entropy());
   QtPlatform platform(folder);
+  if (takesPicture(options)) platform.answerAlone();
+  const ErrorsShownBy shown(qt, platform);
   QtTransferWindow transferWindow;
-  Application application({folder, settingsOf(folder), clock, random, platform, {}, &transferWindow});
+  Application application(
+      {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
   connectDesk(application, platform);
-  if (!options.screenshot.empty()) return takeScreenshot(application, platform, options);
-  return runWindows(application, platform, !options.noSplash);
+  return takesPicture(options) ? takeScreenshot(application, platform, options)
+                               : runWindows(application, platform, !options.noSplash);
+}
+
+int runOnFolderOf(const Options& options, GuardedApplication& qt) {
+  const auto folder = findDataFolder(options.folder, takesPicture(options) ? Offer::no : Offer::yes);
+  if (!folder) return takesPicture(options) ? 1 : 0;
+  const auto hold = holdDataFolder(*folder);
+  return hold ? runOn(DataFolder(*folder), options, qt) : 1;
 }
 
 }  // namespace
@@ -92,17 +114,20 @@ int runProgram(int argumentCount, char** arguments) {
   Options options;
   if (const std::optional<int> done = readOptions(argumentCount, arguments, options)) return *done;
   ToolkitArguments toolkit(options.toolkitArguments);
-  nameProgram(!options.screenshot.empty());
-  const QApplication qt(toolkit.count(), toolkit.pointers());
+  nameProgram(takesPicture(options));
+  GuardedApplication qt(toolkit.count(), toolkit.pointers());
   if (toolkit.count() > 1) {
     std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help tells them\n";
     return 2;
   }
   QGuiApplication::setWindowIcon(programIcon());
-  const auto folder = findDataFolder(options.folder, options.screenshot.empty() ? Offer::yes : Offer::no);
-  if (!folder) return options.screenshot.empty() ? 0 : 1;
-  const auto hold = holdDataFolder(*folder);
-  return hold ? runOn(DataFolder(*folder), options) : 1;
+  try {
+    return runOnFolderOf(options, qt);
+  } catch (const std::exception& error) {
+    // Who started the program from the desktop sees no standard error.
+    if (!takesPicture(options)) tell(QString::fromUtf8(error.what()));
+    throw;
+  }
 }
 
 }  // namespace tallywick

@@ -67,6 +67,8 @@ QtPlatform::~QtPlatform() {
     window->binding().release();
     delete window;
   }
+  // Those that were closed wait for an event loop, and none comes any more.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void QtPlatform::run(const std::function<void()>& handler) {
@@ -86,6 +88,17 @@ void QtPlatform::runGuarded(const std::function<void()>& handler) {
     showChanges();
   } catch (...) {
     endWithError(currentRuntimeError());
+  }
+}
+
+void QtPlatform::attempt(const std::function<void()>& action) {
+  if (ended_) return;
+  try {
+    action();
+  } catch (const std::exception& error) {
+    tell(error.what());
+  } catch (...) {
+    tell(currentRuntimeError().what());
   }
 }
 
@@ -138,7 +151,7 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
 }
 
 void QtPlatform::openWindow(Form& form) {
-  const Desk desk = {*this, folder_, onClose, onEditSettings, onHelp};
+  const Desk desk = {*this, folder_, onClose, onEditSettings, onHelp, onPress};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);
   window->move(centred(*window));
@@ -207,9 +220,17 @@ void QtPlatform::end(int exitCode) {
 
 void QtPlatform::endWithError(const RuntimeError& error) {
   std::cerr << "tallywick: " << error.what() << std::endl;
-  show({error.boxText(), std::string(programTitle), MessageBox::Icon::exclamation});
-  for (FormWindow* window : windows_) window->keepLayout();
+  tell(error.boxText());
   end(1);
+}
+
+/// Shows a message as far as that is still possible: what stopped an action may stop the box too.
+void QtPlatform::tell(const std::string& text) {
+  try {
+    show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+  } catch (...) {
+    std::cerr << "tallywick: " << text << std::endl;
+  }
 }
 
 }  // namespace tallywick

@@ -25,8 +25,12 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void(Form&)> onClose;
   std::function<void()> onEditSettings;
   std::function<void(const QString& page)> onHelp;
+  std::function<bool(const Control& control)> onPress;
 
   void run(const std::function<void()>& handler) override;
+  void attempt(const std::function<void()>& action) override;
+  /// Shows the error and ends the program with exit code 1.
+  void endWithError(const RuntimeError& error);
 
   /// Nobody is there: boxes are not shown, and a question is answered with No.
   void answerAlone() { alone_ = true; }
@@ -57,7 +61,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   /// Takes the panel off the screen and closes the windows that were to be closed meanwhile.
   void endTransfer();
   void end(int exitCode);
-  void endWithError(const RuntimeError& error);
+  void tell(const std::string& text);
 
   const DataFolder& folder_;
   std::vector<FormWindow*> windows_;

@@ -45,7 +45,6 @@ void open(Application& application, const Options& options) {
 }  // namespace
 
 int takeScreenshot(Application& application, QtPlatform& platform, const Options& options) {
-  platform.answerAlone();
   platform.run([&] { open(application, options); });
   for (const std::string& name : options.press) {
     Control* control = findControl(application, name);

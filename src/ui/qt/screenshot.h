@@ -8,7 +8,8 @@ class Application;
 class QtPlatform;
 struct Options;
 
-/// Opens the window that the options ask for and saves its picture. 0, or 1 where it cannot be taken.
+/// Opens the window that the options ask for, on a platform that answers alone, and saves its picture. 0, or
+/// 1 where it cannot be taken.
 int takeScreenshot(Application& application, QtPlatform& platform, const Options& options);
 
 }  // namespace tallywick

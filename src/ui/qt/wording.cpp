@@ -37,6 +37,16 @@ std::string toText(const QString& text) {
   return text.toStdString();
 }
 
+QString pathText(const std::filesystem::path& file) {
+  const std::u8string text = file.u8string();
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::filesystem::path toPath(const QString& file) {
+  const std::string text = toText(file);
+  return std::u8string(text.begin(), text.end());
+}
+
 Wording literally() {
   return [](std::string_view caption) { return escaped(toQString(caption)); };
 }

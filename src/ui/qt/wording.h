@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -12,6 +13,9 @@ namespace tallywick {
 
 QString toQString(std::string_view text);
 std::string toText(const QString& text);
+/// A file's path as text; bytes that are no UTF-8 are shown as question marks.
+QString pathText(const std::filesystem::path& file);
+std::filesystem::path toPath(const QString& file);
 
 /// How a caption is put on the screen.
 using Wording = std::function<QString(std::string_view caption)>;
