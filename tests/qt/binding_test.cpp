@@ -4,7 +4,7 @@
 #include "app/main_form.h"
 #include "qt/desk_fixture.h"
 #include "ui/qt/parts/line_list.h"
-#include "ui/qt/picker.h"
+#include "ui/qt/parts/picker.h"
 
 #include <QAction>
 #include <QCompleter>

@@ -5,7 +5,7 @@
 #include "app/application.h"
 #include "selection/selection_fixture.h"
 #include "support/scratch_folder.h"
-#include "ui/qt/qt_platform.h"
+#include "ui/qt/program/qt_platform.h"
 
 #include <QApplication>
 #include <QMessageBox>

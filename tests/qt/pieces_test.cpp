@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pieces that the windows are made of, each by itself.
 #include "app/main_form.h"
-#include "ui/qt/ball_picture.h"
-#include "ui/qt/chart_view.h"
-#include "ui/qt/choice_list.h"
-#include "ui/qt/handler_runner.h"
-#include "ui/qt/line_actions.h"
+#include "ui/qt/dialogs/settings_dialog.h"
+#include "ui/qt/pages/summary_print.h"
+#include "ui/qt/parts/ball_picture.h"
+#include "ui/qt/parts/chart_view.h"
+#include "ui/qt/parts/choice_list.h"
+#include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
-#include "ui/qt/settings_dialog.h"
-#include "ui/qt/summary_print.h"
-#include "ui/qt/transfer_window.h"
-#include "ui/qt/wording.h"
+#include "ui/qt/parts/wording.h"
+#include "ui/qt/windows/transfer_window.h"
 
 #include <QAction>
 #include <QApplication>

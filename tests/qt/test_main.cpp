@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the window tests without a display and without the user's own settings.
-#include "ui/qt/guarded_application.h"
+#include "ui/qt/program/guarded_application.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

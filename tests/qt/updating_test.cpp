@@ -4,8 +4,8 @@
 #include "app/main_form.h"
 #include "qt/desk_fixture.h"
 #include "support/fake_transfer.h"
-#include "ui/qt/picker.h"
-#include "ui/qt/transfer_panel.h"
+#include "ui/qt/parts/picker.h"
+#include "ui/qt/windows/transfer_panel.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/program_run.h"
-#include "ui/qt/program.h"
+#include "ui/qt/program/program.h"
 
 int main(int argumentCount, char** arguments) {
   return tallywick::runToItsEnd("tallywick", [&] { return tallywick::runProgram(argumentCount, arguments); });

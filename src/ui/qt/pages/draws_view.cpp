@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/pages/draws_view.h"
+
+#include "display/draws_page.h"
+#include "ui/qt/binding/binding.h"
+#include "ui/qt/parts/ball_picture.h"
+#include "ui/qt/parts/chart_view.h"
+#include "ui/qt/parts/layouts.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void addPictures(QGridLayout& grid, const QString& title, ImageRow& images, Binding& binding) {
+  const int line = grid.rowCount();
+  auto* label = new QLabel(title);
+  grid.addWidget(label, line, 0);
+  for (std::size_t i = 0; i < images.size(); ++i) {
+    auto* picture = new BallPicture;
+    grid.addWidget(picture, line, static_cast<int>(i) + 1);
+    binding.bind(images[i], *picture);
+  }
+}
+
+}  // namespace
+
+DrawsView::DrawsView(DrawsPage& page, Binding& binding) {
+  auto* column = columnIn(this, theme::pageMargin);
+  column->addWidget(chart(page, binding), 1);
+  column->addWidget(pictures(page, binding));
+}
+
+QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
+  auto* box = new QWidget;
+  auto* view = new ChartView(binding.runner(), box);
+  auto* powerBall = new QPushButton(box);
+  auto* doublePlay = new QPushButton(box);
+  auto* buttons = row();
+  buttons->addWidget(powerBall);
+  buttons->addWidget(doublePlay);
+  buttons->addStretch();
+  auto* column = columnIn(box);
+  column->addWidget(view, 1);
+  column->addLayout(buttons);
+  binding.bind(page.Draw1, *view);
+  binding.bind(page.Command52, *powerBall, withMnemonic('L'));
+  binding.bind(page.Command27, *doublePlay, withMnemonic('B'));
+  return box;
+}
+
+QWidget* DrawsView::pictures(DrawsPage& page, Binding& binding) {
+  auto* box = new QWidget;
+  auto* grid = new QGridLayout;
+  grid->setSpacing(theme::gap);
+  addPictures(*grid, u"PowerBall"_s, page.powerBallImages, binding);
+  addPictures(*grid, u"PowerBall Double Play"_s, page.doublePlayImages, binding);
+  addPictures(*grid, u"Mega Millions"_s, page.megaMillionsImages, binding);
+  grid->setColumnStretch(7, 1);
+  auto* show = new QPushButton(box);
+  auto* title = row();
+  title->addWidget(heading(box, u"Newest Draws"_s));
+  title->addStretch();
+  title->addWidget(show);
+  auto* column = columnIn(box);
+  column->addLayout(title);
+  column->addLayout(grid);
+  binding.bind(page.Command3, *show, withMnemonic('A'));
+  return box;
+}
+
+}  // namespace tallywick

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/parts/chart_view.h"
+
+#include "core/text.h"
+#include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/wording.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <algorithm>
+#include <cmath>
+#include <qcustomplot.h>
+#include <stdexcept>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double barWidth = 0.6;
+/// Room over the tallest bar for its count.
+constexpr double headroom = 1.15;
+constexpr double leastHeight = 5;
+constexpr int wantedTicks = 5;
+
+}  // namespace
+
+ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
+    : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
+  columnIn(this)->addWidget(plot_);
+  setFocusPolicy(Qt::StrongFocus);
+  setMinimumHeight(22 * theme::gap);
+  plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  plot_->plotLayout()->insertRow(0);
+  plot_->plotLayout()->addElement(0, 0, heading_);
+  plot_->xAxis->grid()->setVisible(false);
+  plot_->xAxis->setSubTicks(false);
+  plot_->yAxis->setSubTicks(false);
+  addActions(runner);
+  draw();
+}
+
+void ChartView::show(const Chart& chart) {
+  title_ = toQString(chart.title());
+  bars_ = chart.bars();
+  setAccessibleName(title_);
+  setAccessibleDescription(inWords(title_, bars_));
+  draw();
+}
+
+QString ChartView::inWords(const QString& title, const std::vector<Chart::Bar>& bars) {
+  QString text = title;
+  for (const Chart::Bar& bar : bars) {
+    text += u"%1 %2: %3"_s.arg(&bar == &bars.front() ? u"."_s : u","_s, toQString(bar.label),
+                               QString::number(bar.value));
+  }
+  return text;
+}
+
+void ChartView::draw() {
+  plot_->clearPlottables();
+  plot_->clearItems();
+  double tallest = leastHeight;
+  auto names = QSharedPointer<QCPAxisTickerText>::create();
+  for (std::size_t i = 0; i < bars_.size(); ++i) {
+    const int place = static_cast<int>(i);
+    names->addTick(place, toQString(bars_[i].label));
+    addBar(place, bars_[i]);
+    tallest = std::max(tallest, bars_[i].value);
+  }
+  plot_->xAxis->setTicker(names);
+  plot_->xAxis->setRange(-1, std::max(1, static_cast<int>(bars_.size())));
+  plot_->yAxis->setRange(0, tallest * headroom);
+  // Counts are whole numbers.
+  auto counts = QSharedPointer<QCPAxisTickerFixed>::create();
+  counts->setTickStep(std::max(1.0, std::ceil(tallest / wantedTicks)));
+  plot_->yAxis->setTicker(counts);
+  heading_->setText(title_);
+  colorAxes();
+  plot_->replot();
+}
+
+void ChartView::addBar(int place, const Chart::Bar& bar) {
+  const QColor ground = palette().base().color();
+  auto* bars = new QCPBars(plot_->xAxis, plot_->yAxis);
+  bars->setWidth(barWidth);
+  bars->setBrush(theme::toQColor(bar.color, palette()));
+  bars->setPen(theme::standingOutFrom(ground, palette().text().color(), theme::shapeContrast));
+  bars->addData(place, bar.value);
+  auto* count = new QCPItemText(plot_);
+  count->position->setCoords(place, bar.value);
+  count->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+  count->setText(QString::number(bar.value));
+  count->setFont(theme::headingFont(font()));
+  count->setColor(palette().text().color());
+}
+
+void ChartView::colorAxes() {
+  const QColor text = palette().text().color();
+  const QColor ground = palette().base().color();
+  plot_->setBackground(ground);
+  heading_->setTextColor(text);
+  heading_->setFont(theme::headingFont(font()));
+  for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
+    axis->setBasePen(text);
+    axis->setTickPen(text);
+    axis->setTickLabelColor(text);
+    axis->setTickLabelFont(font());
+    axis->grid()->setPen(QPen(theme::mixed(ground, text, 0.25), 0, Qt::DotLine));
+  }
+}
+
+void ChartView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) draw();
+  QWidget::changeEvent(event);
+}
+
+void ChartView::addActions(HandlerRunner& runner) {
+  auto* save = new QAction(u"&Save as Picture…"_s, this);
+  save->setShortcut(QKeySequence::Save);
+  connect(save, &QAction::triggered, this, [this, &runner] { runner.attempt([this] { saveAsPicture(); }); });
+  auto* paper = new QAction(u"&Print…"_s, this);
+  paper->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+  connect(paper, &QAction::triggered, this, [this, &runner] { runner.attempt([this] { print(); }); });
+  for (QAction* action : {save, paper}) {
+    action->setShortcutContext(Qt::WidgetShortcut);
+    addAction(action);
+  }
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void ChartView::saveAsPicture() {
+  const QString file =
+      QFileDialog::getSaveFileName(this, u"Save the Chart"_s, u"chart.png"_s, u"Pictures (*.png)"_s);
+  if (file.isEmpty() || plot_->savePng(file, 0, 0, devicePixelRatioF())) return;
+  throw std::runtime_error(join(toText(file), " could not be written"));
+}
+
+void ChartView::print() {
+  QPrinter printer;
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  QCPPainter painter(&printer);
+  const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+  const double scale =
+      std::min(page.width() / double(plot_->width()), page.height() / double(plot_->height()));
+  painter.scale(scale, scale);
+  plot_->toPainter(&painter);
+}
+
+}  // namespace tallywick

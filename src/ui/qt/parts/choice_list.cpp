@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/parts/choice_list.h"
+
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/parts/theme.h"
+
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace tallywick {
+
+ChoiceList::ChoiceList(const TextLines& lines, QWidget* parent)
+    : QWidget(parent), text_(new QLineEdit(this)), list_(new LineList(lines, this)) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(theme::halfGap);
+  column->addWidget(text_);
+  column->addWidget(list_, 1);
+  text_->setReadOnly(true);
+  text_->setFocusPolicy(Qt::NoFocus);
+  text_->setFont(theme::listFont(font()));
+  setFocusProxy(list_);
+  const auto choose = [this](const QModelIndex& index) {
+    if (index.isValid() && onChosen) onChosen(index.data().toString());
+  };
+  connect(list_, &QAbstractItemView::clicked, this, choose);
+  connect(list_, &QAbstractItemView::activated, this, choose);
+  connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this, choose](const QModelIndex& now) {
+            if (list_->hasFocus()) choose(now);
+          });
+}
+
+void ChoiceList::showText(const QString& text) {
+  text_->setText(text);
+  text_->setCursorPosition(0);
+}
+
+}  // namespace tallywick

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/parts/wording.h"
+
+#include "core/text.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+#include <vector>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString escaped(QString text) {
+  return text.replace(u'&', u"&&"_s);
+}
+
+QString singleAmpersands(std::string_view caption) {
+  return toQString(caption).replace(u"&&"_s, u"&"_s);
+}
+
+QString marked(const QString& text, char letter) {
+  const auto at = text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+  if (at < 0) return escaped(text);
+  return escaped(text.left(at)) + u'&' + escaped(text.mid(at));
+}
+
+}  // namespace
+
+QString toQString(std::string_view text) {
+  return QString::fromStdString(asUtf8(text));
+}
+
+std::string toText(const QString& text) {
+  return text.toStdString();
+}
+
+QString pathText(const std::filesystem::path& file) {
+  const std::u8string text = file.u8string();
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::filesystem::path toPath(const QString& file) {
+  const std::string text = toText(file);
+  return std::u8string(text.begin(), text.end());
+}
+
+Wording literally() {
+  return [](std::string_view caption) { return escaped(toQString(caption)); };
+}
+
+Wording withMnemonic(char letter) {
+  return [letter](std::string_view caption) { return marked(toQString(caption), letter); };
+}
+
+Wording asLabel() {
+  return singleAmpersands;
+}
+
+Wording asLabelOfControl(char letter) {
+  return [letter](std::string_view caption) { return marked(singleAmpersands(caption), letter); };
+}
+
+Wording overColumns(std::initializer_list<int> columns) {
+  return [columns = std::vector<int>(columns)](std::string_view caption) {
+    static const QRegularExpression gaps(u" {2,}"_s);
+    const QStringList words = singleAmpersands(caption).trimmed().split(gaps, Qt::SkipEmptyParts);
+    QString heading;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+      const auto column =
+          static_cast<std::size_t>(i) < columns.size() ? columns[static_cast<std::size_t>(i)] : 0;
+      heading = heading.leftJustified(std::max(static_cast<int>(heading.size()) + (i == 0 ? 0 : 1), column));
+      heading += words[i];
+    }
+    return heading;
+  };
+}
+
+}  // namespace tallywick

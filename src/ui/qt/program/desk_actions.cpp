@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/program/desk_actions.h"
+
+#include "app/application.h"
+#include "core/games.h"
+#include "core/os.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "ui/qt/dialogs/settings_dialog.h"
+#include "ui/qt/parts/wording.h"
+#include "ui/qt/program/qt_platform.h"
+#include "ui/qt/windows/help_window.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+namespace tallywick {
+
+namespace {
+
+/// Programs that show a compiled help file given as their argument.
+constexpr std::array viewers = {"hh", "kchmviewer", "uchmviewer", "xchm"};
+
+QString findViewer() {
+  for (const char* viewer : viewers) {
+    const QString program = QStandardPaths::findExecutable(QString::fromLatin1(viewer));
+    if (!program.isEmpty()) return program;
+  }
+  return {};
+}
+
+bool openCompiledHelp(const DataFolder& folder) {
+  try {
+    const QString viewer = folder.exists(helpFile) ? findViewer() : QString();
+    if (viewer.isEmpty()) return false;
+    os::startProgram(toPath(viewer), folder.resolve(helpFile), folder.root());
+    return true;
+  } catch (const RuntimeError&) {
+    return false;  // The folder cannot be read or the viewer not started: the manual needs neither.
+  }
+}
+
+}  // namespace
+
+void openHelp(const DataFolder& folder, const QString& page) {
+  if (!openCompiledHelp(folder)) HelpWindow::showPage(page);
+}
+
+Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform) {
+  try {
+    return readSettings(folder);
+  } catch (const std::exception& error) {
+    const std::string text =
+        join(error.what(), "\n\nThe file is left as it is; correct it with a text editor.");
+    std::cerr << "tallywick: " << error.what() << '\n';
+    platform.show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+  }
+  Settings none;
+  none.source = Settings::Source::server;
+  return none;
+}
+
+void editSettings(Application& application, QtPlatform& platform) {
+  const DataFolder& folder = application.surroundings().folder;
+  // Somebody may have changed the file since.
+  application.setSettings(readSettings(folder));
+  SettingsDialog dialog(application.settings(), QApplication::activeWindow());
+  while (dialog.exec() == QDialog::Accepted) {
+    try {
+      writeSettings(folder, dialog.settings());
+      application.setSettings(dialog.settings());
+      return;
+    } catch (const std::exception& error) {
+      platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
+    }
+  }
+}
+
+bool mayPress(const Application& application, QtPlatform& platform, const Control& control) {
+  constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
+  if (std::ranges::find(updates, control.name()) == updates.end()) return true;
+  if (!application.settings().server.empty()) return true;
+  platform.show({"No update server is set. Press Settings… and enter its address.", std::string(programTitle),
+                 MessageBox::Icon::information});
+  return false;
+}
+
+}  // namespace tallywick

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/program/guarded_application.h"
+
+#include <QTimer>
+#include <iostream>
+#include <utility>
+
+namespace tallywick {
+
+bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (...) {
+    // In the middle of an event no box can be shown.
+    if (!std::exchange(ending_, true))
+      QTimer::singleShot(0, this, [this, error = currentRuntimeError()] { end(error); });
+    return false;
+  }
+}
+
+void GuardedApplication::end(const RuntimeError& error) {
+  ending_ = false;
+  if (onEscaped) {
+    onEscaped(error);
+    return;
+  }
+  std::cerr << "tallywick: " << error.what() << '\n';
+  exit(1);
+}
+
+}  // namespace tallywick

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/program/options.h"
+
+#include "app/small_windows.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+
+namespace tallywick {
+
+namespace {
+
+/// What is wrong with a size such as "1024x768"; empty where nothing is.
+std::string isSize(const std::string& text) {
+  constexpr int largest = 10000;
+  int width = 0;
+  int height = 0;
+  const char* const end = text.data() + text.size();
+  const auto [cross, wrongWidth] = std::from_chars(text.data(), end, width);
+  const bool hasCross = wrongWidth == std::errc() && cross != end && *cross == 'x';
+  if (hasCross) {
+    const auto [rest, wrongHeight] = std::from_chars(cross + 1, end, height);
+    const bool inRange = std::min(width, height) > 0 && std::max(width, height) <= largest;
+    if (wrongHeight == std::errc() && rest == end && inRange) return {};
+  }
+  return text + " is no size such as 1024x768";
+}
+
+void declare(CLI::App& line, Options& options) {
+  line.set_version_flag("--version", std::string("tallywick ") + programVersion());
+  line.add_option("--folder", options.folder, "The data folder")->type_name("DIR");
+  line.add_flag("--no-splash", options.noSplash, "Opens the main window at once");
+  CLI::Option* picture =
+      line.add_option("--screenshot", options.screenshot, "Saves a picture of the window and ends")
+          ->type_name("FILE");
+  line.add_option("--page", options.page, "Shows page 0 to 3 in the picture")
+      ->type_name("N")
+      ->check(CLI::Range(0, 3))
+      ->needs(picture);
+  line.add_option("--press", options.press, "Presses this control before the picture is taken")
+      ->type_name("NAME")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->needs(picture);
+  line.add_option("--window", options.window, "Takes the picture of this window")
+      ->type_name("NAME")
+      ->needs(picture);
+  line.add_option("--size", options.size, "Gives the window this size, for example 1024x768")
+      ->type_name("WxH")
+      ->check(isSize)
+      ->needs(picture);
+  line.allow_extras();
+}
+
+}  // namespace
+
+std::optional<int> readOptions(int argumentCount, char** arguments, Options& options) {
+  CLI::App line("A record book for PowerBall and Mega Millions.", "tallywick");
+  declare(line, options);
+  try {
+    line.parse(argumentCount, arguments);
+  } catch (const CLI::ParseError& error) {
+    return line.exit(error) == 0 ? 0 : 2;
+  }
+  options.toolkitArguments = line.remaining();
+  options.toolkitArguments.insert(options.toolkitArguments.begin(), "tallywick");
+  return std::nullopt;
+}
+
+}  // namespace tallywick

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/program/program.h"
+
+#include "app/application.h"
+#include "ui/qt/dialogs/first_start.h"
+#include "ui/qt/program/desk_actions.h"
+#include "ui/qt/program/guarded_application.h"
+#include "ui/qt/program/options.h"
+#include "ui/qt/program/program_icon.h"
+#include "ui/qt/program/qt_platform.h"
+#include "ui/qt/program/screenshot.h"
+#include "ui/qt/windows/transfer_window.h"
+
+#include <QTimer>
+#include <iostream>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The arguments in the form that the toolkit takes and keeps using.
+class ToolkitArguments {
+ public:
+  explicit ToolkitArguments(const std::vector<std::string>& arguments) : texts_(arguments) {
+    for (std::string& text : texts_) pointers_.push_back(text.data());
+    count_ = static_cast<int>(pointers_.size());
+    pointers_.push_back(nullptr);
+  }
+  int& count() { return count_; }
+  char** pointers() { return pointers_.data(); }
+
+ private:
+  std::vector<std::string> texts_;
+  std::vector<char*> pointers_;
+  int count_ = 0;
+};
+
+bool takesPicture(const Options& options) {
+  return !options.screenshot.empty();
+}
+
+void nameProgram(bool forPicture) {
+  QCoreApplication::setOrganizationName(u"Tallywick"_s);
+  // A picture shows the usual layout, whatever the user's own is.
+  QCoreApplication::setApplicationName(forPicture ? u"tallywick-picture"_s : u"tallywick"_s);
+  QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
+  QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
+  // The model tells when the program ends.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+void connectDesk(Application& application, QtPlatform& platform) {
+  platform.onClose = [&application](Form& form) { application.close(form); };
+  platform.onEditSettings = [&application, &platform] { editSettings(application, platform); };
+  platform.onHelp = [&application](const QString& page) {
+    openHelp(application.surroundings().folder, page);
+  };
+  platform.onPress = [&application, &platform](const Control& control) {
+    return mayPress(application, platform, control);
+  };
+}
+
+int runWindows(Application& application, QtPlatform& platform, bool splash) {
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, &timer, [&application, &platform] {
+    platform.run([&application] { application.splashTimer(); });
+  });
+  if (splash) timer.start(SplashForm::timerMilliseconds);
+  platform.run([&application, splash] { splash ? application.showSplash() : application.showMainWindow(); });
+  return platform.ended() ? platform.exitCode() : QApplication::exec();
+}
+
+/// Lets the platform show what escapes from an event, as long as there is one.
+class ErrorsShownBy {
+ public:
+  ErrorsShownBy(GuardedApplication& qt, QtPlatform& platform) : qt_(qt) {
+    qt.onEscaped = [&platform](const RuntimeError& error) { platform.endWithError(error); };
+  }
+  ~ErrorsShownBy() { qt_.onEscaped = nullptr; }
+  ErrorsShownBy(const ErrorsShownBy&) = delete;
+  ErrorsShownBy& operator=(const ErrorsShownBy&) = delete;
+
+ private:
+  GuardedApplication& qt_;
+};
+
+int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt) {
+  SystemClock clock;
+  MixingGenerator random(entropy());
+  QtPlatform platform(folder);
+  if (takesPicture(options)) platform.answerAlone();
+  const ErrorsShownBy shown(qt, platform);
+  QtTransferWindow transferWindow;
+  Application application(
+      {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
+  connectDesk(application, platform);
+  return takesPicture(options) ? takeScreenshot(application, platform, options)
+                               : runWindows(application, platform, !options.noSplash);
+}
+
+int runOnFolderOf(const Options& options, GuardedApplication& qt) {
+  const auto folder = findDataFolder(options.folder, takesPicture(options) ? Offer::no : Offer::yes);
+  if (!folder) return takesPicture(options) ? 1 : 0;
+  const auto hold = holdDataFolder(*folder);
+  return hold ? runOn(DataFolder(*folder), options, qt) : 1;
+}
+
+}  // namespace
+
+int runProgram(int argumentCount, char** arguments) {
+  Options options;
+  if (const std::optional<int> done = readOptions(argumentCount, arguments, options)) return *done;
+  ToolkitArguments toolkit(options.toolkitArguments);
+  nameProgram(takesPicture(options));
+  GuardedApplication qt(toolkit.count(), toolkit.pointers());
+  if (toolkit.count() > 1) {
+    std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help tells them\n";
+    return 2;
+  }
+  QGuiApplication::setWindowIcon(programIcon());
+  try {
+    return runOnFolderOf(options, qt);
+  } catch (const std::exception& error) {
+    // Who started the program from the desktop sees no standard error.
+    if (!takesPicture(options)) tell(QString::fromUtf8(error.what()));
+    throw;
+  }
+}
+
+}  // namespace tallywick

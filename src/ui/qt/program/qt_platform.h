@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop that the program runs on: its windows, message boxes, pages and programs.
+#pragma once
+
+#include "app/platform.h"
+#include "core/data_folder.h"
+#include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/windows/form_window.h"
+#include "ui/qt/windows/transfer_input.h"
+
+#include <QPointer>
+#include <functional>
+#include <vector>
+
+namespace tallywick {
+
+class RuntimeError;
+
+class QtPlatform : public Platform, public HandlerRunner {
+ public:
+  explicit QtPlatform(const DataFolder& folder);
+  ~QtPlatform() override;
+
+  /// What the windows ask of the program; set before the first one opens.
+  std::function<void(Form&)> onClose;
+  std::function<void()> onEditSettings;
+  std::function<void(const QString& page)> onHelp;
+  std::function<bool(const Control& control)> onPress;
+
+  void run(const std::function<void()>& handler) override;
+  void attempt(const std::function<void()>& action) override;
+  /// Shows the error and ends the program with exit code 1.
+  void endWithError(const RuntimeError& error);
+
+  /// Nobody is there: boxes are not shown, and a question is answered with No.
+  void answerAlone() { alone_ = true; }
+
+  MessageBox::Answer show(const MessageBox& box) override;
+  void refresh() override;
+  void progress(const TransferProgress& soFar) override;
+  bool cancelled() override;
+  void start(std::string_view program, std::string_view workingFolder) override;
+  void openWindow(Form& form) override;
+  void closeWindow(Form& form) override;
+  void openPage(std::string_view address) override;
+  std::string registryValue(std::string_view key, std::string_view value) override;
+  bool fileExists(std::string_view path) override;
+  void endProgram() override;
+
+  /// Null where the form has no open window.
+  FormWindow* windowOf(const Form& form) const;
+  /// Whether the program is to end, and with which exit code.
+  bool ended() const { return ended_; }
+  int exitCode() const { return exitCode_; }
+
+ private:
+  void runGuarded(const std::function<void()>& handler);
+  void showChanges();
+  /// The first window's that has one; null without.
+  TransferPanel* transferPanel() const;
+  /// Takes the panel off the screen and closes the windows that were to be closed meanwhile.
+  void endTransfer();
+  void end(int exitCode);
+  void tell(const std::string& text);
+
+  const DataFolder& folder_;
+  std::vector<FormWindow*> windows_;
+  TransferInput transferInput_;
+  /// To be closed when the handler has ended.
+  std::vector<QPointer<FormWindow>> closing_;
+  bool running_ = false;
+  bool alone_ = false;
+  bool ended_ = false;
+  int exitCode_ = 0;
+};
+
+}  // namespace tallywick

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A window on the screen: a model's form, its widgets and the binding between them.
+#pragma once
+
+#include "ui/qt/binding/binding.h"
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+namespace tallywick {
+
+/// What a window needs of the program.
+struct Desk {
+  HandlerRunner& runner;
+  const DataFolder& folder;
+  /// What closing a window by its frame does.
+  std::function<void(Form&)> close;
+  /// Lets the user edit the settings.
+  std::function<void()> editSettings;
+  /// Opens the help at a page of the manual.
+  std::function<void(const QString& page)> help;
+  /// Whether a press of this control goes on to its handler; where not, the user has been told why.
+  std::function<bool(const Control&)> mayPress;
+};
+
+class TransferPanel;
+
+class FormWindow : public QMainWindow {
+ public:
+  FormWindow(Form& form, const Desk& desk);
+
+  Form& form() { return form_; }
+  Binding& binding() { return binding_; }
+  const Desk& desk() const { return desk_; }
+
+  /// The page of the manual that tells about what is in front.
+  virtual QString helpPage() const = 0;
+  /// Keeps sizes for the next time; called before the window goes.
+  virtual void keepLayout() {}
+  /// Where a transfer shows how far it is and can be cancelled; null where this window has no such place.
+  virtual TransferPanel* transferPanel() const { return nullptr; }
+
+ protected:
+  /// F1 opens the help at helpPage().
+  void answerHelpKey();
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  Form& form_;
+  Desk desk_;
+  Binding binding_;
+};
+
+/// The window for a form of the model. Every control of the form has its widget.
+std::unique_ptr<FormWindow> makeWindow(Form& form, const Desk& desk);
+
+}  // namespace tallywick

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window: the bar, the four pages, the menus and the status bar.
+#pragma once
+
+#include "ui/qt/windows/form_window.h"
+
+class QTabWidget;
+
+namespace tallywick {
+
+class MainForm;
+class NavigationBarView;
+
+class MainWindow : public FormWindow {
+ public:
+  MainWindow(MainForm& form, const Desk& desk);
+
+  QString helpPage() const override;
+  void keepLayout() override;
+  TransferPanel* transferPanel() const override;
+
+ private:
+  void addPages();
+  void addMenusAndStatus();
+  void addKeys();
+  QWidget* gameShown();
+
+  MainForm& main_;
+  NavigationBarView* bar_;
+  QTabWidget* pages_;
+};
+
+}  // namespace tallywick

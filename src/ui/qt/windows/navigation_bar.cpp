@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/windows/navigation_bar.h"
+
+#include "app/main_form.h"
+#include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/layouts.h"
+#include "ui/qt/windows/form_window.h"
+#include "ui/qt/windows/transfer_panel.h"
+
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton* gameSwitch(QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  button->setCheckable(true);
+  button->setFont(theme::headingFont(button->font()));
+  return button;
+}
+
+/// Presses a side of the switch in, or lets it out; the colour tells it on dark desktops too.
+void showSide(QPushButton& button, bool on) {
+  button.setChecked(on);
+  QPalette colors;
+  if (on) {
+    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight));
+    colors.setColor(QPalette::ButtonText, theme::readableOn(colors.color(QPalette::Highlight)));
+  }
+  button.setPalette(colors);
+}
+
+QToolButton* settingsButton(QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setText(u"Settings…"_s);
+  button->setToolTip(u"The update server and the web pages (Ctrl+,)"_s);
+  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+}  // namespace
+
+NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
+    : form_(form),
+      powerBall_(gameSwitch(this)),
+      megaMillions_(gameSwitch(this)),
+      transfer_(new TransferPanel(this)) {
+  auto* selection = new QPushButton(this);
+  auto* update = new QPushButton(this);
+  auto* progress = new QProgressBar(this);
+  progress->setAccessibleName(u"Update progress"_s);
+  progress->setMaximumWidth(24 * theme::gap);
+  auto* next = new QPushButton(this);
+  auto* settings = settingsButton(this);
+
+  auto* games = row(0);
+  games->addWidget(powerBall_);
+  games->addWidget(megaMillions_);
+  auto* bar = new QHBoxLayout(this);
+  bar->setContentsMargins(0, 0, 0, 0);
+  bar->setSpacing(theme::gap);
+  bar->addLayout(games);
+  bar->addSpacing(theme::gap);
+  bar->addWidget(selection);
+  bar->addWidget(update);
+  bar->addWidget(progress, 1);
+  bar->addWidget(transfer_);
+  bar->addStretch();
+  bar->addWidget(next);
+  bar->addWidget(settings);
+
+  Binding& binding = window.binding();
+  binding.bind(form.bar.Command7, *powerBall_, withMnemonic('P'));
+  binding.bind(form.bar.Command4, *megaMillions_, withMnemonic('M'));
+  binding.bind(form.bar.Command48, *selection, withMnemonic('S'));
+  binding.bind(form.update.Command2, *update, withMnemonic('U'));
+  binding.bind(form.update.ProgressBar1, *progress);
+  binding.bind(form.bar.Command8, *next, withMnemonic('N'));
+  connect(settings, &QToolButton::clicked, &window,
+          [&window] { window.desk().runner.attempt([&window] { window.desk().editSettings(); }); });
+  showGame();
+}
+
+void NavigationBarView::showGame() {
+  const GameFrames& frames = form_.frames;
+  showSide(*powerBall_, frames.Frame4.visible() || frames.Frame6.visible());
+  showSide(*megaMillions_, frames.Frame11.visible());
+}
+
+}  // namespace tallywick
