@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Done: the current plays become the committed ones.
+#include "core/dated_copies.h"
 #include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/plays.h"
+#include "core/runtime_error.h"
 #include "core/text.h"
 #include "selection/draw_count.h"
 #include "selection/draw_dates.h"
@@ -12,6 +14,7 @@
 #include "selection/selection_handlers.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -63,6 +66,53 @@ std::vector<std::string> drawDates(const SelectionForm& form, const std::vector<
   return drawDatesFrom(folder, drawDayCodes(form.game.game), plays.front().date, draws);
 }
 
+/// What Done makes of the current plays, as far as other files decide about it.
+struct NextPlays {
+  std::vector<std::string> dates;
+  std::vector<Play> plays;
+};
+
+/// The plays of the file once for each draw. Raises CalendarGap.
+NextPlays nextPlays(const SelectionForm& form, const PlayFile& current, int draws) {
+  NextPlays next{{}, current.plays()};
+  if (draws > 1) {
+    next.dates = drawDates(form, next.plays, draws);
+    next.plays = repeated(next.plays, next.dates);
+  }
+  return next;
+}
+
+/// The committed plays before a Done.
+struct EarlierFile {
+  explicit EarlierFile(const SelectionForm& form)
+      : reader(openPlays(form.surroundings.folder, playFilePath(form, PlaySlot::committed))) {
+    try {
+      forEachRecord<playFields>(reader,
+                                [&](const Fields<playFields>& record) { plays.push_back(playOf(record)); });
+    } catch (const RuntimeError& error) {
+      if (!error.is(ErrorNumber::inputPastEnd)) throw;
+      isTorn = true;
+    }
+  }
+
+  SequentialReader reader;
+  /// Views into the reader's text.
+  std::vector<Play> plays;
+  /// Whether the last record is cut short, so that `plays` lacks it.
+  bool isTorn = false;
+};
+
+/// The earlier plays that are not among `next`. A play that is there twice needs two equal ones to stay.
+std::vector<Play> playsNotAmong(const std::vector<Play>& next, const std::vector<Play>& earlier) {
+  std::map<std::string, int> kept;
+  for (const Play& play : next) ++kept[textOf({play})];
+  std::vector<Play> gone;
+  for (const Play& play : earlier) {
+    if (kept[textOf({play})]-- <= 0) gone.push_back(play);
+  }
+  return gone;
+}
+
 /// What a Done shows afterwards.
 struct Committed {
   CommittedCounts counts;
@@ -70,25 +120,28 @@ struct Committed {
 };
 
 /// Replaces the committed plays by what the current plays' file contains, empties that file and writes the
-/// copy, all three or none.
+/// copies, all of it or nothing. Earlier plays that would be lost stay as a dated copy of their file.
 Committed commit(const SelectionForm& form, int draws) {
   const DataFolder& folder = form.surroundings.folder;
   FileCommit files(gameFolder(form));
   const PlayFile current(folder, playFilePath(form, PlaySlot::current));
   // Read first: once the plays are committed nothing may fail any more.
   PlayFile history(folder, playFilePath(form, PlaySlot::played));
-  std::vector<std::string> dates;
-  std::vector<Play> plays = current.plays();
-  if (draws > 1) {
-    dates = drawDates(form, plays, draws);
-    plays = repeated(plays, dates);
-  }
+  auto [dates, plays] = nextPlays(form, current, draws);
+  const EarlierFile earlier(form);
+  const std::vector<Play> gone = playsNotAmong(plays, earlier.plays);
+  const bool bothKept = form.earlierPlays == EarlierPlays::kept && !gone.empty();
+  if (bothKept) plays.insert(plays.end(), gone.begin(), gone.end());
+  const std::string name = playFileName(form.game, PlaySlot::committed);
+  const bool somethingGoes = earlier.isTorn || (!gone.empty() && !bothKept);
+  const std::string copy = somethingGoes ? stageDatedCopy(files, name, form.surroundings.clock) : "";
   const std::string text = textOf(plays);
   // Entered for one draw the current plays change their name only, and keep every byte.
-  files.stage(playFileName(form.game, PlaySlot::committed), draws > 1 ? text : current.text());
+  files.stage(name, draws > 1 || bothKept ? text : current.text());
   files.stage(playFileName(form.game, PlaySlot::current), {});
   files.stage(saveFileName(form.game, PlaySlot::committed), text);
   files.commit();
+  if (somethingGoes) pruneDatedCopies(files.folder(), name, copy);
   if (draws > 1) {
     std::error_code ignored;  // the plays are committed; a work file that stays is in nobody's way
     std::filesystem::remove(folder.resolve(playFilePath(form, PlaySlot::multiDraw)), ignored);
@@ -124,6 +177,18 @@ bool showsCurrentPlays(const SelectionForm& form) {
     if (shown[i] != items[i]) return false;
   }
   return true;
+}
+
+std::size_t playsThatWouldGo(const SelectionForm& form) {
+  const PlayFile current(form.surroundings.folder, playFilePath(form, PlaySlot::current));
+  const EarlierFile earlier(form);
+  try {
+    const NextPlays next = nextPlays(form, current, drawCountOf(form.Label1.caption()));
+    const std::vector<Play> gone = playsNotAmong(next.plays, earlier.plays);
+    return static_cast<std::size_t>(std::ranges::count_if(gone, &Play::isListed)) + (earlier.isTorn ? 1 : 0);
+  } catch (const CalendarGap&) {
+    return 0;
+  }
 }
 
 void Command5_Click(SelectionForm& form) {

@@ -23,6 +23,12 @@ struct SelectionSurroundings {
   MessageBoxes& boxes;
 };
 
+/// What Done does with committed plays that are not among the new ones.
+enum class EarlierPlays : std::uint8_t {
+  replaced,  ///< they stay in a dated copy alone
+  kept       ///< they follow the new ones
+};
+
 class SelectionForm : public Form {
  public:
   /// Form3 for PowerBall, Form5 for Mega Millions. Its buttons are wired to their handlers; load() is still
@@ -40,6 +46,9 @@ class SelectionForm : public Form {
   /// The button of a number, from 1.
   Button& button(int number) { return *numbers[static_cast<std::size_t>(number - 1)]; }
   const Button& button(int number) const { return *numbers[static_cast<std::size_t>(number - 1)]; }
+
+  /// A window may ask the player before Done; without one the earlier plays are replaced.
+  EarlierPlays earlierPlays = EarlierPlays::replaced;
 
   const GameInfo& game;
   const SelectionRules& rules;

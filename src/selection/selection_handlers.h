@@ -2,6 +2,8 @@
 // The handlers of the selection windows, each named after its event.
 #pragma once
 
+#include <cstddef>
+
 namespace tallywick {
 
 class SelectionForm;
@@ -19,7 +21,13 @@ void Command9_Click(SelectionForm& form);
 /// the same folder, may have changed the file.
 bool showsCurrentPlays(const SelectionForm& form);
 
-/// Done: the current plays replace the committed ones, once for each draw of the draw count.
+/// How many committed plays are not among those that Done would commit now; 0 where the calendar has a gap,
+/// which Done itself reports. A record that is cut short counts as a play.
+std::size_t playsThatWouldGo(const SelectionForm& form);
+
+/// Done: the current plays replace the committed ones, once for each draw of the draw count, or come before
+/// them, as SelectionForm::earlierPlays says. Committed plays that are not among the new ones stay as a dated
+/// copy.
 void Command5_Click(SelectionForm& form);
 
 /// Replay: marks the play that the history list shows.

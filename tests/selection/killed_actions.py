@@ -17,7 +17,7 @@ import sys
 import tempfile
 
 PROGRAM = sys.argv[1]
-ACTIONS = ["open", "select", "done-1", "done-10"]
+ACTIONS = ["open", "select", "done-1", "done-keep", "done-10"]
 KILLED_AT = ["openat", "read", "write", "fsync", "flock", "getdents64", "rename", "unlink", "close"]
 # What a full disk, a folder without permission and a broken disk answer, and the runtime error it becomes.
 FAILURES = [("openat", "EACCES", "70"), ("openat", "ENOSPC", "61"), ("write", "ENOSPC", "61"),
@@ -61,9 +61,17 @@ def lay_out(files):
 
 
 def state():
-    """The files but for locks; the dates of copies are taken out of their names."""
-    return {pathlib.Path(re.sub(r"\d{4}-\d\d-\d\d \d{6}", "DATE", str(file.relative_to(folder)))): file.read_bytes()
-            for file in folder.rglob("*") if file.is_file() and file.suffix != ".LCK"}
+    """The files but for locks; the dates of copies are taken out of their names, and copies of one file are together."""
+    found = collections.defaultdict(list)
+    for file in folder.rglob("*"):
+        if file.is_file() and file.suffix != ".LCK":
+            name = re.sub(r"\d{4}-\d\d-\d\d \d{6}", "DATE", str(file.relative_to(folder)))
+            found[pathlib.Path(name)].append(file.read_bytes())
+    return {name: together(*texts) for name, texts in found.items()}
+
+
+def together(*texts):
+    return b"".join(sorted(texts))
 
 
 def run(action, *tracing):
@@ -138,6 +146,8 @@ def test_action(action, loading):
     after = state()
     check(before != after, f"{action} does nothing")
     check(before[GAME / "QZR6PWR2.Ply"] == after[GAME / "QZR6PWR2.Ply"], f"{action} changes the history")
+    committed = before[GAME / "QZR6PWR1.Ply"]
+    check(all(play in b"".join(after.values()) for play in committed.splitlines()), f"{action} takes a play away")
     kills = kill_everywhere(action, start, (before, after), loading)
     failures = fail_everywhere(action, start, after, loading)
     check(kills > 30 and failures > 20, f"{action}: only {kills} kills and {failures} failures")
@@ -167,25 +177,27 @@ def test_order_on_disk():
             renamed.append(pathlib.Path(taken[2]).name)
         elif line.startswith("unlink("):
             check(not names_pending, f"too early: {line}")
-    check(len(renamed) == 4 and renamed[0] == "TALLYWICK.JNL", f"taken over: {renamed}")
+    check(len(renamed) == 5 and renamed[0] == "TALLYWICK.JNL", f"taken over: {renamed}")
 
 
 def test_recovery(done, loading):
     """Recovery can itself be killed anywhere: what Done left half made is finished, or set aside, by the one after."""
     lay_out(starting_files())
-    run_disturbed("done-10", "rename", "signal=KILL", 2)
+    run_disturbed("done-10", "rename", "signal=KILL", 3)
     half_made = state()
     check(half_made.keys() > done.keys(), "Done was not killed half-way")
     committed, journal = GAME / "QZR6PWR1.Ply", GAME / "TALLYWICK.JNL"
+    copies = GAME / "QZR6PWR1 DATE.Ply"
     changed = play("11-18-2026", "09").encode()
     before = {name: text for name, text in half_made.items() if name != journal and name.suffix != ".tw~"}
-    staged = {name.with_name(f"{name.stem} DATE{name.suffix}"): done[name]
-              for name in (committed, GAME / "QZR6PWR1.Sav", GAME / "QZR6PWR7.Ply")}
+    aside = {name.with_name(f"{name.stem} DATE{name.suffix}"): done[name]
+             for name in (GAME / "QZR6PWR1.Sav", GAME / "QZR6PWR7.Ply")}
     for what, start, after in [
             ("half made", half_made, done),
-            ("changed since", half_made | {committed: changed}, done | {GAME / "QZR6PWR1 DATE.Ply": changed}),
+            ("changed since", half_made | {committed: changed}, done | {copies: together(done[copies], changed)}),
             ("no journal of ours", half_made | {journal: b"../x"},
-             before | staged | {GAME / "TALLYWICK not carried out DATE.JNL": b"../x"})]:
+             before | aside | {copies: together(done[copies], done[committed]),
+                               GAME / "TALLYWICK not carried out DATE.JNL": b"../x"})]:
         kills = kill_everywhere("recover", start, (after,), loading)
         print(f"recovery, {what}: {kills} kills, nothing lost")
 

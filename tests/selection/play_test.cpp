@@ -42,6 +42,56 @@ TEST_F(Selection, TheHiddenDrawCountIsShownByItsButtonWhichUnmarkingHides) {
   EXPECT_FALSE(form->Command7.visible());
 }
 
+TEST_F(Selection, DoneTakesNoCommittedPlayAway) {
+  const std::string first = records({"11-18-2026,01,02,03,04,05,06,5000000"});
+  const std::string second = records({"11-21-2026,05,11,23,42,60,07,1110101"});
+  const std::string fresh = records({"11-21-2026,06,11,23,42,60,07,1110101"});
+  const std::string torn = "\"11-23-2026\",\"01\"";
+  struct Row {
+    const char* name;
+    std::string committed;
+    std::string current;
+    EarlierPlays earlier;
+    std::size_t wouldGo;
+    std::string after;
+    bool isCopied;
+  };
+  const Row rows[] = {
+      {"replaced", first + second, fresh, EarlierPlays::replaced, 2, fresh, true},
+      {"replaced by none", first, "", EarlierPlays::replaced, 1, "", true},
+      {"both kept", first + second, fresh + second, EarlierPlays::kept, 1, fresh + second + first, false},
+      {"the same in another order", first + second, second + first, EarlierPlays::kept, 0, second + first,
+       false},
+      {"one of two equal ones", first + first, first, EarlierPlays::replaced, 1, first, true},
+      {"cut short", first + torn, fresh, EarlierPlays::kept, 2, fresh + first, true},
+      {"no real play", records({"11-11-1111,,,,,,,"}), fresh, EarlierPlays::replaced, 0, fresh, true},
+      {"none before", "", fresh, EarlierPlays::replaced, 0, fresh, false},
+  };
+  for (const Row& row : rows) {
+    open().earlierPlays = row.earlier;
+    scratch.write(path("1.Ply"), row.committed);
+    scratch.write(path("7.Ply"), row.current);
+    EXPECT_EQ(playsThatWouldGo(*form), row.wouldGo) << row.name;
+    press("Command5");
+    EXPECT_EQ(get("1.Ply"), row.after) << row.name;
+    EXPECT_EQ(get("1.Sav"), row.after) << row.name;
+    const std::string copy = path("1 2026-11-21 120000.Ply");
+    EXPECT_EQ(get("1 2026-11-21 120000.Ply"), row.isCopied ? row.committed : "") << row.name;
+    std::filesystem::remove(scratch.folder().resolve(copy));
+  }
+}
+
+TEST_F(Selection, TheTwentyNewestCopiesStay) {
+  for (int day = 1; day <= 20; ++day)
+    scratch.write(path(join("1 2026-10-", twoDigits(day), " 120000.Ply")), "");
+  scratch.write(path("1.Ply"), records({"11-18-2026,01,02,03,04,05,06,5000000"}));
+  open();
+  press("Command5");
+  EXPECT_FALSE(scratch.exists(path("1 2026-10-01 120000.Ply")));
+  EXPECT_TRUE(scratch.exists(path("1 2026-10-02 120000.Ply")));
+  EXPECT_TRUE(scratch.exists(path("1 2026-11-21 120000.Ply")));
+}
+
 TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   open();
   {

@@ -14,7 +14,8 @@ using namespace tallywick;
 
 namespace {
 
-void done(SelectionForm& form, std::string_view drawCount) {
+void done(SelectionForm& form, std::string_view drawCount, EarlierPlays earlier = EarlierPlays::replaced) {
+  form.earlierPlays = earlier;
   form.Label1.setCaption(drawCount);
   Command5_Click(form);
 }
@@ -33,6 +34,7 @@ void run(const DataFolder& folder, std::string_view action) {
   if (action == "open") form.load();
   if (action == "select") select(form);
   if (action == "done-1") done(form, "    ");
+  if (action == "done-keep") done(form, "   2", EarlierPlays::kept);
   if (action == "done-10") done(form, "  10");
   if (action == "recover") recoverFolder(folder.resolve(powerBall.folder));
   for (const MessageBox& box : boxes.shown) std::cout << box.text << "\n";
@@ -43,8 +45,8 @@ void run(const DataFolder& folder, std::string_view action) {
 int main(int, char** arguments) {
   try {
     run(DataFolder(arguments[1]), arguments[2]);
-  } catch (const RuntimeError& error) {
-    std::cout << error.number() << "\n";
+  } catch (const std::exception&) {
+    std::cout << currentRuntimeError().number() << "\n";
     return 1;
   }
   return 0;

@@ -6,11 +6,13 @@
 #include "ui/qt/parts/choice_list.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
+#include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/layout_memory.h"
 #include "ui/qt/windows/slip.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -168,12 +170,38 @@ void SelectionWindow::askBeforeDone() {
 }
 
 bool SelectionWindow::mayCommit() {
+  return mayCommitTheFile() && mayReplace();
+}
+
+bool SelectionWindow::mayCommitTheFile() {
   if (showsCurrentPlays(selection_)) return true;
   const MessageBox question = {
       "The file of the current plays is not what this window shows: another program has changed it.\r\n"
       "Done commits what the file contains now. Go on?",
       std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
   return selection_.surroundings.boxes.show(question) == MessageBox::Answer::yes;
+}
+
+bool SelectionWindow::mayReplace() {
+  selection_.earlierPlays = EarlierPlays::replaced;
+  const std::size_t plays = playsThatWouldGo(selection_);
+  if (plays == 0) return true;
+  QMessageBox box(
+      QMessageBox::Question, toQString(programTitle),
+      plays == 1 ? u"One play that waits for its draw is not among the plays selected here."_s
+                 : u"%1 plays that wait for their draws are not among the plays selected here."_s.arg(plays),
+      QMessageBox::NoButton, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(
+      u"Replace takes them off the list of next plays; a dated copy of their file stays in the "
+      u"record book. Keep Both puts them behind the new plays."_s);
+  auto* replace = box.addButton(u"&Replace"_s, QMessageBox::DestructiveRole);
+  auto* keep = box.addButton(u"&Keep Both"_s, QMessageBox::AcceptRole);
+  box.setEscapeButton(box.addButton(QMessageBox::Cancel));
+  box.setDefaultButton(keep);
+  box.exec();
+  if (box.clickedButton() == keep) selection_.earlierPlays = EarlierPlays::kept;
+  return box.clickedButton() == keep || box.clickedButton() == replace;
 }
 
 void SelectionWindow::showChosen() {

@@ -27,8 +27,12 @@ class SelectionWindow : public FormWindow {
   void addActions(QGridLayout& grid, QWidget* parent);
   void addDrawCount(QGridLayout& grid, QWidget* parent);
   void addStatus();
-  /// Asks where the file of the current plays is not what the window shows.
+  /// Asks what a Done would do beyond what the window shows. False where the player wants none of it.
   bool mayCommit();
+  /// Asks where the file of the current plays is not what the window shows.
+  bool mayCommitTheFile();
+  /// Asks where committed plays would go: Replace, Keep Both, Cancel.
+  bool mayReplace();
   void askBeforeDone();
   void showChosen();
 
