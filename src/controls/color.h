@@ -2,6 +2,7 @@
 // Colours of buttons and bars: red, green and blue, or a colour of the system.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -35,12 +36,14 @@ inline constexpr Color cyan = Color::rgb(0, 255, 255);
 /// The mark of the extra ball in the selection windows.
 inline constexpr Color magenta = Color::rgb(255, 0, 255);
 
-/// The frequent numbers' colours, by the earlier draw that repeats the number.
+/// The colours of recurring numbers.
 inline constexpr Color red = Color::rgb(255, 0, 0);
 inline constexpr Color lightBlue = Color::rgb(128, 128, 255);
 inline constexpr Color green = Color::rgb(0, 255, 0);
 inline constexpr Color yellow = Color::rgb(255, 255, 0);
 inline constexpr Color lightCyan = Color::rgb(192, 255, 255);
+/// By how many draws before the newest one the number came up, from one.
+inline constexpr std::array<Color, 5> recurring = {red, lightBlue, green, yellow, lightCyan};
 
 }  // namespace colors
 

@@ -63,9 +63,6 @@ void Draw::appendLine(std::string& to) const {
 Draw drawOf(const Fields<drawFields>& record) {
   return drawAt(record, 3);
 }
-Draw mainDrawOf(const Fields<doublePlayFields>& record) {
-  return drawAt(record, 3);
-}
 Draw doublePlayDrawOf(const Fields<doublePlayFields>& record) {
   return drawAt(record, 11);
 }

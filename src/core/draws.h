@@ -34,7 +34,6 @@ struct Draw {
 };
 
 Draw drawOf(const Fields<drawFields>& record);
-Draw mainDrawOf(const Fields<doublePlayFields>& record);
 Draw doublePlayDrawOf(const Fields<doublePlayFields>& record);
 
 }  // namespace tallywick

@@ -25,6 +25,10 @@ std::string savedTextsFileName(const GameInfo& game) {
   return numbered(game, '9', ".Sel");
 }
 
+std::string playFilePath(const GameInfo& game, PlaySlot slot) {
+  return inFolder(game, playFileName(game, slot));
+}
+
 std::string inFolder(const GameInfo& game, std::string_view file) {
   return join(game.folder, file);
 }

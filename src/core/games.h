@@ -21,12 +21,14 @@ struct GameInfo {
   std::string_view winningsFile;
   /// The amount at which a jackpot starts; a draw at exactly this amount is marked.
   std::string_view baseAmount;
+  /// The numbers of a play go from 01 to this one; more than the game has ever drawn.
+  int lastNumber;
 };
 
-inline constexpr GameInfo powerBall = {Game::powerBall,          "PowerBall",  "PWR",
-                                       R"(QzrNumbers\QZR6PWR\)", "QzrPwr.Win", "40"};
-inline constexpr GameInfo megaMillions = {Game::megaMillions,       "Mega Millions", "MEG",
-                                          R"(QzrNumbers\QZR6MEG\)", "QzrMeg.Win",    "12"};
+inline constexpr GameInfo powerBall = {
+    Game::powerBall, "PowerBall", "PWR", R"(QzrNumbers\QZR6PWR\)", "QzrPwr.Win", "40", 69};
+inline constexpr GameInfo megaMillions = {
+    Game::megaMillions, "Mega Millions", "MEG", R"(QzrNumbers\QZR6MEG\)", "QzrMeg.Win", "12", 79};
 
 constexpr const GameInfo& infoOf(Game game) {
   return game == Game::powerBall ? powerBall : megaMillions;
@@ -67,6 +69,9 @@ std::string playFileName(const GameInfo& game, PlaySlot slot);
 std::string saveFileName(const GameInfo& game, PlaySlot slot);
 /// The saved play texts: "QZR6PWR9.Sel".
 std::string savedTextsFileName(const GameInfo& game);
+
+/// A play file as the handlers write its path.
+std::string playFilePath(const GameInfo& game, PlaySlot slot);
 
 /// `file` in the game's folder, for example "QzrNumbers\QZR6PWR\QZRNUM6.Dat".
 std::string inFolder(const GameInfo& game, std::string_view file);

@@ -28,6 +28,12 @@ Play playOf(const Fields<playFields>& record) {
   return {record[0], {record[1], record[2], record[3], record[4], record[5]}, record[6], record[7]};
 }
 
+std::string decadePattern(const GameInfo& game, const std::array<int, 5>& main) {
+  std::string pattern(static_cast<std::size_t>(game.lastNumber / 10 + 1), '0');
+  for (int number : main) ++pattern[static_cast<std::size_t>(number / 10)];
+  return pattern;
+}
+
 void appendRecord(std::string& text, const Play& play) {
   text.append("\"").append(play.date);
   for (std::string_view number : play.main) text.append("\",\"").append(number);

@@ -2,6 +2,7 @@
 // Play records and the play files that hold them.
 #pragma once
 
+#include "core/games.h"
 #include "core/sequential_reader.h"
 
 #include <array>
@@ -39,6 +40,9 @@ struct Play {
 };
 
 Play playOf(const Fields<playFields>& record);
+
+/// The decade pattern of five main numbers: a digit for 01 to 09, then one a decade up to the game's last number.
+std::string decadePattern(const GameInfo& game, const std::array<int, 5>& main);
 
 /// Adds `play` to `text` as the record book writes records: every field in double quotes, CR LF at the end.
 void appendRecord(std::string& text, const Play& play);

@@ -32,23 +32,16 @@ constexpr ChartSource doublePlayChart = {"Tallywick Double Play Last 100 Draws",
                                          nextDoublePlay};
 constexpr std::size_t chartedDraws = 100;
 
-/// The bars' colours by those of the number buttons: strong enough to stand on a page.
-struct BarColor {
-  Color button;
-  Color bar;
-};
-constexpr std::array<BarColor, 5> barColors = {{{colors::red, Color::rgb(255, 0, 0)},
-                                                {colors::green, Color::rgb(0, 204, 0)},
-                                                {colors::lightBlue, Color::rgb(0, 102, 153)},
-                                                {colors::yellow, Color::rgb(255, 255, 0)},
-                                                {colors::lightCyan, Color::rgb(204, 255, 255)}}};
+/// The bars' colours in the order of colors::recurring, strong enough for a page.
+constexpr std::array<Color, colors::recurring.size()> barColors = {
+    Color::rgb(255, 0, 0), Color::rgb(0, 102, 153), Color::rgb(0, 204, 0), Color::rgb(255, 255, 0),
+    Color::rgb(204, 255, 255)};
 constexpr Color otherBarColor = Color::rgb(153, 153, 153);
 
 Color barColorOf(const Button& button) {
-  for (const BarColor& color : barColors) {
-    if (color.button == button.backColor()) return color.bar;
-  }
-  return otherBarColor;
+  const auto found = std::find(colors::recurring.begin(), colors::recurring.end(), button.backColor());
+  if (found == colors::recurring.end()) return otherBarColor;
+  return barColors[static_cast<std::size_t>(found - colors::recurring.begin())];
 }
 
 /// How often the number on each button came up; the last button's as the extra ball.

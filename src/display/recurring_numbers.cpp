@@ -9,10 +9,6 @@ namespace tallywick {
 
 namespace {
 
-/// The button's colour by how many draws before the newest one its number came up.
-constexpr std::array<Color, 5> colorsByAge = {colors::red, colors::lightBlue, colors::green, colors::yellow,
-                                              colors::lightCyan};
-
 /// How a kept draw held a number; empty where it did not.
 std::string_view placeIn(const KeptDraw& kept, std::string_view number) {
   const auto& white = kept.draw.white;
@@ -44,12 +40,12 @@ void showRecurringNumbers(std::span<const KeptDraw> newestFirst, ButtonRow<6>& b
   if (newestFirst.empty()) return;
   const Draw& newest = newestFirst.front().draw;
   putOnButtons(newest, buttons);
-  const std::size_t tests = std::min(colorsByAge.size(), newestFirst.size() - 1);
+  const std::size_t tests = std::min(colors::recurring.size(), newestFirst.size() - 1);
   for (std::size_t ball = 0; ball < newest.white.size(); ++ball) {
     for (std::size_t age = 1; age <= tests; ++age) {
       const std::string_view place = placeIn(newestFirst[age], newest.white[ball]);
       if (place.empty()) continue;
-      buttons[ball].setBackColor(colorsByAge[age - 1]);
+      buttons[ball].setBackColor(colors::recurring[age - 1]);
       addHit(hits, buttons[ball], age, newestFirst[age], place);
     }
   }

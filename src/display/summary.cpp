@@ -95,7 +95,7 @@ void fillLastFifteen(SummaryPage& page, const DataFolder& folder, const GameInfo
 
 void fillWinningPlays(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List2.clear();
-  SequentialReader plays = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  SequentialReader plays = openPlays(folder, playFilePath(game, PlaySlot::played));
   if (plays.atEnd()) return;
   DrawIndex draws(folder, inFolder(game, drawsFile), &Draw::dateKey);
   forEachRecordButLast<playFields>(plays, [&](const Fields<playFields>& record) {

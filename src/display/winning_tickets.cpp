@@ -64,7 +64,7 @@ void checkDoublePlay(WinningsPage& page, const DataFolder& folder, std::string_v
 
 void listPlays(ListBox& list, const DataFolder& folder, const GameInfo& game, PlaySlot slot) {
   list.clear();
-  SequentialReader plays = openPlays(folder, inFolder(game, playFileName(game, slot)));
+  SequentialReader plays = openPlays(folder, playFilePath(game, slot));
   forEachRecord<playFields>(plays, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
     if (play.isListed()) list.add(play.itemText());
@@ -91,6 +91,15 @@ int matchScore(const Play& play, const Draw& draw) {
   return score;
 }
 
+TicketFiles ticketFilesOf(const GameInfo& game) {
+  return {playFilePath(game, PlaySlot::played), inFolder(game, searchDrawsFile),
+          game.game == Game::powerBall ? inFolder(game, doublePlayFile) : std::string()};
+}
+
+TicketFiles hoosierTicketFiles() {
+  return {std::string(hoosierPlayedFile), join(hoosierFolder, searchDrawsFile), {}};
+}
+
 void checkAgainstLatestDraw(WinningsPage& page, const DataFolder& folder, const TicketFiles& files) {
   clearResults(page);
   SequentialReader draws(folder, files.draws);
@@ -115,7 +124,7 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
   clearResults(page);
   SequentialReader plays = openPlays(folder, files.plays);
   if (plays.atEnd()) return page.Combo10.setText(noPlays);
-  DrawIndex draws(folder, std::string(files.draws), &Draw::displayDate);
+  DrawIndex draws(folder, files.draws, &Draw::displayDate);
   std::vector<std::string> winners;
   forEachRecord<playFields>(plays, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
@@ -135,7 +144,7 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
 void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFolder& folder) {
   const bool isPowerBall = frames.Frame4.visible() || frames.Frame6.visible();
   if (!isPowerBall && !frames.Frame11.visible()) return;
-  const TicketFiles& files = isPowerBall ? powerBallTickets : megaMillionsTickets;
+  const TicketFiles files = ticketFilesOf(isPowerBall ? powerBall : megaMillions);
   if (page.Option1.value()) {
     checkAgainstLatestDraw(page, folder, files);
   } else if (page.Option2.value()) {

@@ -8,6 +8,8 @@
 #include "core/games.h"
 #include "core/plays.h"
 
+#include <string>
+
 namespace tallywick {
 
 class DataFolder;
@@ -37,18 +39,14 @@ inline constexpr int winningScore = 3;
 
 /// The files of a check, as the handlers write them.
 struct TicketFiles {
-  std::string_view plays;
-  std::string_view draws;
+  std::string plays;
+  std::string draws;
   /// Empty where the game has no Double Play.
-  std::string_view doublePlays;
+  std::string doublePlays;
 };
-inline constexpr TicketFiles powerBallTickets = {R"(QzrNumbers\QZR6PWR\QZR6PWR2.Ply)",
-                                                 R"(QzrNumbers\QZR6PWR\QZRNUM62.Dat)",
-                                                 R"(QzrNumbers\QZR6PWR\QZRNUM72.Dat)"};
-inline constexpr TicketFiles megaMillionsTickets = {R"(QzrNumbers\QZR6MEG\QZR6MEG2.Ply)",
-                                                    R"(QzrNumbers\QZR6MEG\QZRNUM62.Dat)", ""};
+TicketFiles ticketFilesOf(const GameInfo& game);
 /// A leftover state game that no control checks.
-inline constexpr TicketFiles hoosierTickets = {hoosierPlayedFile, R"(QzrNumbers\Qzr6Ind\QZRNUM62.Dat)", ""};
+TicketFiles hoosierTicketFiles();
 
 /// Checks every play against the newest draw; then, where the game has it, the first play against the newest
 /// Double Play draw. An empty draw file is error 62.

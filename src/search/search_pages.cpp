@@ -51,7 +51,7 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
 void fillPlayPicker(SearchPages& pages, const DataFolder& folder, const GameInfo& game) {
   ComboBox& picker = pages.havePlayedPlays.Combo8;
   picker.clear();
-  SequentialReader played = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  SequentialReader played = openPlays(folder, playFilePath(game, PlaySlot::played));
   forEachRecord<playFields>(played, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
     if (play.isListed()) addToPicker(picker, join(" ", play.drawLine()));

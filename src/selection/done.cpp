@@ -85,7 +85,7 @@ NextPlays nextPlays(const SelectionForm& form, const PlayFile& current, int draw
 /// The committed plays before a Done.
 struct EarlierFile {
   explicit EarlierFile(const SelectionForm& form)
-      : reader(openPlays(form.surroundings.folder, playFilePath(form, PlaySlot::committed))) {
+      : reader(openPlays(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed))) {
     try {
       forEachRecord<playFields>(reader,
                                 [&](const Fields<playFields>& record) { plays.push_back(playOf(record)); });
@@ -124,9 +124,9 @@ struct Committed {
 Committed commit(const SelectionForm& form, int draws) {
   const DataFolder& folder = form.surroundings.folder;
   FileCommit files(gameFolder(form));
-  const PlayFile current(folder, playFilePath(form, PlaySlot::current));
+  const PlayFile current(folder, playFilePath(form.game, PlaySlot::current));
   // Read first: once the plays are committed nothing may fail any more.
-  PlayFile history(folder, playFilePath(form, PlaySlot::played));
+  PlayFile history(folder, playFilePath(form.game, PlaySlot::played));
   auto [dates, plays] = nextPlays(form, current, draws);
   const EarlierFile earlier(form);
   const std::vector<Play> gone = playsNotAmong(plays, earlier.plays);
@@ -144,7 +144,7 @@ Committed commit(const SelectionForm& form, int draws) {
   if (somethingGoes) pruneDatedCopies(files.folder(), name, copy);
   if (draws > 1) {
     std::error_code ignored;  // the plays are committed; a work file that stays is in nobody's way
-    std::filesystem::remove(folder.resolve(playFilePath(form, PlaySlot::multiDraw)), ignored);
+    std::filesystem::remove(folder.resolve(playFilePath(form.game, PlaySlot::multiDraw)), ignored);
   }
   return {countsOf(plays), std::move(history)};
 }
@@ -169,7 +169,7 @@ std::vector<std::string> itemsOf(const PlayFile& file) {
 }  // namespace
 
 bool showsCurrentPlays(const SelectionForm& form) {
-  const PlayFile current(form.surroundings.folder, playFilePath(form, PlaySlot::current));
+  const PlayFile current(form.surroundings.folder, playFilePath(form.game, PlaySlot::current));
   const std::vector<std::string> items = itemsOf(current);
   const TextLines& shown = form.Combo1.items();
   if (shown.size() != items.size()) return false;
@@ -180,7 +180,7 @@ bool showsCurrentPlays(const SelectionForm& form) {
 }
 
 std::size_t playsThatWouldGo(const SelectionForm& form) {
-  const PlayFile current(form.surroundings.folder, playFilePath(form, PlaySlot::current));
+  const PlayFile current(form.surroundings.folder, playFilePath(form.game, PlaySlot::current));
   const EarlierFile earlier(form);
   try {
     const NextPlays next = nextPlays(form, current, drawCountOf(form.Label1.caption()));

@@ -3,6 +3,7 @@
 
 #include "core/calendar.h"
 #include "core/clock.h"
+#include "core/games.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 
@@ -13,7 +14,7 @@ namespace {
 constexpr std::string_view endOfSale = "18:00:00";
 
 [[noreturn]] void fail(std::string_view what) {
-  throw CalendarGap(join("The calendar file \"QZRNUM22.DTE\" ", what, " Nothing was saved."));
+  throw CalendarGap(join("The calendar file \"", calendarFile, "\" ", what, " Nothing was saved."));
 }
 
 /// Runs `look` on the calendar; a missing file, or one whose last record is cut short, is a gap too.

@@ -19,21 +19,17 @@ void list(ComboBox& box, const Play& play) {
 
 }  // namespace
 
-std::string playFilePath(const SelectionForm& form, PlaySlot slot) {
-  return inFolder(form.game, playFileName(form.game, slot));
-}
-
 std::filesystem::path gameFolder(const SelectionForm& form) {
   return form.surroundings.folder.resolve(form.game.folder);
 }
 
 void emptyCurrentPlays(SelectionForm& form) {
-  replaceFile(form.surroundings.folder.resolve(playFilePath(form, PlaySlot::current)), {});
+  replaceFile(form.surroundings.folder.resolve(playFilePath(form.game, PlaySlot::current)), {});
   form.Combo1.clear();
 }
 
 void showNextPlays(SelectionForm& form) {
-  const PlayFile committed(form.surroundings.folder, playFilePath(form, PlaySlot::committed));
+  const PlayFile committed(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed));
   form.Combo8.clear();
   for (const Play& play : committed.plays()) {
     if (play.isListed() && play.date == committed.plays().front().date) list(form.Combo8, play);

@@ -12,9 +12,6 @@ namespace tallywick {
 class PlayFile;
 class SelectionForm;
 
-/// A play file of the window's game, as the handlers write its path.
-std::string playFilePath(const SelectionForm& form, PlaySlot slot);
-
 /// The real folder of the window's game.
 std::filesystem::path gameFolder(const SelectionForm& form);
 

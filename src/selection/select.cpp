@@ -30,6 +30,7 @@ struct MarkedPlay {
     ++marked;
   }
   bool isFull() const { return places.back() != 0; }
+  std::array<int, 5> main() const { return {places[0], places[1], places[2], places[3], places[4]}; }
 };
 
 bool isExtra(const SelectionForm& form, int number) {
@@ -39,7 +40,7 @@ bool isExtra(const SelectionForm& form, int number) {
 /// All marked numbers ascending, the extra ball among them; what is beyond six is only counted.
 MarkedPlay collectMarks(const SelectionForm& form) {
   MarkedPlay play;
-  for (int number = 1; number <= form.rules.numbers; ++number) {
+  for (int number = 1; number <= form.game.lastNumber; ++number) {
     if (markOf(form.button(number)) == Mark::none) continue;
     play.add(number);
     if (isExtra(form, number)) ++play.extras;
@@ -83,12 +84,6 @@ std::string_view complaint(const SelectionRules& rules, const MarkedPlay& play) 
   return {};
 }
 
-std::string decadePattern(const SelectionRules& rules, const MarkedPlay& play) {
-  std::string pattern(static_cast<std::size_t>(rules.decades()), '0');
-  for (std::size_t i = 0; i < 5; ++i) ++pattern[static_cast<std::size_t>(play.places[i] / 10)];
-  return pattern;
-}
-
 /// A play that owns its texts.
 struct DatedPlay {
   std::string date;
@@ -104,7 +99,7 @@ DatedPlay date(const SelectionForm& form, const MarkedPlay& play) {
   const SelectionSurroundings& around = form.surroundings;
   DatedPlay dated = {drawDateOfPlayMadeNow(around.folder, around.clock, drawDayCodes(form.game.game)),
                      {},
-                     decadePattern(form.rules, play)};
+                     decadePattern(form.game, play.main())};
   std::transform(play.places.begin(), play.places.end(), dated.numbers.begin(), twoDigits);
   return dated;
 }
@@ -123,7 +118,7 @@ std::string endedText(const PlayFile& file) {
 /// Appends the play to the current plays, in one step: the file never holds a part of a record.
 void append(SelectionForm& form, const Play& play) {
   const DataFolder& folder = form.surroundings.folder;
-  const std::string name = playFilePath(form, PlaySlot::current);
+  const std::string name = playFilePath(form.game, PlaySlot::current);
   const os::FileLock lock = lockFolder(gameFolder(form));
   const PlayFile current(folder, name);
   std::string text = endedText(current);

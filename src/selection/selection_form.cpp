@@ -61,7 +61,7 @@ SelectionForm::SelectionForm(const GameInfo& gameInfo, SelectionSurroundings aro
 }
 
 void SelectionForm::makeNumbers() {
-  for (int number = 1; number <= rules.numbers; ++number) {
+  for (int number = 1; number <= game.lastNumber; ++number) {
     const std::string caption = twoDigits(number);
     auto button = std::make_unique<Button>(*this, numberButtonName(number), caption);
     button->setBackColor(colors::threeDLight);
@@ -100,7 +100,7 @@ bool SelectionForm::load() {
     closeForPlays();
   }
   showNextPlays(*this);
-  const PlayFile history(surroundings.folder, playFilePath(*this, PlaySlot::played));
+  const PlayFile history(surroundings.folder, playFilePath(game, PlaySlot::played));
   showHistory(*this, history);
   showSavedTexts(*this);
   const std::size_t played = history.plays().size();

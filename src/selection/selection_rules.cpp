@@ -12,7 +12,6 @@ namespace {
 constexpr SelectionRules powerBallRules = {
     .form = "Form3",
     .title = "The Tallywick Software... Selection (PowerBall)",
-    .numbers = 69,
     .threeMarks = 26,
     .invalidExtra = "You've Selected an Invalid PowerBall Number.",
     .invalidExtraTitle = "PowerBall Lottery Game",
@@ -35,7 +34,6 @@ constexpr SelectionRules powerBallRules = {
 constexpr SelectionRules megaMillionsRules = {
     .form = "Form5",
     .title = "The Tallywick Software... Selection (Mega Millions)",
-    .numbers = 79,
     .threeMarks = 25,
     .invalidExtra = "You've Selected an Invalid MegaMillions Number.",
     .invalidExtraTitle = "MegaMillions Lottery Game",

@@ -32,8 +32,6 @@ struct QuickPickRules {
 struct SelectionRules {
   std::string_view form;
   std::string_view title;
-  /// The grid holds "01" to this number.
-  int numbers;
   /// Presses take "01" to this number through main and extra, the others through main only.
   int threeMarks;
 
@@ -48,9 +46,6 @@ struct SelectionRules {
   /// The last numbers that Replay marks as main and as extra.
   int replayMain;
   int replayExtra;
-
-  /// Digits of the decade pattern: one for 01 to 09, then one a decade.
-  constexpr int decades() const { return numbers / 10 + 1; }
 };
 
 const SelectionRules& selectionRulesOf(Game game);

@@ -10,11 +10,6 @@ using exports::QuotedRecord;
 
 namespace {
 
-std::string decadePattern(Game game, const std::array<int, 5>& white) {
-  std::string pattern(game == Game::powerBall ? 7 : 8, '0');
-  for (int number : white) ++pattern[static_cast<std::size_t>(number / 10)];
-  return pattern;
-}
 
 }  // namespace
 
@@ -24,7 +19,7 @@ std::string playsText(Game game, const std::vector<PlayEntry>& plays) {
     QuotedRecord(text)
         .field(displayDate(play.day))
         .balls(play.balls)
-        .field(decadePattern(game, play.balls.white));
+        .field(decadePattern(infoOf(game), play.balls.white));
   }
   return text;
 }

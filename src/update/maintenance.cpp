@@ -47,7 +47,7 @@ void stageWithCopy(FileCommit& files, const GameInfo& game, PlaySlot slot, PlayS
 void moveDrawnPlays(const GameInfo& game, const DataFolder& folder) {
   FileCommit files(folder.resolve(game.folder));
   const std::string newestDraw = newestDrawDate(game, folder);
-  SequentialReader committed(folder, inFolder(game, playFileName(game, PlaySlot::committed)));
+  SequentialReader committed(folder, playFilePath(game, PlaySlot::committed));
   if (committed.atEnd()) return;
 
   Split split = splitAt(newestDraw, committed);
@@ -55,7 +55,7 @@ void moveDrawnPlays(const GameInfo& game, const DataFolder& folder) {
     stage(files, game, PlaySlot::justPlayed, {});
     stage(files, game, PlaySlot::stillPending, split.stillPending);
   } else {
-    const PlayFile history(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+    const PlayFile history(folder, playFilePath(game, PlaySlot::played));
     for (const Play& play : history.plays()) appendRecord(split.justPlayed, play);
     stageWithCopy(files, game, PlaySlot::committed, PlaySlot::stillPending, split.stillPending);
     stageWithCopy(files, game, PlaySlot::played, PlaySlot::justPlayed, split.justPlayed);

@@ -13,8 +13,6 @@ namespace tallywick {
 
 namespace {
 
-constexpr std::array frequentColors = {colors::red, colors::lightBlue, colors::green, colors::yellow,
-                                       colors::lightCyan};
 constexpr std::array frequentWords = {"second", "third", "fourth", "fifth", "sixth"};
 
 // All measures of a ball as shares of its diameter.
@@ -97,8 +95,8 @@ BallMark markOf(Color color) {
 }
 
 int repeatOf(Color color) {
-  const auto* const found = std::find(frequentColors.begin(), frequentColors.end(), color);
-  return found == frequentColors.end() ? 0 : static_cast<int>(found - frequentColors.begin()) + 1;
+  const auto* const found = std::find(colors::recurring.begin(), colors::recurring.end(), color);
+  return found == colors::recurring.end() ? 0 : static_cast<int>(found - colors::recurring.begin()) + 1;
 }
 
 BallColors ballColors(const BallLook& look, const QPalette& palette) {

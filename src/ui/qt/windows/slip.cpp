@@ -26,7 +26,7 @@ Slip::Slip(SelectionForm& form, Binding& binding) {
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(theme::halfGap / 2);
-  for (int number = 1; number <= form.rules.numbers; ++number) {
+  for (int number = 1; number <= form.game.lastNumber; ++number) {
     auto* button = new BallButton(this);
     button->setFocusPolicy(Qt::ClickFocus);
     button->installEventFilter(this);
