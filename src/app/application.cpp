@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/application.h"
 
-#include "app/start_up.h"
+#include "app/game_pages.h"
 #include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "core/text.h"

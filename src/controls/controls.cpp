@@ -16,6 +16,18 @@ bool run(const std::function<void()>& handler) {
 
 }  // namespace
 
+std::string Color::text() const {
+  if (kind == Kind::buttonFace) return "buttonFace";
+  if (kind == Kind::threeDLight) return "3dLight";
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  std::string text = "#";
+  for (const std::uint8_t part : {red, green, blue}) {
+    text += digits[part >> 4U];
+    text += digits[part & 0xFU];
+  }
+  return text;
+}
+
 Control::Control(Form& form, std::string_view name, ControlType type)
     : form_(form), name_(name), type_(type) {
   form_.enter(*this);

@@ -23,7 +23,16 @@ class DrawIndex {
       : folder_(folder), file_(std::move(file)), dateText_(dateText) {}
 
   /// The first draw of the file with this date; null where there is none. Valid as long as the index.
-  const Draw* find(const std::string& date);
+  const Draw* find(const std::string& date) {
+    if (const auto known = draws_.find(date); known != draws_.end()) return &known->second;
+    if (!reader_) reader_.emplace(folder_, file_);
+    while (!reader_->atEnd()) {
+      const Draw draw = drawOf(reader_->record<drawFields>());
+      const auto entered = draws_.try_emplace((draw.*dateText_)(), draw).first;
+      if (entered->first == date) return &entered->second;
+    }
+    return nullptr;
+  }
 
  private:
   const DataFolder& folder_;

@@ -6,7 +6,6 @@
 #include "core/plays.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
-#include "selection/draw_count.h"
 #include "selection/draw_dates.h"
 #include "selection/obstacles.h"
 #include "selection/play_lists.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/draw_count.h"
-
+// The draw count: for how many draws the current plays are entered.
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 

@@ -2,7 +2,6 @@
 // Quick Pick: marks six random picks, seeded from the newest draw.
 #include "core/draws.h"
 #include "core/sequential_reader.h"
-#include "selection/marks.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 
@@ -56,7 +55,7 @@ void Command9_Click(SelectionForm& form) {
   seeds[extraPick] = newest.extra;
 
   const Picks picks = drawPicks(form.surroundings.random, form.rules.quickPick, seeds);
-  unmarkAll(form);
+  form.unmarkAll();
   markPicks(form, picks);
 }
 

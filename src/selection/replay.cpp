@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Replay: marks a play of the history again.
 #include "core/text.h"
-#include "selection/marks.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 
@@ -23,7 +22,7 @@ void Command60_Click(SelectionForm& form) {
   std::transform(places.begin(), places.end(), numbers.begin(),
                  [&](std::size_t place) { return cut(form.Combo7.text(), place, 2); });
 
-  unmarkAll(form);
+  form.unmarkAll();
   for (int number = 1; number <= form.rules.replayMain; ++number) {
     Button& button = form.button(number);
     const bool isPlayed = std::find(numbers.begin(), numbers.end(), button.caption()) != numbers.end();

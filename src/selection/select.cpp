@@ -5,7 +5,6 @@
 #include "core/plays.h"
 #include "core/text.h"
 #include "selection/draw_dates.h"
-#include "selection/marks.h"
 #include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
@@ -142,12 +141,12 @@ void Command59_Click(SelectionForm& form) {
   placeExtra(form, play);
   if (const std::string_view text = complaint(form.rules, play); !text.empty()) {
     form.surroundings.boxes.show({std::string(text), std::string(form.rules.countTitle)});
-    unmarkAll(form);
+    form.unmarkAll();
     return;
   }
   if (!entered(form, [&] { append(form, date(form, play).view()); })) return;
   form.Command1.setEnabled(true);
-  unmarkAll(form);
+  form.unmarkAll();
 }
 
 }  // namespace tallywick

@@ -4,8 +4,6 @@
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
-#include "selection/draw_count.h"
-#include "selection/marks.h"
 #include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_handlers.h"
@@ -83,7 +81,7 @@ void SelectionForm::wire() {
 }
 
 bool SelectionForm::load() {
-  unmarkAll(*this);
+  unmarkAll();
   Command59.setBackColor(colors::threeDLight);
   Command59.hide();
   Command7.hide();

@@ -10,10 +10,20 @@
 #include "core/random.h"
 #include "selection/selection_rules.h"
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace tallywick {
+
+/// A number's mark is its button's back colour.
+enum class Mark : std::uint8_t { none, main, extra };
+
+Mark markOf(const Button& button);
+void setMark(Button& button, Mark mark);
+
+/// The caption of the draw count that means one draw.
+inline constexpr std::string_view oneDraw = "    ";
 
 /// What a selection window works with.
 struct SelectionSurroundings {
@@ -39,6 +49,9 @@ class SelectionForm : public Form {
   /// program is changing the play files: the player has been told, the selections stay and the window takes
   /// no plays.
   bool load();
+
+  /// Takes the marks off all numbers.
+  void unmarkAll();
 
   /// Lets the window accept no further plays until it is opened again.
   void closeForPlays();

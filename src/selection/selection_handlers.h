@@ -3,10 +3,14 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace tallywick {
 
 class SelectionForm;
+
+/// How many draws a caption of the draw count means, 1 to 10.
+int drawCountOf(std::string_view caption);
 
 /// A press on a number button.
 void Number_Click(SelectionForm& form, int number);

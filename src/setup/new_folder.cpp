@@ -8,7 +8,7 @@
 #include "exports/made_up.h"
 #include "exports/merge.h"
 #include "settings/settings.h"
-#include "setup/ball_picture.h"
+#include "setup/ball_bitmap.h"
 #include "setup/folder_notes.h"
 #include "setup/records.h"
 #include "setup/sample.h"

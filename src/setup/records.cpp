@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup/records.h"
 
+#include "core/plays.h"
 #include "core/text.h"
 #include "exports/quoted_record.h"
 
 namespace tallywick::setup {
 
 using exports::QuotedRecord;
-
-namespace {
-
-
-}  // namespace
 
 std::string playsText(Game game, const std::vector<PlayEntry>& plays) {
   std::string text;

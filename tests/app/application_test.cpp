@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the program: the splash, the registry, what closes with what, recovery.
-#include "app/start_up.h"
+#include "app/game_pages.h"
 #include "support/fake_platform.h"
 
 #include <gmock/gmock.h>

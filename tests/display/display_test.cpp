@@ -51,7 +51,7 @@ TEST_F(Displays, TheChartCountsAHundredDraws) {
     return text;
   };
   const std::string doublePlay = inFolder(powerBall, doublePlayFile);
-  folder.write(powerBallTickets.draws, history(101, ""));
+  folder.write(ticketFilesOf(powerBall).draws, history(101, ""));
   folder.write(doublePlay, history(101, "01,02,03,04,05,06,x,y,"));
   for (std::size_t i = 0; i < 6; ++i) summary.frequent[i].setCaption(twoDigits(static_cast<int>(i) + 1));
   for (const auto show : {Command52_Click, Command27_Click, drawStartUpChart}) {
@@ -59,10 +59,10 @@ TEST_F(Displays, TheChartCountsAHundredDraws) {
     EXPECT_EQ(draws.Draw1.bars().size(), 6U);
     for (const Chart::Bar& bar : draws.Draw1.bars()) EXPECT_EQ(bar.value, 2) << draws.Draw1.title();
   }
-  folder.write(powerBallTickets.draws, history(99, ""));
+  folder.write(ticketFilesOf(powerBall).draws, history(99, ""));
   EXPECT_THROW(Command52_Click(draws, summary.frequent, folder.folder()), RuntimeError);
   EXPECT_EQ(draws.Draw1.bars()[0].value, 2) << "the chart stays";
-  folder.write(powerBallTickets.draws, history(3, "") + "\"01\"");
+  folder.write(ticketFilesOf(powerBall).draws, history(3, "") + "\"01\"");
   EXPECT_THROW(drawStartUpChart(draws, summary.frequent, folder.folder()), RuntimeError);
   EXPECT_EQ(draws.Draw1.bars()[0].value, 1) << "what is before a torn record";
 }
@@ -70,13 +70,13 @@ TEST_F(Displays, TheChartCountsAHundredDraws) {
 TEST_F(Displays, TheFirstDrawOfADateCounts) {
   const std::string history = records(
       {"11,11,1111,01,02,03,04,05,06,2", "01,26,2026,11,12,13,14,15,16,2", "01,26,2026,21,22,23,24,25,26,2"});
-  folder.write(powerBallTickets.draws, history);
+  folder.write(ticketFilesOf(powerBall).draws, history);
   folder.write(inFolder(powerBall, drawsFile), history);
-  folder.write(powerBallTickets.plays,
+  folder.write(ticketFilesOf(powerBall).plays,
                records({"01-26-2026,11,12,13,44,45,46,0", "01-26-2026,21,22,23,24,25,26,0",
                         "1-26-2026,11,12,13,14,15,16,0", "11-11-1111,01,02,03,04,05,06,0",
                         "01-26-2026,31,32,33,34,35,16,0"}));
-  checkByDate(page, folder.folder(), powerBallTickets);
+  checkByDate(page, folder.folder(), ticketFilesOf(powerBall));
   EXPECT_THAT(itemsOf(page.List10), ElementsAre(" 01-26-2026   11 12 13 44 45   46     ",
                                                 " 01-26-2026   31 32 33 34 35   16     "));
   EXPECT_THAT(page.List14.emphasis(), ElementsAre("  01-26-2026      11  12  13  44  45  46",
@@ -86,14 +86,14 @@ TEST_F(Displays, TheFirstDrawOfADateCounts) {
 }
 
 TEST_F(Displays, TheLeftoverGameIsCheckedLikeTheOthers) {
-  checkByDate(page, folder.folder(), hoosierTickets);
+  checkByDate(page, folder.folder(), hoosierTicketFiles());
   EXPECT_EQ(page.Combo10.text(), " No plays were created to search for") << "not even the folder exists";
-  EXPECT_THROW(checkAgainstLatestDraw(page, folder.folder(), hoosierTickets), RuntimeError);
-  folder.write(hoosierTickets.draws, records({"01,28,2026,01,02,03,04,05,06,2"}));
-  folder.write(hoosierTickets.plays, records({"01-28-2026,01,02,03,34,35,36,0"}));
-  checkByDate(page, folder.folder(), hoosierTickets);
+  EXPECT_THROW(checkAgainstLatestDraw(page, folder.folder(), hoosierTicketFiles()), RuntimeError);
+  folder.write(hoosierTicketFiles().draws, records({"01,28,2026,01,02,03,04,05,06,2"}));
+  folder.write(hoosierTicketFiles().plays, records({"01-28-2026,01,02,03,34,35,36,0"}));
+  checkByDate(page, folder.folder(), hoosierTicketFiles());
   EXPECT_THAT(itemsOf(page.List10), ElementsAre(" 01-28-2026   01 02 03 34 35   36     "));
-  checkAgainstLatestDraw(page, folder.folder(), hoosierTickets);
+  checkAgainstLatestDraw(page, folder.folder(), hoosierTicketFiles());
   EXPECT_THAT(itemsOf(page.Combo10), ElementsAre(" 01-28-2026   01 02 03 34 35   36"));
   EXPECT_THAT(itemsOf(page.List10), IsEmpty());
 }

@@ -3,7 +3,6 @@
 // that kills it. A runtime error is told by its number on standard output and exit code 1.
 #include "core/file_commit.h"
 #include "core/runtime_error.h"
-#include "selection/marks.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 #include "support/fakes.h"

@@ -4,7 +4,6 @@
 
 #include "controls/controls.h"
 #include "core/text.h"
-#include "selection/marks.h"
 #include "selection/selection_form.h"
 #include "support/fakes.h"
 #include "support/scratch_folder.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "setup/ball_picture.h"
+#include "setup/ball_bitmap.h"
 
 #include "core/text.h"
 #include "setup/digits.h"

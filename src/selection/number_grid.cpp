@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/marks.h"
-
+// The number grid: its marks, what a press does to them, and Clear.
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 
@@ -25,8 +24,8 @@ void setMark(Button& button, Mark mark) {
   button.setBackColor(marks[static_cast<std::size_t>(mark)]);
 }
 
-void unmarkAll(SelectionForm& form) {
-  for (const auto& button : form.numbers) setMark(*button, Mark::none);
+void SelectionForm::unmarkAll() {
+  for (const auto& button : numbers) setMark(*button, Mark::none);
 }
 
 void Number_Click(SelectionForm& form, int number) {
@@ -38,7 +37,7 @@ void Number_Click(SelectionForm& form, int number) {
 }
 
 void Command84_Click(SelectionForm& form) {
-  unmarkAll(form);
+  form.unmarkAll();
   if (markOf(form.Command59) != Mark::none) setMark(form.Command59, Mark::none);
 }
 

@@ -1,14 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/summary_buttons.h"
+#include "app/game_pages.h"
 
 #include "core/data_folder.h"
 #include "core/text.h"
+
+#include <exception>
 
 namespace tallywick {
 
 namespace {
 
-/// Shows what belongs to the game's pages. Every search and check control serves every game.
+/// Selects the first tab of all three strips.
+void showFirstTabs(NavigationBar& bar) {
+  for (TabStrip* tabs : {&bar.SSTab1, &bar.SSTab2, &bar.SSTab3}) tabs->setTab(0);
+}
+
+/// Shows one of the game frames and hides the others.
+void showGameFrame(GameFrames& frames, const Frame& shown) {
+  for (Frame* frame : {&frames.Frame4, &frames.Frame5, &frames.Frame6, &frames.Frame11}) {
+    frame->setVisible(frame == &shown);
+  }
+}
+
+/// Enables the game's update and selection entries and disables the other game's.
+void enableMenusOf(MainMenu& menu, const GameInfo& game) {
+  const bool isPowerBall = game.game == Game::powerBall;
+  menu.mnuPowerBall3.setEnabled(isPowerBall);
+  menu.mnuPowerBall2.setEnabled(isPowerBall);
+  menu.mnuMegaMillions3.setEnabled(!isPowerBall);
+  menu.mnuMegaMillions2.setEnabled(!isPowerBall);
+}
+
+/// Lays out the bars, menus and frames for a game. Every search and check control serves every game.
 void layOut(MainForm& form, const GameInfo& game) {
   showGameFrame(form.frames, game.game == Game::powerBall ? form.frames.Frame4 : form.frames.Frame11);
   form.frames.Frame12.setVisible(game.game == Game::megaMillions);
@@ -17,7 +40,7 @@ void layOut(MainForm& form, const GameInfo& game) {
   form.winnings.Combo10.clear();
 }
 
-/// The selection button tells which game's window it opens.
+/// The selection button says which game's window it opens.
 void nameSelection(Button& Command48, const GameInfo& game) {
   const std::string caption = join(game.name, " Play Selection");
   Command48.setCaption(caption);
@@ -66,6 +89,29 @@ void switchGame(MainForm& form) {
   form.frames.Frame11.show();
 }
 
+void showStartingState(MainForm& form, const GameInfo& game) {
+  layOut(form, game);
+  setSummaryHeadings(form.summary, game);
+  nameSelection(form.bar.Command48, game);
+  form.search.havePlayed.Label23.setCaption("");
+  form.search.played.Label24.setCaption("");
+  form.search.twoThree.Label25.setCaption("");
+  form.frames.Frame9.show();
+  form.frames.Frame1.show();
+  form.update.Command2.show();
+  form.search.played.Command29.show();
+  form.search.played.Command24.hide();
+}
+
+template <typename Step>
+void skipFailing(Step step) {
+  try {
+    step();
+  } catch (const std::exception&) {
+    // Start-up reports nothing: a folder that lacks files shows what it has.
+  }
+}
+
 }  // namespace
 
 void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes) {
@@ -98,22 +144,21 @@ void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder) {
   Command4_Click(form, folder);
 }
 
-void showFirstTabs(NavigationBar& bar) {
-  for (TabStrip* tabs : {&bar.SSTab1, &bar.SSTab2, &bar.SSTab3}) tabs->setTab(0);
-}
-
-void showGameFrame(GameFrames& frames, const Frame& shown) {
-  for (Frame* frame : {&frames.Frame4, &frames.Frame5, &frames.Frame6, &frames.Frame11}) {
-    frame->setVisible(frame == &shown);
-  }
-}
-
-void enableMenusOf(MainMenu& menu, const GameInfo& game) {
-  const bool isPowerBall = game.game == Game::powerBall;
-  menu.mnuPowerBall3.setEnabled(isPowerBall);
-  menu.mnuPowerBall2.setEnabled(isPowerBall);
-  menu.mnuMegaMillions3.setEnabled(!isPowerBall);
-  menu.mnuMegaMillions2.setEnabled(!isPowerBall);
+void startUp(MainForm& form, const DataFolder& folder) {
+  const auto& game = powerBall;
+  showStartingState(form, game);
+  skipFailing([&] { fillLastFifteen(form.summary, folder, game, MissingAmounts::areBlank); });
+  skipFailing([&] { fillWinningPlays(form.summary, folder, game); });
+  skipFailing([&] { fillAmounts(form.summary, folder, game); });
+  skipFailing([&] { fillPreviousDraws(form.summary, folder, game); });
+  skipFailing([&] { fillFrequentNumbers(form.summary, folder, game); });
+  setSearchCaptions(form.search, newestNumbers(form.summary));
+  skipFailing([&] { fillDrawPickers(form.search, folder, game); });
+  skipFailing([&] { fillPlayPicker(form.search, folder, game); });
+  setPlayCaptions(form.search.havePlayedPlays, form.frames);
+  skipFailing([&] { fillPlayedPlays(form.winnings, folder, game); });
+  skipFailing([&] { fillCommittedPlays(form.winnings, folder, game); });
+  skipFailing([&] { drawStartUpChart(form.draws, form.summary.frequent, folder); });
 }
 
 }  // namespace tallywick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The summary buttons and the game switch: they lay out the main window for a game and fill its pages.
+// The main window laid out and filled for a game: at start-up, by the summary buttons and by the game menus.
 #pragma once
 
 #include "app/main_form.h"
@@ -16,11 +16,8 @@ void Command4_Click(MainForm& form, const DataFolder& folder);
 void mnuPowerBall_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes);
 void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder);
 
-/// Selects the first tab of all three strips.
-void showFirstTabs(NavigationBar& bar);
-/// Shows one of Frame4, Frame6 and Frame11 and hides the other game frames.
-void showGameFrame(GameFrames& frames, const Frame& shown);
-/// Enables the game's update and selection entries and disables the other game's.
-void enableMenusOf(MainMenu& menu, const GameInfo& game);
+/// Opens the main window on PowerBall and fills its summary, its pickers and its chart. A step that fails is
+/// skipped: what it feeds stays empty or partly filled.
+void startUp(MainForm& form, const DataFolder& folder);
 
 }  // namespace tallywick
