@@ -152,7 +152,7 @@ void Application::showSystemInformation() {
     if (program.empty() || !platform.fileExists(program)) throw RuntimeError(ErrorNumber::fileNotFound);
     platform.start(program, "");
   } catch (const RuntimeError&) {
-    platform.show({"System Information Is Unavailable At This Time", std::string(programTitle)});
+    showMessage(platform, "System Information Is Unavailable At This Time");
   }
 }
 
@@ -161,9 +161,10 @@ void Application::openSettingPage(const std::string& address, std::string_view w
     surroundings_.platform.openPage(address);
     return;
   }
-  surroundings_.platform.show(
-      {join("The address of the ", what, " is not set. It stands in the settings, ", settingsFile, "."),
-       std::string(programTitle), MessageBox::Icon::information});
+  showMessage(
+      surroundings_.platform,
+      join("The address of the ", what, " is not set. It stands in the settings, ", settingsFile, "."),
+      MessageBox::Icon::information);
 }
 
 }  // namespace tallywick

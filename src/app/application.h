@@ -13,7 +13,6 @@
 #include "settings/settings.h"
 #include "update/update_procedure.h"
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -75,9 +74,11 @@ class Application {
   /// An action that reads or writes files of the games: recovery comes before it.
   std::function<void()> onFiles(std::function<void()> action) const;
   void wireMainWindow();
+  void wireBar();
   void wireMenus();
   void wireSearches();
   void wireDisplays();
+  void wireUpdates();
   TransferFactory transferFactory() const;
   UpdateSurroundings updateSurroundings();
   void openSettingPage(const std::string& address, std::string_view what);

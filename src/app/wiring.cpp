@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What each control of the main window leads to.
 #include "app/application.h"
-#include "app/summary_buttons.h"
+#include "app/game_pages.h"
 #include "search/marks.h"
 #include "update/curl_transfer.h"
 #include "update/maintenance.h"
@@ -12,29 +12,29 @@
 namespace tallywick {
 
 void Application::wireMainWindow() {
+  wireBar();
+  wireMenus();
+  wireSearches();
+  wireDisplays();
+  wireUpdates();
+}
+
+void Application::wireBar() {
   MainForm& form = *main_;
   Platform& platform = surroundings_.platform;
   const DataFolder& folder = surroundings_.folder;
 
-  form.bar.Command7.onClick = onFiles([&] { Command7_Click(form, folder, platform); });
-  form.bar.Command4.onClick = onFiles([&] { Command4_Click(form, folder); });
-  form.bar.Command8.onClick = [&] { Command8_Click(form.bar); };
-  form.bar.Command48.onClick = onFiles([&] {
+  form.bar.Command7.onClick =
+      onFiles([&form, &folder, &platform] { Command7_Click(form, folder, platform); });
+  form.bar.Command4.onClick = onFiles([&form, &folder] { Command4_Click(form, folder); });
+  form.bar.Command8.onClick = [&form] { Command8_Click(form.bar); };
+  form.bar.Command48.onClick = onFiles([this, &form] {
     if (form.frames.Frame4.visible() || form.frames.Frame6.visible()) {
       openSelection(powerBall);
     } else if (form.frames.Frame11.visible()) {
       openSelection(megaMillions);
     }
   });
-  form.update.Command2.onClick = onFiles([&] {
-    UpdateSurroundings update = updateSurroundings();
-    Command2_Click(update);
-  });
-  form.update.Command1.onClick = onFiles([&] { Command1_Click(folder, platform); });
-  form.update.Command51.onClick = onFiles([&] { Command51_Click(folder, platform); });
-  wireMenus();
-  wireSearches();
-  wireDisplays();
 }
 
 void Application::wireMenus() {
@@ -43,28 +43,21 @@ void Application::wireMenus() {
   Platform& platform = surroundings_.platform;
   const DataFolder& folder = surroundings_.folder;
 
-  menu.mnuPowerBall.onClick = onFiles([&] { mnuPowerBall_Click(form, folder, platform); });
-  menu.mnuMegaMillions.onClick = onFiles([&] { mnuMegaMillions_Click(form, folder); });
-  menu.munSearches.onClick = [&] {
+  menu.mnuPowerBall.onClick =
+      onFiles([&form, &folder, &platform] { mnuPowerBall_Click(form, folder, platform); });
+  menu.mnuMegaMillions.onClick = onFiles([&form, &folder] { mnuMegaMillions_Click(form, folder); });
+  menu.munSearches.onClick = [&form] {
     form.bar.SSTab1.setTab(1);
     form.bar.SSTab2.setTab(0);
   };
-  menu.mnuWinnings.onClick = [&] {
+  menu.mnuWinnings.onClick = [&form] {
     form.bar.SSTab1.setTab(2);
     form.bar.SSTab3.setTab(1);
   };
   menu.mnuExit.onClick = [this] { exit(); };
-  menu.mnuPowerBall2.onClick = onFiles([this] {
-    UpdateSurroundings update = updateSurroundings();
-    mnuPowerBall2_Click(update);
-  });
-  menu.mnuMegaMillions2.onClick = onFiles([this] {
-    UpdateSurroundings update = updateSurroundings();
-    mnuMegaMillions2_Click(update);
-  });
   menu.mnuPowerBall3.onClick = onFiles([this] { openSelection(powerBall); });
   menu.mnuMegaMillions3.onClick = onFiles([this] { openSelection(megaMillions); });
-  menu.mnuHelp.onClick = [&] {
+  menu.mnuHelp.onClick = [&platform] {
     platform.show(
         {" Please...,   Press  'F1'  for Help\r\n", " Tallywick Software  ", MessageBox::Icon::exclamation});
   };
@@ -74,55 +67,89 @@ void Application::wireMenus() {
 }
 
 void Application::wireSearches() {
-  MainForm& form = *main_;
+  SearchPages& pages = main_->search;
+  const GameFrames& frames = main_->frames;
   MessageBoxes& boxes = surroundings_.platform;
   const DataFolder& folder = surroundings_.folder;
 
-  TwoThreePage& twoThree = form.search.twoThree;
+  TwoThreePage& twoThree = pages.twoThree;
   for (Button& number : twoThree.numbers) number.onClick = [&number] { toggleMark(number); };
-  twoThree.Command37.onClick = [&] { Command37_Click(twoThree); };
-  twoThree.Command38.onClick = onFiles([&] { Command38_Click(twoThree, folder, boxes); });
-  twoThree.Command25.onClick = onFiles([&] { Command25_Click(twoThree, folder, boxes); });
-  twoThree.Command26.onClick = onFiles([&] { Command26_Click(twoThree, folder, boxes); });
+  twoThree.Command37.onClick = [&twoThree] { Command37_Click(twoThree); };
+  twoThree.Command38.onClick =
+      onFiles([&twoThree, &folder, &boxes] { Command38_Click(twoThree, folder, boxes); });
+  twoThree.Command25.onClick =
+      onFiles([&twoThree, &folder, &boxes] { Command25_Click(twoThree, folder, boxes); });
+  twoThree.Command26.onClick =
+      onFiles([&twoThree, &folder, &boxes] { Command26_Click(twoThree, folder, boxes); });
 
-  HavePlayedPage& havePlayed = form.search.havePlayed;
+  HavePlayedPage& havePlayed = pages.havePlayed;
   for (Button& number : havePlayed.numbers) {
     number.onClick = [&havePlayed, &number] { havePlayedNumber_Click(havePlayed, number); };
   }
-  havePlayed.Command22.onClick = [&] { Command22_Click(havePlayed, form.frames); };
-  havePlayed.Command21.onClick = onFiles([&] { Command21_Click(havePlayed, form.frames, folder, boxes); });
+  havePlayed.Command22.onClick = [&havePlayed, &frames] { Command22_Click(havePlayed, frames); };
+  havePlayed.Command21.onClick = onFiles(
+      [&havePlayed, &frames, &folder, &boxes] { Command21_Click(havePlayed, frames, folder, boxes); });
 
-  PlayedPage& played = form.search.played;
+  PlayedPage& played = pages.played;
   for (Button* display : {&played.Command24, &played.Command29}) {
-    display->onClick = [&] { Command29_Click(played, form.frames); };
+    display->onClick = [&played, &frames] { Command29_Click(played, frames); };
   }
-  played.Command30.onClick = onFiles([&] { Command30_Click(played, form.frames, folder, boxes); });
+  played.Command30.onClick =
+      onFiles([&played, &frames, &folder, &boxes] { Command30_Click(played, frames, folder, boxes); });
 
-  HavePlayedPlaysPage& plays = form.search.havePlayedPlays;
+  HavePlayedPlaysPage& plays = pages.havePlayedPlays;
   for (Button& number : plays.numbers) number.onClick = [&number] { toggleMark(number); };
-  plays.Command45.onClick = [&] { Command45_Click(plays, form.frames); };
-  plays.Command46.onClick =
-      onFiles([&] { Command46_Click(plays, havePlayed.Combo5, form.frames, folder, boxes); });
+  plays.Command45.onClick = [&plays, &frames] { Command45_Click(plays, frames); };
+  plays.Command46.onClick = onFiles([&plays, &havePlayed, &frames, &folder, &boxes] {
+    Command46_Click(plays, havePlayed.Combo5, frames, folder, boxes);
+  });
 }
 
 void Application::wireDisplays() {
-  MainForm& form = *main_;
+  WinningsPage& winnings = main_->winnings;
+  DrawsPage& draws = main_->draws;
+  const ButtonRow<6>& frequent = main_->summary.frequent;
+  const GameFrames& frames = main_->frames;
   const DataFolder& folder = surroundings_.folder;
 
-  WinningsPage& winnings = form.winnings;
-  winnings.Option1.onClick = [&] {
+  winnings.Option1.onClick = [&winnings] {
     winnings.Option1.setValue(true);
     winnings.Option2.setValue(false);
   };
-  winnings.Option2.onClick = [&] {
+  winnings.Option2.onClick = [&winnings] {
     winnings.Option2.setValue(true);
     winnings.Option1.setValue(false);
   };
-  winnings.Command47.onClick = onFiles([&] { Command47_Click(winnings, form.frames, folder); });
+  winnings.Command47.onClick =
+      onFiles([&winnings, &frames, &folder] { Command47_Click(winnings, frames, folder); });
 
-  form.draws.Command52.onClick = onFiles([&] { Command52_Click(form.draws, form.summary.frequent, folder); });
-  form.draws.Command27.onClick = onFiles([&] { Command27_Click(form.draws, form.summary.frequent, folder); });
-  form.draws.Command3.onClick = onFiles([&] { Command3_Click(form.draws, folder); });
+  draws.Command52.onClick =
+      onFiles([&draws, &frequent, &folder] { Command52_Click(draws, frequent, folder); });
+  draws.Command27.onClick =
+      onFiles([&draws, &frequent, &folder] { Command27_Click(draws, frequent, folder); });
+  draws.Command3.onClick = onFiles([&draws, &folder] { Command3_Click(draws, folder); });
+}
+
+void Application::wireUpdates() {
+  UpdatePage& page = main_->update;
+  MainMenu& menu = main_->menu;
+  Platform& platform = surroundings_.platform;
+  const DataFolder& folder = surroundings_.folder;
+
+  page.Command2.onClick = onFiles([this] {
+    UpdateSurroundings update = updateSurroundings();
+    Command2_Click(update);
+  });
+  menu.mnuPowerBall2.onClick = onFiles([this] {
+    UpdateSurroundings update = updateSurroundings();
+    mnuPowerBall2_Click(update);
+  });
+  menu.mnuMegaMillions2.onClick = onFiles([this] {
+    UpdateSurroundings update = updateSurroundings();
+    mnuMegaMillions2_Click(update);
+  });
+  page.Command1.onClick = onFiles([&folder, &platform] { Command1_Click(folder, platform); });
+  page.Command51.onClick = onFiles([&folder, &platform] { Command51_Click(folder, platform); });
 }
 
 TransferFactory Application::transferFactory() const {
@@ -150,7 +177,7 @@ UpdateSurroundings Application::updateSurroundings() {
           platform,
           surroundings_.settings.server,
           transferFactory(),
-          [&] { Command3_Click(form.draws, surroundings_.folder); }};
+          [this] { Command3_Click(main_->draws, surroundings_.folder); }};
 }
 
 }  // namespace tallywick

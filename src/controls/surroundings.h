@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tallywick {
 
@@ -29,6 +30,12 @@ class MessageBoxes {
   virtual ~MessageBoxes() = default;
   virtual MessageBox::Answer show(const MessageBox& box) = 0;
 };
+
+/// Shows a message of the program's own, with its title.
+inline void showMessage(MessageBoxes& boxes, std::string text,
+                        MessageBox::Icon icon = MessageBox::Icon::none) {
+  boxes.show({std::move(text), std::string(programTitle), icon});
+}
 
 /// Brings the screen up to date in the middle of a handler, for example at a step of a progress bar.
 class Screen {

@@ -25,8 +25,8 @@ struct GameInfo {
   int lastNumber;
 };
 
-inline constexpr GameInfo powerBall = {
-    Game::powerBall, "PowerBall", "PWR", R"(QzrNumbers\QZR6PWR\)", "QzrPwr.Win", "40", 69};
+inline constexpr GameInfo powerBall = {Game::powerBall, "PowerBall", "PWR", R"(QzrNumbers\QZR6PWR\)",
+                                       "QzrPwr.Win",    "40",        69};
 inline constexpr GameInfo megaMillions = {
     Game::megaMillions, "Mega Millions", "MEG", R"(QzrNumbers\QZR6MEG\)", "QzrMeg.Win", "12", 79};
 

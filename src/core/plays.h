@@ -41,7 +41,8 @@ struct Play {
 
 Play playOf(const Fields<playFields>& record);
 
-/// The decade pattern of five main numbers: a digit for 01 to 09, then one a decade up to the game's last number.
+/// The decade pattern of five main numbers: a digit for 01 to 09, then one a decade up to the game's last
+/// number.
 std::string decadePattern(const GameInfo& game, const std::array<int, 5>& main);
 
 /// Adds `play` to `text` as the record book writes records: every field in double quotes, CR LF at the end.

@@ -18,8 +18,9 @@ std::optional<SequentialReader> openHistory(const DataFolder& folder, std::strin
 }
 
 void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes) {
-  boxes.show({join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
-              std::string(programTitle), MessageBox::Icon::exclamation});
+  showMessage(boxes,
+              join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
+              MessageBox::Icon::exclamation);
 }
 
 }  // namespace tallywick

@@ -7,7 +7,6 @@
 #include "selection/selection_form.h"
 
 #include <string>
-#include <utility>
 
 namespace tallywick {
 
@@ -15,18 +14,17 @@ namespace tallywick {
 /// the play files; the player has been told then. Every other failure is raised.
 template <typename Enter>
 bool entered(const SelectionForm& form, Enter enter) {
-  const auto tell = [&](std::string text) {
-    form.surroundings.boxes.show({std::move(text), std::string(programTitle), MessageBox::Icon::exclamation});
-    return false;
-  };
+  std::string obstacle;
   try {
     enter();
     return true;
   } catch (const CalendarGap& gap) {
-    return tell(gap.what());
+    obstacle = gap.what();
   } catch (const LockedByAnother&) {
-    return tell("Another program is changing the play files. Nothing was saved. Please try again.");
+    obstacle = "Another program is changing the play files. Nothing was saved. Please try again.";
   }
+  showMessage(form.surroundings.boxes, obstacle, MessageBox::Icon::exclamation);
+  return false;
 }
 
 }  // namespace tallywick

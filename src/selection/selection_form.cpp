@@ -19,9 +19,10 @@ std::optional<os::FileLock> lockPlays(const SelectionForm& form) {
   try {
     return lockFolder(gameFolder(form));
   } catch (const LockedByAnother&) {
-    form.surroundings.boxes.show(
-        {"Another program is changing the play files. Please open the play selection again in a moment.",
-         std::string(programTitle), MessageBox::Icon::exclamation});
+    showMessage(
+        form.surroundings.boxes,
+        "Another program is changing the play files. Please open the play selection again in a moment.",
+        MessageBox::Icon::exclamation);
     return std::nullopt;
   }
 }
