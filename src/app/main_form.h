@@ -3,10 +3,10 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "controls/game_frames.h"
 #include "display/draws_page.h"
 #include "display/summary.h"
 #include "display/winning_tickets.h"
+#include "frames/game_frames.h"
 #include "search/search_pages.h"
 #include "update/update_page.h"
 

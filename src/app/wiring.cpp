@@ -29,11 +29,7 @@ void Application::wireBar() {
   form.bar.Command4.onClick = onFiles([&form, &folder] { Command4_Click(form, folder); });
   form.bar.Command8.onClick = [&form] { Command8_Click(form.bar); };
   form.bar.Command48.onClick = onFiles([this, &form] {
-    if (form.frames.Frame4.visible() || form.frames.Frame6.visible()) {
-      openSelection(powerBall);
-    } else if (form.frames.Frame11.visible()) {
-      openSelection(megaMillions);
-    }
+    if (const GameInfo* const game = gameOnShow(form.frames)) openSelection(*game);
   });
 }
 

@@ -8,7 +8,6 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -48,11 +47,9 @@ bool isSortableDate(std::string_view text) {
 /// The number behind a copy's date, as " 2"; 1 where there is none, 0 where it is no such number.
 std::size_t numberIn(std::string_view text) {
   if (text.empty()) return 1;
-  std::size_t number = 0;
-  const auto [end, error] = std::from_chars(text.data() + 1, text.data() + text.size(), number);
-  const bool isNumber =
-      text.front() == ' ' && error == std::errc() && end == text.data() + text.size() && text[1] != '0';
-  return isNumber && number > 1 ? number : 0;
+  if (text.front() != ' ' || text.substr(1).starts_with('0')) return 0;
+  const std::size_t number = wholeNumber<std::size_t>(text.substr(1)).value_or(0);
+  return number > 1 ? number : 0;
 }
 
 /// The entry `candidate` as a copy of the file `name`; none where it is none.

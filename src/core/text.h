@@ -3,12 +3,16 @@
 #pragma once
 
 #include <array>
+#include <charconv>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace tallywick {
 
@@ -57,5 +61,15 @@ std::string lowered(std::string_view text);
 
 /// A number below 100 with two digits.
 std::string twoDigits(int number);
+
+/// The number that the whole of `text` writes in decimal digits, a signed type also after a minus; none for
+/// any other text and for a number out of range.
+template <std::integral Number>
+std::optional<Number> wholeNumber(std::string_view text) {
+  Number number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (text.empty() || error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
 
 }  // namespace tallywick

@@ -142,9 +142,9 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
 }
 
 void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFolder& folder) {
-  const bool isPowerBall = frames.Frame4.visible() || frames.Frame6.visible();
-  if (!isPowerBall && !frames.Frame11.visible()) return;
-  const TicketFiles files = ticketFilesOf(isPowerBall ? powerBall : megaMillions);
+  const GameInfo* const game = gameOnShow(frames);
+  if (game == nullptr) return;
+  const TicketFiles files = ticketFilesOf(*game);
   if (page.Option1.value()) {
     checkAgainstLatestDraw(page, folder, files);
   } else if (page.Option2.value()) {

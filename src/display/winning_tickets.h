@@ -3,10 +3,10 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "controls/game_frames.h"
 #include "core/draws.h"
 #include "core/games.h"
 #include "core/plays.h"
+#include "frames/game_frames.h"
 
 #include <string>
 

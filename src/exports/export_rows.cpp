@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -55,12 +54,9 @@ std::size_t needed(const CsvReader& rows, std::initializer_list<std::string_view
 }
 
 int numberOf(std::string_view text) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (text.empty() || error != std::errc() || end != text.data() + text.size()) {
-    refuse(quoted(text), " is no number");
-  }
-  return number;
+  const auto number = wholeNumber<int>(text);
+  if (!number) refuse(quoted(text), " is no number");
+  return *number;
 }
 
 std::vector<int> numbersOf(std::string_view text) {

@@ -3,9 +3,9 @@
 // player.
 #pragma once
 
-#include "controls/surroundings.h"
 #include "core/runtime_error.h"
 #include "core/sequential_reader.h"
+#include "core/surroundings.h"
 #include "core/text.h"
 
 #include <cstddef>

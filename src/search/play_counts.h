@@ -4,8 +4,8 @@
 
 #include "controls/button_row.h"
 #include "controls/controls.h"
-#include "controls/game_frames.h"
-#include "controls/surroundings.h"
+#include "core/surroundings.h"
+#include "frames/game_frames.h"
 
 namespace tallywick {
 

@@ -4,7 +4,7 @@
 
 #include "controls/button_row.h"
 #include "controls/controls.h"
-#include "controls/surroundings.h"
+#include "core/surroundings.h"
 
 namespace tallywick {
 

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "controls/surroundings.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/games.h"
 #include "core/random.h"
+#include "core/surroundings.h"
 #include "selection/selection_rules.h"
 
 #include <cstdint>

@@ -3,8 +3,8 @@
 // history.
 #pragma once
 
-#include "controls/surroundings.h"
 #include "core/games.h"
+#include "core/surroundings.h"
 
 namespace tallywick {
 

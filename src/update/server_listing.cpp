@@ -4,7 +4,6 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 namespace tallywick {
@@ -19,13 +18,6 @@ bool isDigit(char letter) {
 
 bool isNumber(std::string_view word) {
   return !word.empty() && std::all_of(word.begin(), word.end(), isDigit);
-}
-
-std::optional<std::uint64_t> numberOf(std::string_view word) {
-  std::uint64_t number = 0;
-  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (word.empty() || error != std::errc() || end != word.data() + word.size()) return std::nullopt;
-  return number;
 }
 
 /// A word of a line with the place where it ends.
@@ -87,7 +79,7 @@ Line readMachineLine(std::string_view line, ListedFile& file) {
     const std::size_t equals = std::min(fact.find('='), fact.size());
     const std::string_view value = fact.substr(std::min(equals + 1, fact.size()));
     if (equalIgnoringCase(fact.substr(0, equals), "type")) type = lowered(value);
-    if (equalIgnoringCase(fact.substr(0, equals), "size")) size = numberOf(value);
+    if (equalIgnoringCase(fact.substr(0, equals), "size")) size = wholeNumber<std::uint64_t>(value);
   }
   if (type.empty()) return Line::notUnderstood;
   return type == "file" ? entry(line.substr(blank + 1), size, file) : Line::passedOver;
@@ -121,7 +113,7 @@ Line readUnixLine(std::string_view line, const std::vector<Word>& words, ListedF
     const std::size_t date = isNumber(words[at].text) ? dateLengthBehind(words, at) : 0;
     if (date == 0) continue;
     if (words[at + date].end == line.size()) return Line::notUnderstood;
-    return entry(nameBehind(words[at + date], line), numberOf(words[at].text), file);
+    return entry(nameBehind(words[at + date], line), wholeNumber<std::uint64_t>(words[at].text), file);
   }
   return Line::notUnderstood;
 }
@@ -135,7 +127,7 @@ bool isWindowsDate(std::string_view word) {
 Line readWindowsLine(std::string_view line, const std::vector<Word>& words, ListedFile& file) {
   if (words.size() < 3) return Line::notUnderstood;
   if (words[2].text.starts_with('<')) return Line::passedOver;
-  const auto size = numberOf(words[2].text);
+  const auto size = wholeNumber<std::uint64_t>(words[2].text);
   if (!size || words[2].end == line.size()) return Line::notUnderstood;
   return entry(nameBehind(words[2], line), size, file);
 }

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "controls/surroundings.h"
 #include "core/clock.h"
 #include "core/games.h"
+#include "core/surroundings.h"
 #include "update/transfer_component.h"
 #include "update/update_page.h"
 

@@ -3,7 +3,7 @@
 #include "settings/settings.h"
 
 #include "app/data_folder_choice.h"
-#include "app/program_start.h"
+#include "app/started_program.h"
 #include "core/os.h"
 #include "core/program_run.h"
 #include "core/runtime_error.h"
@@ -123,7 +123,7 @@ TEST(ProgramRun, WhatEscapesAProgramBecomesAMessageAndAnExitCode) {
             "tallywick: Disk full: file\ntallywick: Internal error\n");
 }
 
-TEST(ProgramStart, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
+TEST(StartedProgram, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
   const ScratchFolder scratch;
   constexpr const char* path =
       R"(C:\Program Files\TALLYWICK SOFTWARE\TALLYWICK\QZRNUMBERS\QZR6PWR\QZRSRT3.EXE)";
@@ -141,10 +141,10 @@ TEST(ProgramStart, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
     scratch.write(path, row.text);
     const auto tool = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRSRT3.EXE";
     std::filesystem::permissions(tool, row.rights);
-    const ProgramStart start = programStart(scratch.folder(), path, R"(C:\)");
+    const StartedProgram start = startedProgram(scratch.folder(), path, R"(C:\)");
     EXPECT_EQ(start.program, os::programFile().parent_path() / "qzrsrt3") << row.way;
     EXPECT_TRUE(std::filesystem::equivalent(start.argument, tool.parent_path())) << row.way;
-    EXPECT_THROW(programStart(scratch.folder(), tool.string() + "x", ""), RuntimeError) << row.way;
+    EXPECT_THROW(startedProgram(scratch.folder(), tool.string() + "x", ""), RuntimeError) << row.way;
   }
 }
 

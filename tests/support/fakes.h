@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "controls/surroundings.h"
+#include "core/surroundings.h"
 
 #include <deque>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/script/script_platform.h"
 
-#include "app/program_start.h"
+#include "app/started_program.h"
 #include "core/day.h"
 #include "core/os.h"
 #include "core/text.h"
@@ -81,7 +81,7 @@ void ScriptPlatform::start(std::string_view program, std::string_view workingFol
   json["program"] = program;
   json["workingFolder"] = workingFolder;
   out_ << oneLine({{"started", json}}) << std::endl;
-  const ProgramStart really = programStart(folder_, program, workingFolder);
+  const StartedProgram really = startedProgram(folder_, program, workingFolder);
   if (os::canRun(really.program)) {
     os::startProgram(really.program, really.argument, really.workingFolder);
   } else {

@@ -5,7 +5,6 @@
 #include "display/judging.h"
 #include "ui/script/control_json.h"
 
-#include <charconv>
 #include <iostream>
 #include <istream>
 #include <ostream>
@@ -94,12 +93,9 @@ void ScriptRun::click(std::string_view name) {
 
 void ScriptRun::choose(std::string_view rest) {
   Control& target = control(takeWord(rest));
-  const std::string_view digits = trimmed(rest);
-  std::size_t index = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), index);
-  if (digits.empty() || error != std::errc() || end != digits.data() + digits.size()) {
-    throw BadLine("choose takes a name and an index from 0");
-  }
+  const auto number = wholeNumber<std::size_t>(trimmed(rest));
+  if (!number) throw BadLine("choose takes a name and an index from 0");
+  const std::size_t index = *number;
   if (auto* combo = dynamic_cast<ComboBox*>(&target)) {
     combo->setText(std::string(itemAt(combo->items(), index)));
   } else if (auto* tabs = dynamic_cast<TabStrip*>(&target)) {

@@ -2,10 +2,10 @@
 #include "ui/qt/dialogs/first_start.h"
 
 #include "app/data_folder_choice.h"
-#include "controls/surroundings.h"
 #include "core/file_commit.h"
 #include "core/random.h"
 #include "core/runtime_error.h"
+#include "core/surroundings.h"
 #include "setup/new_folder.h"
 #include "ui/qt/parts/wording.h"
 

@@ -2,10 +2,10 @@
 #include "ui/qt/program/options.h"
 
 #include "app/small_windows.h"
+#include "core/text.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 
 namespace tallywick {
 
@@ -14,17 +14,11 @@ namespace {
 /// What is wrong with a size such as "1024x768"; empty where nothing is.
 std::string isSize(const std::string& text) {
   constexpr int largest = 10000;
-  int width = 0;
-  int height = 0;
-  const char* const end = text.data() + text.size();
-  const auto [cross, wrongWidth] = std::from_chars(text.data(), end, width);
-  const bool hasCross = wrongWidth == std::errc() && cross != end && *cross == 'x';
-  if (hasCross) {
-    const auto [rest, wrongHeight] = std::from_chars(cross + 1, end, height);
-    const bool inRange = std::min(width, height) > 0 && std::max(width, height) <= largest;
-    if (wrongHeight == std::errc() && rest == end && inRange) return {};
-  }
-  return text + " is no size such as 1024x768";
+  const std::size_t cross = std::min(text.find('x'), text.size());
+  const auto width = wholeNumber<int>(std::string_view(text).substr(0, cross));
+  const auto height = wholeNumber<int>(std::string_view(text).substr(std::min(cross + 1, text.size())));
+  const bool isOne = width && height && std::min(*width, *height) > 0 && std::max(*width, *height) <= largest;
+  return isOne ? "" : text + " is no size such as 1024x768";
 }
 
 void declare(CLI::App& line, Options& options) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/qt_platform.h"
 
-#include "app/program_start.h"
+#include "app/started_program.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "ui/qt/windows/transfer_panel.h"
@@ -142,7 +142,7 @@ bool QtPlatform::cancelled() {
 }
 
 void QtPlatform::start(std::string_view program, std::string_view workingFolder) {
-  const ProgramStart really = programStart(folder_, program, workingFolder);
+  const StartedProgram really = startedProgram(folder_, program, workingFolder);
   if (os::canRun(really.program)) {
     os::startProgram(really.program, really.argument, really.workingFolder);
   } else {

@@ -88,9 +88,9 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
 }
 
 void NavigationBarView::showGame() {
-  const GameFrames& frames = form_.frames;
-  showSide(*powerBall_, frames.Frame4.visible() || frames.Frame6.visible());
-  showSide(*megaMillions_, frames.Frame11.visible());
+  const GameInfo* const game = gameOnShow(form_.frames);
+  showSide(*powerBall_, game == &powerBall);
+  showSide(*megaMillions_, game == &megaMillions);
 }
 
 }  // namespace tallywick

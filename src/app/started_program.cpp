@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/program_start.h"
+#include "app/started_program.h"
 
 #include "core/data_folder.h"
 #include "core/games.h"
@@ -35,8 +35,8 @@ fs::path standingFolder(std::string_view written, const DataFolder& folder) {
 
 }  // namespace
 
-ProgramStart programStart(const DataFolder& folder, std::string_view program,
-                          std::string_view workingFolder) {
+StartedProgram startedProgram(const DataFolder& folder, std::string_view program,
+                              std::string_view workingFolder) {
   const fs::path startsIn = standingFolder(workingFolder, folder);
   const std::size_t name = program.find_last_of("\\/") + 1;
   if (equalIgnoringCase(program.substr(name), sortToolFile)) {

@@ -10,7 +10,7 @@ namespace tallywick {
 class DataFolder;
 
 /// A program as it is really started.
-struct ProgramStart {
+struct StartedProgram {
   std::filesystem::path program;
   /// Its only argument; empty where it has none.
   std::filesystem::path argument;
@@ -20,6 +20,7 @@ struct ProgramStart {
 /// What is started for `program`: for a game folder's sort tool always the program's own, which is installed
 /// beside the running program, on that game folder; for any other path the program of that path. Files of a
 /// data folder come from servers and other people, so none of them is ever run: error 53.
-ProgramStart programStart(const DataFolder& folder, std::string_view program, std::string_view workingFolder);
+StartedProgram startedProgram(const DataFolder& folder, std::string_view program,
+                              std::string_view workingFolder);
 
 }  // namespace tallywick

@@ -3,18 +3,12 @@
 #pragma once
 
 #include "controls/controls.h"
+#include "core/games.h"
 
 namespace tallywick {
 
 struct GameFrames {
-  explicit GameFrames(Form& form)
-      : Frame1(form, "Frame1"),
-        Frame4(form, "Frame4"),
-        Frame5(form, "Frame5"),
-        Frame6(form, "Frame6"),
-        Frame9(form, "Frame9"),
-        Frame11(form, "Frame11"),
-        Frame12(form, "Frame12") {}
+  explicit GameFrames(Form& form);
 
   Frame Frame1;
   /// PowerBall.
@@ -29,5 +23,8 @@ struct GameFrames {
   /// The headings of the Lucky Five section, shown with Mega Millions.
   Frame Frame12;
 };
+
+/// The game whose frame is visible, PowerBall with its Double Play too; null where neither game is on show.
+const GameInfo* gameOnShow(const GameFrames& frames);
 
 }  // namespace tallywick
