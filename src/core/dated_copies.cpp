@@ -112,8 +112,10 @@ std::vector<DatedCopy> datedCopies(const fs::path& folder, std::string_view name
 void pruneDatedCopies(const fs::path& folder, std::string_view name, std::string_view spared) {
   try {
     const std::vector<DatedCopy> copies = datedCopies(folder, name);
-    for (std::size_t i = keptCopies; i < copies.size(); ++i) {
-      if (copies[i].name != spared) os::removeDurably(folder / pathOf(copies[i].name));
+    std::size_t kept = spared.empty() ? 0 : 1;
+    for (const DatedCopy& copy : copies) {
+      if (copy.name == spared || ++kept <= keptCopies) continue;
+      os::removeDurably(folder / pathOf(copy.name));
     }
   } catch (const std::exception&) {
     // A copy too many is in nobody's way; the next change removes it.

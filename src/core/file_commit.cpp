@@ -52,6 +52,15 @@ fs::path stagedPath(const fs::path& folder, std::string_view name) {
   return folder / pathOf(join(name, stagedSuffix));
 }
 
+/// The staged file and the journal as they are found after a crash: a folder that was copied since may have
+/// them in another letter case.
+fs::path foundStaged(const fs::path& folder, std::string_view name) {
+  return entryInAnyCase(folder, join(name, stagedSuffix));
+}
+fs::path foundJournal(const fs::path& folder) {
+  return entryInAnyCase(folder, journalName);
+}
+
 /// What has the name itself: of a link the link.
 fs::file_type typeOf(const fs::path& file) {
   std::error_code error;
@@ -64,18 +73,22 @@ bool stands(const fs::path& file) {
   return typeOf(file) != fs::file_type::not_found;
 }
 
-/// The files of `folder` with names of the program's own, but for the lock.
-std::vector<fs::path> workFiles(const fs::path& folder) {
+/// The entries of `folder` with names of the program's own, but for the lock.
+std::vector<fs::path> workEntries(const fs::path& folder) {
   std::vector<fs::path> found;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     const std::string name = nameOf(entry->path());
-    std::error_code ignored;
-    const bool isFolder = entry->symlink_status(ignored).type() == fs::file_type::directory;
-    if (!isOwnWorkName(name) || equalIgnoringCase(name, lockName) || isFolder) continue;
-    found.push_back(entry->path());
+    if (isOwnWorkName(name) && !equalIgnoringCase(name, lockName)) found.push_back(entry->path());
   }
   if (error) throw runtimeErrorFrom(error, folder);
+  return found;
+}
+
+/// Those of them that are no folders.
+std::vector<fs::path> workFiles(const fs::path& folder) {
+  std::vector<fs::path> found = workEntries(folder);
+  std::erase_if(found, [](const fs::path& entry) { return typeOf(entry) == fs::file_type::directory; });
   return found;
 }
 
@@ -154,7 +167,7 @@ std::optional<std::vector<Replacement>> readJournal(const fs::path& journal) {
 
 /// Whether nothing stands in the way of a staged file that is still to be taken over.
 bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
-  const fs::file_type staged = typeOf(stagedPath(folder, entry.name));
+  const fs::file_type staged = typeOf(foundStaged(folder, entry.name));
   if (staged == fs::file_type::not_found) return true;
   try {
     os::checkReplaceable(entryInAnyCase(folder, entry.name));
@@ -166,7 +179,7 @@ bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
 
 /// Keeps a file that is about to be replaced and is not the one that the journal means.
 void keepChanged(const fs::path& folder, const Replacement& entry) {
-  const fs::path staged = stagedPath(folder, entry.name);
+  const fs::path staged = foundStaged(folder, entry.name);
   const fs::path file = entryInAnyCase(folder, entry.name);
   if (entry.replaces.empty() || !stands(staged)) return;
   const std::string found = fingerprintOf(file);
@@ -185,7 +198,7 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
 /// Takes over the staged files that still stand. Doing it twice changes nothing: a staged name is used once.
 void takeOver(const fs::path& folder, const std::vector<Replacement>& entries) {
   for (const Replacement& entry : entries) {
-    const fs::path staged = stagedPath(folder, entry.name);
+    const fs::path staged = foundStaged(folder, entry.name);
     if (stands(staged)) os::takeName(staged, entryInAnyCase(folder, entry.name));
   }
 }
@@ -204,7 +217,7 @@ std::string listed(const std::vector<std::string>& names) {
 /// journal that could be read becomes unreadable first: cut short in the middle, this goes on and nothing
 /// else.
 void setAside(const fs::path& folder, bool isReadable) {
-  const fs::path journal = folder / journalName;
+  const fs::path journal = foundJournal(folder);
   if (isReadable) replaceFile(journal, join("not carried out\n", os::readFile(journal).view()));
   const SystemClock clock;
   std::vector<std::string> names;
@@ -213,9 +226,11 @@ void setAside(const fs::path& folder, bool isReadable) {
     os::takeName(file, folder / pathOf(aside));
     names.push_back(aside);
   };
-  for (const fs::path& work : workFiles(folder)) {
+  for (const fs::path& work : workEntries(folder)) {
     std::string name = nameOf(work);
-    if (typeOf(work) != fs::file_type::regular || !lowered(name).ends_with(stagedSuffix)) continue;
+    const fs::file_type type = typeOf(work);
+    const bool isInTheWay = type == fs::file_type::regular || type == fs::file_type::directory;
+    if (!isInTheWay || !lowered(name).ends_with(stagedSuffix)) continue;
     name.resize(name.size() - stagedSuffix.size());
     if (canBeStaged(name)) rename(work, name);
   }
@@ -229,7 +244,7 @@ void setAside(const fs::path& folder, bool isReadable) {
 /// Finishes a change that was cut short after its journal was in place, and removes what an uncommitted one
 /// left behind.
 void finishCommit(const fs::path& folder) {
-  const fs::path journal = folder / journalName;
+  const fs::path journal = foundJournal(folder);
   if (stands(journal)) {
     const std::optional<std::vector<Replacement>> entries = readJournal(journal);
     const auto isFree = [&](const Replacement& entry) { return canBeTakenOver(folder, entry); };

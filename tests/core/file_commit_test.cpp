@@ -152,6 +152,14 @@ TEST_F(FileCommits, RecoveryFollowsAJournalOfPlainNamesAndSetsEveryOtherAside) {
   }
 }
 
+TEST_F(FileCommits, RecoveryFindsItsFilesInWhateverCaseTheyStand) {
+  put("A", "old");
+  put("a.TW~", "new");
+  put("tallywick.jnl", "tallywick-journal 1\nA\n/\n");
+  recoverFolder(folder);
+  EXPECT_EQ(files(), "A=new ");
+}
+
 TEST_F(FileCommits, AChangeThatCannotBeCarriedOutIsSetAsideAsAWhole) {
   put("A", "old");
   put("A.tw~", "new");
@@ -165,13 +173,17 @@ TEST_F(FileCommits, AChangeThatCannotBeCarriedOutIsSetAsideAsAWhole) {
   const std::vector<std::string> notices = takeRecoveryNotices();
   ASSERT_EQ(notices.size(), 1U);
   EXPECT_NE(notices[0].find("\"B 2"), std::string::npos) << notices[0];
-  // Neither a folder nor a pipe of that name keeps anybody out.
+  // Neither a folder in the place of a new file nor a folder or a pipe in the journal's keeps anybody out.
+  fs::create_directory(folder / "A.tw~");
+  put(std::string(journalName), "tallywick-journal 1\nA\n/\n");
+  lockFolder(folder);
+  EXPECT_FALSE(fs::exists(folder / "A.tw~"));
   fs::create_directory(folder / journalName);
   lockFolder(folder);
   ::mkfifo((folder / journalName).c_str(), 0666);
   lockFolder(folder);
   EXPECT_FALSE(fs::exists(fs::symlink_status(folder / journalName)));
-  EXPECT_EQ(takeRecoveryNotices().size(), 2U);
+  EXPECT_EQ(takeRecoveryNotices().size(), 3U);
 }
 
 TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
@@ -190,11 +202,11 @@ TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
   ASSERT_EQ(datedCopies(folder, "QZR6PWR1.Ply").size(), 23U);
   pruneDatedCopies(folder, "QZR6PWR1.Ply", "QZR6PWR1 2025-01-31 235959.Ply");
   const std::vector<DatedCopy> copies = datedCopies(folder, "QZR6PWR1.Ply");
-  ASSERT_EQ(copies.size(), 21U);
+  ASSERT_EQ(copies.size(), 20U);
   EXPECT_EQ(copies.front().name, "qzr6pwr1 2026-11-21 181500 22.PLY");
-  EXPECT_EQ(copies[19].number, 3U);
+  EXPECT_EQ(copies[18].number, 4U);
   EXPECT_EQ(copies.back().name, "QZR6PWR1 2025-01-31 235959.Ply");
-  EXPECT_EQ(scratch.snapshot().size(), 26U);
+  EXPECT_EQ(scratch.snapshot().size(), 25U);
 }
 
 TEST_F(FileCommits, OneAfterTheOtherHoldTheLockAndLeaveNoLockFile) {
