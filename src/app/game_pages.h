@@ -7,13 +7,14 @@
 
 namespace tallywick {
 
-/// PowerBall, or after a question its Double Play.
+/// Shows the summary of PowerBall or, after a question, its Double Play display.
 void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes);
-/// Mega Millions.
+/// Shows the summary of Mega Millions.
 void Command4_Click(MainForm& form, const DataFolder& folder);
 
-/// The game menus: they switch frames first and run the game's summary then.
+/// Switches the frames, then does what Command7 does.
 void mnuPowerBall_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes);
+/// Switches the frames and hides the update button, then does what Command4 does.
 void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder);
 
 /// Opens the main window on PowerBall and fills its summary, its pickers and its chart. A step that fails is

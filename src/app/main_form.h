@@ -12,22 +12,20 @@
 
 namespace tallywick {
 
-/// What stands around the pages.
+/// What is shown around the pages.
 struct NavigationBar {
   explicit NavigationBar(Form& form);
 
-  /// The PowerBall and the Mega Millions summary.
   Button Command7;
   Button Command4;
-  /// Play selection of the current game.
+  /// Opens the selection window of the current game, whose name its caption contains.
   Button Command48;
-  /// Steps SSTab1 to its next tab.
   Button Command8;
-  /// Summary, searches, winnings, draws.
+  /// The pages: summary, searches, winnings, draws.
   TabStrip SSTab1;
-  /// The search panels.
+  /// The four panels of the searches.
   TabStrip SSTab2;
-  /// The plays, the check.
+  /// The two panels of the winnings: the plays, the check.
   TabStrip SSTab3;
 };
 
@@ -35,33 +33,47 @@ struct NavigationBar {
 struct MainMenu {
   explicit MainMenu(Form& form);
 
+  /// Opens the menu of what the main window shows.
   MenuEntry mnuFile;
   MenuEntry mnuSpace1;
   MenuEntry mnuPowerBall;
   MenuEntry mnuMegaMillions;
   MenuEntry mnSpace2;
+  /// Shows the first panel of the searches.
   MenuEntry munSearches;
   MenuEntry mnuSpace3;
+  /// Shows the winning-ticket check.
   MenuEntry mnuWinnings;
   MenuEntry mnuSpace4;
+  /// Ends the program.
   MenuEntry mnuExit;
 
+  /// Opens the menu of updates and selections.
   MenuEntry mnuOption;
+  /// Opens the list of games to update.
   MenuEntry mnuUpdate;
   MenuEntry mnuPowerBall2;
   MenuEntry mnuMegaMillions2;
   MenuEntry mnuSpace5;
+  /// Opens the list of games to select plays for.
   MenuEntry mnuSelections;
+  /// Opens the selection window of PowerBall.
   MenuEntry mnuPowerBall3;
+  /// Opens the selection window of Mega Millions.
   MenuEntry mnuMegaMillions3;
 
+  /// Opens the help menu.
   MenuEntry mnuHelp2;
+  /// Says in a message box that F1 opens the help.
   MenuEntry mnuHelp;
   MenuEntry mnuSpace8;
+  /// Opens the web help page of the settings.
   MenuEntry mnuQZRHelp;
   MenuEntry mnuSpace6;
+  /// Opens the web site of the settings.
   MenuEntry mnuGameInfo;
   MenuEntry mnuSpace7;
+  /// Opens the about box.
   MenuEntry mnuAbout;
 };
 
@@ -83,7 +95,7 @@ class MainForm : public Form {
   bool updateHiddenByGameSwitch = false;
 };
 
-/// Command8: from each tab of SSTab1 to the next, from the last to the first.
+/// Steps SSTab1 from each tab to the next, from the last to the first.
 void Command8_Click(NavigationBar& bar);
 
 }  // namespace tallywick

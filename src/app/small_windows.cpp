@@ -13,7 +13,8 @@ SplashForm::SplashForm()
   setTitle("Tallywick");
 }
 
-// The box names the release that the record book's files belong to, whatever the program's own version is.
+// Kept slip: the box names the release that the record book's files belong to, whatever the program's own
+// version is.
 AboutForm::AboutForm()
     : Form("frmAbout"),
       lblTitle(*this, "lblTitle", "Tallywick"),

@@ -14,7 +14,9 @@ class SplashForm : public Form {
 
   /// A click on it closes the window.
   Frame Frame1;
+  /// The program's name.
   Label lblProductName;
+  /// The program's own version.
   Label lblVersion;
 };
 
@@ -22,10 +24,15 @@ class AboutForm : public Form {
  public:
   AboutForm();
 
+  /// The program's name.
   Label lblTitle;
+  /// The release that the record book's files belong to, whatever the program's own version is.
   Label lblVersion;
+  /// What the program is for.
   Label lblDescription;
+  /// Closes the box.
   Button cmdOK;
+  /// Starts the system's information program where the registry names one.
   Button cmdSysInfo;
 };
 

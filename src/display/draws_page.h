@@ -17,25 +17,29 @@ using ImageRow = std::array<Image, 6>;
 struct DrawsPage {
   explicit DrawsPage(Form& form);
 
+  /// How often each of the newest draw's numbers came up in the last hundred draws.
   Chart Draw1;
   Button Command52;
   Button Command27;
 
   Button Command3;
+  /// The newest PowerBall draw.
   ImageRow powerBallImages;
+  /// The newest Double Play draw.
   ImageRow doublePlayImages;
+  /// The newest Mega Millions draw.
   ImageRow megaMillionsImages;
 };
 
 /// Charts how often the six numbers on `frequent` came up in the last hundred PowerBall draws. Fewer draws
 /// are error 62.
 void Command52_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
-/// The same for Double Play.
+/// Charts the same for Double Play.
 void Command27_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
 /// At start-up: up to a hundred draws.
 void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
 
-/// Shows the newest draw of PowerBall, of Double Play and of Mega Millions.
+/// Shows the newest draw of PowerBall, of Double Play and of Mega Millions as pictures.
 void Command3_Click(DrawsPage& page, const DataFolder& folder);
 
 }  // namespace tallywick

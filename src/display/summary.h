@@ -17,15 +17,20 @@ class DataFolder;
 struct SummaryPage {
   explicit SummaryPage(Form& form);
 
+  /// The heading of List1.
   Label Label15;
+  /// The heading of List2.
   Label Label16;
+  /// The heading of List3, in two lines.
   Label Label17;
   Label Label18;
+  /// The heading of List4, in two lines.
   Label Label19;
   Label Label20;
+  /// The heading of Command9 to Command14 and of List5, in two lines.
   Label Label21;
   Label Label22;
-  /// The Lucky Five section's five headings.
+  /// The five headings of the Lucky Five section.
   Label Label27;
   Label Label28;
   Label Label29;
@@ -40,10 +45,10 @@ struct SummaryPage {
   ListBox List3;
   /// The earlier draws.
   ListBox List4;
-  /// The frequently played numbers.
+  /// The draws before the newest one that contain one of its numbers.
   ListBox List5;
 
-  /// Command9 to Command14: the newest draw, the extra ball last.
+  /// The newest draw's numbers, the extra ball last; the colour says which draw before it repeats one.
   ButtonRow<6> frequent;
 };
 

@@ -54,7 +54,7 @@ void showWinnerOfItsDate(WinningsPage& page, const Play& play) {
   page.List10.add(join(ticketLine(play), "     "));
 }
 
-/// Only the play file's first play meets the newest Double Play draw.
+/// Kept slip: only the play file's first play meets the newest Double Play draw.
 void checkDoublePlay(WinningsPage& page, const DataFolder& folder, std::string_view file, const Play& first) {
   SequentialReader draws(folder, file);
   if (wins(first, doublePlayDrawOf(draws.record<doublePlayFields>()))) {

@@ -17,18 +17,21 @@ class DataFolder;
 struct WinningsPage {
   explicit WinningsPage(Form& form);
 
-  /// The played plays, of which a check emphasises the winners, and the committed plays.
+  /// The played plays, of which a check emphasises the winners.
   ListBox List14;
+  /// The committed plays.
   ListBox List17;
 
-  /// The latest-draw check and the by-date check.
+  /// Chooses the check of all plays against the newest draw.
   OptionButton Option1;
+  /// Chooses the check of each play against the draw of its own date.
   OptionButton Option2;
   Button Command47;
   /// The verdict.
   ComboBox Combo10;
-  /// The winning plays' details, and the tickets.
+  /// The winning plays of the check by date, and a Double Play win.
   ListBox List10;
+  /// The winning tickets.
   ListBox List11;
 };
 

@@ -10,15 +10,17 @@ namespace tallywick {
 struct GameFrames {
   explicit GameFrames(Form& form);
 
+  /// Groups the left side of the summary: the draws and the frequent numbers.
   Frame Frame1;
-  /// PowerBall.
+  /// Visible while the game is PowerBall.
   Frame Frame4;
-  /// The leftover state game; nothing shows it any more.
+  /// The leftover state game's; nothing shows it any more.
   Frame Frame5;
-  /// PowerBall Double Play.
+  /// Visible while the game is PowerBall Double Play.
   Frame Frame6;
+  /// Groups the right side of the summary: the plays, the amounts and the previous draws.
   Frame Frame9;
-  /// Mega Millions.
+  /// Visible while the game is Mega Millions.
   Frame Frame11;
   /// The headings of the Lucky Five section, shown with Mega Millions.
   Frame Frame12;

@@ -18,7 +18,7 @@ HavePlayedPage::HavePlayedPage(Form& form)
     : Combo2(form, "Combo2"),
       Command22(form, "Command22", "Display"),
       numbers(form, {"Command15", "Command16", "Command17", "Command18", "Command19", "Command20"}),
-      Command21(form, "Command21", "Serach"),
+      Command21(form, "Command21", "Serach"),  // kept slip
       Combo5(form, "Combo5"),
       List6(form, "List6"),
       Label23(form, "Label23") {}
@@ -152,6 +152,7 @@ void Command21_Click(HavePlayedPage& page, const GameFrames& frames, const DataF
   const auto times = countDraws(Count(number, page.Combo5, nullptr), *history, folder, boxes);
   if (!times) return;
   if (*times == 0) {
+    // Kept slip: also where a number is selected and never came up.
     boxes.show({"One Number Must Be Selected...", "PowerBall Lotto Search."});
     return;
   }

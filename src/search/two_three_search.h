@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The two/three-number search: which draws held these two or three numbers together.
+// The two/three-number search: which draws contain these two or three numbers together.
 #pragma once
 
 #include "controls/button_row.h"
@@ -13,28 +13,30 @@ class DataFolder;
 struct TwoThreePage {
   explicit TwoThreePage(Form& form);
 
-  /// Draw lines to take numbers from.
+  /// The draws to take numbers from.
   ComboBox Combo4;
-  /// "Display": copies the numbers of Combo4's text into the number buttons.
   Button Command37;
-  /// Command31 to Command36: positions 1 to 6, the sixth the extra ball.
+  /// The numbers to search for, positions 1 to 6, the sixth the extra ball: a press marks or unmarks one.
   ButtonRow<6> numbers;
   Button Command38;
   Button Command25;
   Button Command26;
+  /// The draws found; its text is the first of them.
   ComboBox Combo7;
+  /// All draws of the game until a search puts the draws found here.
   ListBox List8;
-  /// The tally.
+  /// The tally: the numbers searched for and how many draws contain them.
   Label Label25;
 };
 
+/// Copies the numbers of Combo4's text onto the six number buttons and unmarks them.
 void Command37_Click(TwoThreePage& page);
 
-/// PowerBall.
+/// Lists the PowerBall draws that contain the marked two or three numbers, and counts them.
 void Command38_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes);
-/// Mega Millions.
+/// Lists and counts them in the Mega Millions draws.
 void Command25_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes);
-/// PowerBall Double Play.
+/// Lists and counts them in the Double Play draws of PowerBall.
 void Command26_Click(TwoThreePage& page, const DataFolder& folder, MessageBoxes& boxes);
 
 /// Two members of the family that no button starts.

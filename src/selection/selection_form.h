@@ -70,34 +70,31 @@ class SelectionForm : public Form {
   /// One button a number, "01" first. A number is also an alias of its button.
   std::vector<std::unique_ptr<Button>> numbers;
 
-  /// Select.
   Button Command59;
-  /// Quick Pick.
   Button Command9;
-  /// Done.
   Button Command5;
-  /// Replay.
   Button Command60;
-  /// Clear.
   Button Command84;
-  /// Draw.
   Button Command1;
-  /// Steps the draw count.
   Button Command4;
   Button Command7;
   /// The draw count: blank means one draw.
   Label Label1;
+  /// The heading of Combo1.
   Label Label3;
   /// The plays selected since the window was opened.
   ComboBox Combo1;
+  /// The heading of Combo7.
   Label Label28;
   /// The play history; Replay takes the play in its text.
   ComboBox Combo7;
+  /// The heading of Combo8.
   Label Label29;
   /// The committed plays for the next draw date.
   ComboBox Combo8;
   /// Saved play texts.
   ListBox List1;
+  /// The counts of history plays, of current plays, and of committed plays for the first draw date.
   StatusBar StatusBar1;
 
  private:

@@ -12,7 +12,7 @@ class SelectionForm;
 /// How many draws a caption of the draw count means, 1 to 10.
 int drawCountOf(std::string_view caption);
 
-/// A press on a number button.
+/// Steps the mark of the number: main, extra where it may be one, none.
 void Number_Click(SelectionForm& form, int number);
 
 /// Select: checks the marked numbers and adds them to the current plays, dated for their draw.
@@ -43,7 +43,7 @@ void Command84_Click(SelectionForm& form);
 /// Draw: begins the entry of a draw count.
 void Command1_Click(SelectionForm& form);
 
-/// One step of the draw count.
+/// Steps the draw count, from one to ten and back to one.
 void Command4_Click(SelectionForm& form);
 
 /// Shows the draw count where it is hidden.

@@ -4,7 +4,7 @@
 namespace tallywick {
 
 Download::Download(const TransferFactory& newTransfer, TransferListener* listener)
-    // The five letters of the scheme are deliberate.
+    // Kept slip: the five letters of the scheme.
     : FolderTransfer({"ftp.Download", "fttp://"}, newTransfer) {
   component().setListener(listener);
 }

@@ -28,6 +28,7 @@ Split splitAt(std::string_view newestDraw, SequentialReader& committed) {
   Split split;
   forEachRecord<playFields>(committed, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
+    // Kept slip: dates are compared as texts, the month before the year.
     appendRecord(play.date <= newestDraw ? split.justPlayed : split.stillPending, play);
   });
   return split;

@@ -15,9 +15,9 @@ class DataFolder;
 /// of committed plays is error 53, a missing game folder error 76; a missing history holds no plays.
 void maintainPlayFiles(const GameInfo& game, const DataFolder& folder, ProgramStarter& programs);
 
-/// PowerBall.
+/// Moves the PowerBall plays whose draw has taken place to the history.
 void Command1_Click(const DataFolder& folder, ProgramStarter& programs);
-/// Mega Millions.
+/// Moves the Mega Millions plays whose draw has taken place to the history.
 void Command51_Click(const DataFolder& folder, ProgramStarter& programs);
 
 }  // namespace tallywick

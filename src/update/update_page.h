@@ -9,12 +9,11 @@ namespace tallywick {
 struct UpdatePage {
   explicit UpdatePage(Form& form);
 
-  /// Updates both games.
   Button Command2;
+  /// How far an update is.
   ProgressBar ProgressBar1;
   /// Panel 1: what the program is doing.
   StatusBar StatusBar1;
-  /// The play-file maintenance of PowerBall and of Mega Millions.
   Button Command1;
   Button Command51;
 };

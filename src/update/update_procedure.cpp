@@ -50,7 +50,7 @@ void progressTo(UpdateSurroundings& update, int value) {
 class Fetcher {
  public:
   explicit Fetcher(UpdateSurroundings& update)
-      :  // The names are crossed: the login stands in the second file.
+      :  // Kept slip: the names are crossed, the login is in the second file.
         password_(firstField(update.folder, passwordFile)),
         login_(firstField(update.folder, loginFile)),
         status_(update.page.StatusBar1),

@@ -33,12 +33,13 @@ struct UpdateSurroundings {
   std::function<void()> refreshPictures;
 };
 
-/// Both games; refused up to 07:00:00. A failure ends it as it stands: the games that have come down stay.
-/// Where the transfer's watch cancels it, TransferCancelled passes through, and the controls let the user
-/// update again.
+/// Updates both games; refused up to 07:00:00. A failure ends it as it stands: the games that have come down
+/// stay. Where the transfer's watch cancels it, TransferCancelled passes through, and the controls let the
+/// user update again.
 void Command2_Click(UpdateSurroundings& update);
-/// One game, at any time.
+/// Updates PowerBall alone, at any time.
 void mnuPowerBall2_Click(UpdateSurroundings& update);
+/// Updates Mega Millions alone, at any time.
 void mnuMegaMillions2_Click(UpdateSurroundings& update);
 
 }  // namespace tallywick
