@@ -149,7 +149,7 @@ void CurlTransfer::download(std::string_view serverFolder, std::string_view wild
     room -= files.back().contents.size();
   }
   runner_.look();
-  inRuntimeTerms([&] { takeIn(files, local, clock_); });
+  inRuntimeTerms([&] { takeIn(files, folder_, local, clock_); });
   tell("");
 }
 

@@ -5,7 +5,9 @@
 #include "core/dated_copies.h"
 #include "core/file_commit.h"
 #include "core/file_names.h"
+#include "core/games.h"
 #include "core/text.h"
+#include "exports/made_up.h"
 #include "update/transfer_errors.h"
 
 #include <set>
@@ -43,7 +45,23 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
   }
 }
 
-void takeIn(const std::vector<IncomingFile>& files, const fs::path& folder, const Clock& clock) {
+namespace {
+
+/// Takes the mark of made-up draws away where a draw history has come without such a mark of its own.
+/// `names` are in small letters.
+void removeMarkOf(const std::set<std::string>& names, const DataFolder& book, const fs::path& folder) {
+  const bool broughtDraws = names.contains(lowered(drawsFile)) || names.contains(lowered(searchDrawsFile));
+  if (!broughtDraws || names.contains(lowered(exports::madeUpMark))) return;
+  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    const bool isItsFolder = book.resolve(game->folder) == folder;
+    if (isItsFolder && exports::isMadeUp(book, game->game)) exports::removeMadeUpMark(book, game->game);
+  }
+}
+
+}  // namespace
+
+void takeIn(const std::vector<IncomingFile>& files, const DataFolder& book, const fs::path& folder,
+            const Clock& clock) {
   FileCommit change(folder);
   std::set<std::string> taken;
   for (const IncomingFile& file : files) taken.insert(lowered(file.name));
@@ -60,6 +78,8 @@ void takeIn(const std::vector<IncomingFile>& files, const fs::path& folder, cons
     change.stage(file.name, file.contents);
   }
   change.commit();
+  // Under the change's lock. The next import would otherwise replace the draws as made-up ones.
+  removeMarkOf(taken, book, folder);
   for (const auto& [name, copy] : copies) pruneDatedCopies(folder, name, copy);
 }
 

@@ -55,7 +55,7 @@ TEST(Wildcard, StarDotStarMeansEveryName) {
 class Incoming : public testing::Test {
  protected:
   std::filesystem::path pwr() const { return scratch.root() / "QzrNumbers/QZR6PWR"; }
-  void receive(const std::vector<IncomingFile>& files) { takeIn(files, pwr(), clock); }
+  void receive(const std::vector<IncomingFile>& files) { takeIn(files, scratch.folder(), pwr(), clock); }
   std::string get(const std::string& name) { return scratch.read("QzrNumbers/QZR6PWR/" + name); }
   void put(const std::string& name, std::string_view text) {
     scratch.write("QzrNumbers/QZR6PWR/" + name, text);
@@ -70,6 +70,17 @@ TEST_F(Incoming, TakeTheNamesOfTheOldOnes) {
   receive({{"QZRNUM6.Dat", "new"}, {"other", ""}});
   EXPECT_EQ(scratch.snapshot(), (std::map<std::string, std::string>{{"QzrNumbers/QZR6PWR/qzrnum6.DAT", "new"},
                                                                     {"QzrNumbers/QZR6PWR/other", ""}}));
+}
+
+TEST_F(Incoming, DrawsTakeTheMarkOfMadeUpOnesAway) {
+  put("sample.txt", "");
+  scratch.write("QzrNumbers/QZR6MEG/SAMPLE.TXT", "");
+  receive({{"QzrPwr.Win", "amounts"}});
+  receive({{"QZRNUM6.Dat", "made up too"}, {"SAMPLE.TXT", ""}});
+  EXPECT_TRUE(scratch.exists("QzrNumbers/QZR6PWR/SAMPLE.TXT"));
+  receive({{"qzrnum6.dat", "real"}});
+  EXPECT_FALSE(scratch.exists("QzrNumbers/QZR6PWR/SAMPLE.TXT"));
+  EXPECT_TRUE(scratch.exists("QzrNumbers/QZR6MEG/SAMPLE.TXT"));
 }
 
 TEST_F(Incoming, KeepThePlayersOldPlaysAsDatedCopies) {
