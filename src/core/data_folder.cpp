@@ -73,4 +73,15 @@ fs::path entryInAnyCase(const fs::path& folder, std::string_view name, Entry wan
   return folder / pathOf(best.empty() ? name : std::string_view(best));
 }
 
+fs::path otherSpelling(const fs::path& entry) {
+  const std::string name = nameOf(entry);
+  std::error_code error;
+  for (fs::directory_iterator other(entry.parent_path(), error), end; !error && other != end;
+       other.increment(error)) {
+    const std::string candidate = nameOf(other->path());
+    if (candidate != name && equalIgnoringCase(candidate, name)) return other->path();
+  }
+  return {};
+}
+
 }  // namespace tallywick

@@ -39,4 +39,7 @@ enum class Entry { any, folder };
 std::filesystem::path entryInAnyCase(const std::filesystem::path& folder, std::string_view name,
                                      Entry wanted = Entry::any);
 
+/// Another entry beside `entry`, with its name in another letter case; empty where there is none.
+std::filesystem::path otherSpelling(const std::filesystem::path& entry);
+
 }  // namespace tallywick

@@ -50,9 +50,21 @@ struct PublishedGame {
   std::string newestDraw;
 };
 
+/// Of two such files nobody knows which one is meant, and a client whose file names ignore the letter case
+/// would get one in the place of the other.
+void requireOneSpelling(const fs::path& folder, std::string_view name) {
+  const fs::path first = entryInAnyCase(folder, name);
+  const fs::path other = otherSpelling(first);
+  if (!other.empty()) {
+    throw std::runtime_error(join(textOf(folder), " contains both ", nameOf(first), " and ", nameOf(other),
+                                  "; nothing was published"));
+  }
+}
+
 /// Reads a file whose records all have `FieldCount` fields. An empty one, or a cut record, is error 62.
 template <std::size_t FieldCount>
 PublishedFile readPublished(const DataFolder& folder, const GameInfo& game, std::string_view name) {
+  requireOneSpelling(folder.resolve(game.folder), name);
   SequentialReader reader(folder, inFolder(game, name));
   reader.record<FieldCount>();
   forEachRecord<FieldCount>(reader, [](const Fields<FieldCount>&) {});
@@ -122,18 +134,6 @@ std::vector<fs::path> foldersOf(const fs::path& tree, const ServerFolder& place)
   return folders;
 }
 
-/// A client whose file names ignore the letter case would get one of two such files in the place of the
-/// other.
-void requireOneSpelling(const fs::path& folder, const PublishedFile& file) {
-  const fs::path first = entryInAnyCase(folder, file.name);
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    if (equalIgnoringCase(nameOf(entry.path()), file.name) && entry.path() != first) {
-      throw std::runtime_error(join(folder.string(), " contains both ", nameOf(first), " and ",
-                                    nameOf(entry.path()), "; nothing was published"));
-    }
-  }
-}
-
 bool holds(const fs::path& file, std::string_view bytes) {
   return fs::is_regular_file(file) && os::readFile(file).view() == bytes;
 }
@@ -141,7 +141,7 @@ bool holds(const fs::path& file, std::string_view bytes) {
 /// Raises what would stop publishInto().
 void requireReplaceable(const fs::path& folder, const std::vector<PublishedFile>& files) {
   for (const PublishedFile& file : files) {
-    requireOneSpelling(folder, file);
+    requireOneSpelling(folder, file.name);
     os::checkReplaceable(entryInAnyCase(folder, file.name));
   }
 }

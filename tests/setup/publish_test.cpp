@@ -111,6 +111,10 @@ TEST_F(Publishing, WritesNothingWhereAFileIsMissingOrCutOrInTheWay) {
   std::ofstream(pwr / "QZRPWR.win") << "another spelling";
   EXPECT_THROW(run(), std::runtime_error);
   EXPECT_EQ(textOf(pwr / "QZRPWR.win"), "another spelling");
+  fs::remove_all(tree);
+  std::ofstream(scratch.root() / "QzrNumbers/QZR6MEG/qzrnum6.dat") << newer;
+  EXPECT_THROW(run(), std::runtime_error) << "two spellings in the source";
+  EXPECT_FALSE(fs::exists(tree));
 }
 
 }  // namespace
