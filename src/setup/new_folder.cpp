@@ -96,9 +96,13 @@ void writeRoot(const fs::path& root) {
   files.commit();
 }
 
-/// std::runtime_error where `folder` exists and is no folder of its own.
+/// std::runtime_error where `folder` exists and is no folder of its own, or exists in two spellings.
 void requireFolder(const fs::path& folder) {
   if (!isThere(folder)) return;
+  if (const fs::path other = otherSpelling(folder); !other.empty()) {
+    throw std::runtime_error(
+        join(textOf(folder), " and ", textOf(other), " are in each other's way. Nothing was changed"));
+  }
   if (fs::is_symlink(folder)) {
     throw std::runtime_error(folder.string() + " is in the way: it is a link. Nothing was changed");
   }
@@ -107,18 +111,13 @@ void requireFolder(const fs::path& folder) {
   }
 }
 
-/// std::runtime_error where there is no room for the folders of a new data folder.
-void requireRoom(const fs::path& root) {
-  if (isThere(root) && !fs::is_directory(root)) {
-    throw std::runtime_error(root.string() + " is in the way: it is no folder. Nothing was changed");
-  }
-  for (const std::string_view written : {powerBall.folder, megaMillions.folder, pictureFolder}) {
-    const std::string_view outer = written.substr(0, written.find('\\'));
-    const std::string_view inner = written.substr(outer.size() + 1);
-    const fs::path numbers = entryInAnyCase(root, outer);
-    requireFolder(numbers);
-    requireFolder(entryInAnyCase(numbers, inner.substr(0, inner.size() - 1)));
-  }
+/// The same for a folder in the data folder, written as "QzrNumbers\Name\".
+void requireRoomFor(const fs::path& root, std::string_view written) {
+  const std::string_view outer = written.substr(0, written.find('\\'));
+  const std::string_view inner = written.substr(outer.size() + 1);
+  const fs::path numbers = entryInAnyCase(root, outer);
+  requireFolder(numbers);
+  requireFolder(entryInAnyCase(numbers, inner.substr(0, inner.size() - 1)));
 }
 
 bool isRecordFile(std::string_view name, const GameInfo& game) {
@@ -159,8 +158,16 @@ bool holdsRecords(const fs::path& folder) {
   return false;
 }
 
+void requireGameFolders(const fs::path& root) {
+  if (isThere(root) && !fs::is_directory(root)) {
+    throw std::runtime_error(root.string() + " is in the way: it is no folder. Nothing was changed");
+  }
+  for (const GameInfo* game : {&powerBall, &megaMillions}) requireRoomFor(root, game->folder);
+}
+
 void writeFolder(const fs::path& folder, const FolderContents& contents) {
-  requireRoom(folder);
+  requireGameFolders(folder);
+  requireRoomFor(folder, pictureFolder);
   if (holdsRecords(folder)) {
     throw std::runtime_error(folder.string() + " already holds draws or plays; nothing was changed");
   }

@@ -34,6 +34,10 @@ FolderContents sampleContents(Day last, std::uint64_t seed);
 /// Whether draws, amounts or plays of either game are in the folder, so that it is somebody's.
 bool holdsRecords(const std::filesystem::path& folder);
 
+/// std::runtime_error where a file, a link or another spelling of the name is in the way of a game's folder,
+/// so that writing there would change what is not this data folder's.
+void requireGameFolders(const std::filesystem::path& root);
+
 /// Makes a whole data folder. Every file that exists already stays. std::runtime_error where the folder holds
 /// records, or where a file or a link has the name of one of its folders; then nothing is written.
 void writeFolder(const std::filesystem::path& folder, const FolderContents& contents);

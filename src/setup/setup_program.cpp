@@ -184,6 +184,7 @@ void mergeExports(const Options& options, const std::vector<ExportedGame>& expor
 
 void makeFolder(const Options& options, std::ostream& out) {
   const std::vector<ExportedGame> exported = readExports(options, Now(options).today());
+  requireGameFolders(options.folder);
   if (!holdsRecords(options.folder)) return makeNewFolder(options, exported, out);
   if (!exported.empty()) return mergeExports(options, exported, out);
   if (!options.forceDraws) {

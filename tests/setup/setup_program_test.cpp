@@ -80,17 +80,23 @@ TEST(Setup, ANewFolderTakesNothingThatIsThereAlready) {
   struct Case {
     const char* name;
     std::string says;
+    std::vector<std::string> options = {};
   };
   scratch.write("a/qzrnumbers", "a file");
   scratch.write("b/QzrNumbers/qzr6meg/qzrnum6.dat", "draws without plays");
-  fs::create_directories(scratch.root() / "c/QzrNumbers");
+  scratch.write("c/QzrNumbers/QZR6MEG/qzrnum6.dat", "draws");
   fs::create_directory_symlink(scratch.root() / "a", scratch.root() / "c/QzrNumbers/QZR6PWR");
   scratch.write("d", "a file");
+  fs::create_directories(scratch.root() / "f/QZRNUMBERS");
+  fs::create_directories(scratch.root() / "f/qzrnumbers/qzr6pwr");
   const auto before = scratch.snapshot();
   for (const Case& refused :
        {Case{"a", "qzrnumbers is in the way: it is no folder"}, Case{"b", "already holds draws or plays"},
-        Case{"c", "QZR6PWR is in the way: it is a link"}, Case{"d", "d is in the way: it is no folder"}}) {
-    EXPECT_THAT(run({(scratch.root() / refused.name).string()}, 1), HasSubstr(refused.says));
+        Case{"c", "QZR6PWR is in the way: it is a link", {"--force-draws"}},
+        Case{"d", "d is in the way: it is no folder"}, Case{"f", "f/qzrnumbers are in each other's way"}}) {
+    std::vector<std::string> words = refused.options;
+    words.push_back((scratch.root() / refused.name).string());
+    EXPECT_THAT(run(words, 1), HasSubstr(refused.says));
     EXPECT_EQ(scratch.snapshot(), before) << refused.name;
   }
   for (const std::vector<std::string>& empty :
@@ -137,7 +143,8 @@ TEST(Setup, ASampleFolderIsRepeatableAndHasWhatTheDisplaysRead) {
 TEST(Import, TheRealExportsAreTakenWholeAndLackWhatTheyLack) {
   const test::ScratchFolder scratch;
   const std::string real = TALLYWICK_REAL_DRAWS;
-  if (!std::filesystem::exists(real + "/powerball.csv")) GTEST_SKIP() << "no real draws in " << real;
+  if (!std::filesystem::exists(real + "/powerball.csv"))
+    GTEST_SKIP() << "no real draws in " << real;
   const std::string told = run({(scratch.root() / "book").string(), "--powerball", real + "/powerball.csv",
                                 "--mega-millions", real + "/mega-millions.csv"});
   EXPECT_THAT(told, testing::Not(HasSubstr("refused")));
