@@ -161,10 +161,8 @@ void Application::openSettingPage(const std::string& address, std::string_view w
     surroundings_.platform.openPage(address);
     return;
   }
-  showMessage(
-      surroundings_.platform,
-      join("The address of the ", what, " is not set. It stands in the settings, ", settingsFile, "."),
-      MessageBox::Icon::information);
+  showMessage(surroundings_.platform, join("The address of the ", what,
+                                           " is not set. It stands in the settings, ", settingsFile, "."));
 }
 
 }  // namespace tallywick

@@ -83,8 +83,8 @@ bool mayPress(const Application& application, QtPlatform& platform, const Contro
   constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
   if (std::ranges::find(updates, control.name()) == updates.end()) return true;
   if (!application.settings().server.empty()) return true;
-  platform.show({"No update server is set. Press Settings… and enter its address.", std::string(programTitle),
-                 MessageBox::Icon::information});
+  platform.show(
+      {"No update server is set. Press Settings… and enter its address.", std::string(programTitle)});
   return false;
 }
 
