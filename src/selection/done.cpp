@@ -167,6 +167,10 @@ std::vector<std::string> itemsOf(const PlayFile& file) {
 
 }  // namespace
 
+bool finishEarlierChange(const SelectionForm& form) {
+  return entered(form, [&] { recoverFolder(gameFolder(form)); });
+}
+
 bool showsCurrentPlays(const SelectionForm& form) {
   const PlayFile current(form.surroundings.folder, playFilePath(form.game, PlaySlot::current));
   const std::vector<std::string> items = itemsOf(current);

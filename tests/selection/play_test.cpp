@@ -106,9 +106,10 @@ TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   {
     const os::FileLock lock = lockFolder(scratch.root() / "QzrNumbers" / "QZR6PWR");
     open();
+    EXPECT_FALSE(finishEarlierChange(*form));
   }
   EXPECT_EQ(get("7.Ply"), play);
-  EXPECT_EQ(boxes.shown.size(), 2U);
+  EXPECT_EQ(boxes.shown.size(), 3U);
   EXPECT_FALSE(form->Command9.enabled() || form->Command5.enabled() || form->Command60.enabled());
 }
 
@@ -159,11 +160,18 @@ TEST_F(Selection, SelectAppendsBehindWhateverEndsTheFile) {
 TEST_F(Selection, WhatACrashLeftBehindIsFinishedBeforeThePlaysAreRead) {
   open();
   const std::string plays = records({"11-21-2026,05,11,23,42,60,07,1110101"});
-  scratch.write(path("7.Ply"), plays);
-  scratch.write(path("1.Ply.tw~"), plays);
-  scratch.write(path("7.Ply.tw~"), "");
-  scratch.write(join(powerBall.folder, "TALLYWICK.JNL"),
-                "tallywick-journal 1\nQZR6PWR1.Ply\nQZR6PWR7.Ply\n/\n");
+  const auto leaveHalfMade = [&] {
+    scratch.write(path("7.Ply"), plays);
+    scratch.write(path("1.Ply.tw~"), plays);
+    scratch.write(path("7.Ply.tw~"), "");
+    scratch.write(join(powerBall.folder, "TALLYWICK.JNL"),
+                  "tallywick-journal 1\nQZR6PWR1.Ply\nQZR6PWR7.Ply\n/\n");
+  };
+  leaveHalfMade();
+  EXPECT_TRUE(finishEarlierChange(*form));
+  EXPECT_EQ(get("1.Ply") + get("7.Ply"), plays) << "before Done's questions";
+  scratch.write(path("1.Ply"), "");
+  leaveHalfMade();
   select("06 11 23 42 60", "07");
   EXPECT_EQ(get("1.Ply"), plays);
   EXPECT_EQ(get("7.Ply"), records({"11-21-2026,06,11,23,42,60,07,1110101"}));

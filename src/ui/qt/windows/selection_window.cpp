@@ -170,7 +170,7 @@ void SelectionWindow::askBeforeDone() {
 }
 
 bool SelectionWindow::mayCommit() {
-  return mayCommitTheFile() && mayReplace();
+  return finishEarlierChange(selection_) && mayCommitTheFile() && mayReplace();
 }
 
 bool SelectionWindow::mayCommitTheFile() {
