@@ -3,6 +3,7 @@
 
 #include "app/started_program.h"
 #include "core/day.h"
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/text.h"
 #include "ui/script/control_json.h"
@@ -99,7 +100,7 @@ std::string ScriptPlatform::registryValue(std::string_view, std::string_view) {
 
 bool ScriptPlatform::fileExists(std::string_view path) {
   std::error_code ignored;
-  return std::filesystem::is_regular_file(std::filesystem::path(path), ignored);
+  return std::filesystem::is_regular_file(pathOf(path), ignored);
 }
 
 bool SettableClock::set(std::string_view text) {

@@ -2,6 +2,7 @@
 #include "ui/qt/program/qt_platform.h"
 
 #include "app/started_program.h"
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "ui/qt/windows/transfer_panel.h"
@@ -180,7 +181,7 @@ std::string QtPlatform::registryValue(std::string_view key, std::string_view val
 
 bool QtPlatform::fileExists(std::string_view path) {
   std::error_code ignored;
-  return std::filesystem::is_regular_file(std::filesystem::path(path), ignored);
+  return std::filesystem::is_regular_file(pathOf(path), ignored);
 }
 
 void QtPlatform::endProgram() {
