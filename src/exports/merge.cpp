@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -87,8 +88,16 @@ FileRecord newDoublePlay(const FileRecord& main) {
   return record;
 }
 
-/// Adds the draws with Double Play numbers, and as many of the newest others as the displays need.
+std::optional<Day> newestDay(const RecordList& list) {
+  std::optional<Day> newest;
+  for (const FileRecord& record : list.records) newest = std::max(newest, record.day);
+  return newest;
+}
+
+/// Adds the draws with Double Play numbers, all others that are newer than what was there, so that no older
+/// draw passes for the newest, and as many older ones as the displays need.
 void mergeDoublePlay(RecordList& list, const DrawsByDay& draws, const RecordList& main) {
+  std::optional<Day> newest = newestDay(list);
   std::set<Day> present = updateRecords(list, draws, updateDoublePlay);
   for (const auto& [day, draw] : draws) {
     if (!draw->doublePlay || present.contains(day)) continue;
@@ -98,8 +107,10 @@ void mergeDoublePlay(RecordList& list, const DrawsByDay& draws, const RecordList
   for (const FileRecord& record : list.records) {
     if (record.day) present.insert(*record.day);
   }
+  if (!newest) newest = newestDay(list);
   for (const FileRecord& record : main.records) {
-    if (list.records.size() >= chartedDraws) break;
+    const bool isNewer = newest && record.day > newest;
+    if (!isNewer && list.records.size() >= chartedDraws) continue;
     if (!record.day || !present.insert(*record.day).second) continue;
     list.records.push_back(newDoublePlay(record));
   }

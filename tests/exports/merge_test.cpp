@@ -33,6 +33,13 @@ constexpr Day older = dayOf(2026, 11, 11);
 constexpr Day old = dayOf(2026, 11, 14);
 constexpr Day newer = dayOf(2026, 11, 16);
 
+/// `count` draws up to `last`, one a day.
+ExportedDraws exportOf(std::size_t count, Day last = newer) {
+  ExportedDraws exported;
+  for (; exported.draws.size() < count; last += -1) exported.draws.push_back(draw(last, 1));
+  return exported;
+}
+
 TEST(MergedHistory, GoesByDate) {
   const std::string first = "11,14,2026,01,02,03,04,05,09,2";
   const std::string second = "11,11,2026,11,12,13,14,15,09,3";
@@ -94,6 +101,14 @@ TEST(MergedDoublePlay, TakesKnownNumbersAndKeepsEverythingElse) {
                      "11,11,2026,11,12,13,14,15,09,3,DP,41,42,43,44,45,07,1"}));
 }
 
+TEST(MergedDoublePlay, GetsARecordForEveryDrawNewerThanItsNewest) {
+  const Merge full = mergeInto(Game::powerBall, exportOf(102, old).draws, {}, {});
+  GameFiles files{fileOf(full, drawsFile, {}), {}, fileOf(full, doublePlayFile, {}), {}};
+  const Merge merge = mergeInto(Game::powerBall, {draw(newer, 21)}, {}, files);
+  EXPECT_EQ(fileOf(merge, doublePlayFile, {}),
+            records({"11,16,2026,21,22,23,24,25,09,2,DP,,,,,,,1"}) + files.doublePlay);
+}
+
 TEST(MergedAmounts, KeepWhatIsKnownAndShowNoOtherDrawsAmount) {
   std::vector<DrawEntry> draws;
   for (Day day = newer; draws.size() < 17; day += -1) draws.push_back(draw(day, 1));
@@ -112,13 +127,6 @@ TEST(MergedAmounts, KeepWhatIsKnownAndShowNoOtherDrawsAmount) {
                      "11,11,2026,260,0", "11,10,2026,,0", "11,09,2026,,0", "11,08,2026,,0", "11,07,2026,,0",
                      "11,06,2026,,0", "11,05,2026,,0", "11,04,2026,,0", "11,03,2026,,0", "11,02,2026,,0",
                      "7,4,2026,40,2", "7,4,2026,40,2"}));
-}
-
-/// `count` draws up to `last`, one a day.
-ExportedDraws exportOf(std::size_t count, Day last = newer) {
-  ExportedDraws exported;
-  for (; exported.draws.size() < count; last += -1) exported.draws.push_back(draw(last, 1));
-  return exported;
 }
 
 TEST(MergedExport, FailsWhereItWouldLoseSomething) {
