@@ -10,6 +10,8 @@
 
 #include <initializer_list>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tallywick {
 
@@ -73,16 +75,33 @@ class Fetcher {
   Download download_;
 };
 
+/// Menu entries that an update disables.
+class DisabledEntries {
+ public:
+  DisabledEntries(std::initializer_list<MenuEntry*> entries) {
+    for (MenuEntry* entry : entries) {
+      before_.emplace_back(entry, entry->enabled());
+      entry->setEnabled(false);
+    }
+  }
+  void restore() const {
+    for (const auto& [entry, wasEnabled] : before_) entry->setEnabled(wasEnabled);
+  }
+
+ private:
+  std::vector<std::pair<MenuEntry*, bool>> before_;
+};
+
 /// Runs the part of an update that can be cancelled. Cancelling it lets the user update again; what has come
 /// down before stays.
 template <typename Action>
-void untilCancelled(UpdateSurroundings& update, std::initializer_list<MenuEntry*> entries, Action action) {
+void untilCancelled(UpdateSurroundings& update, const DisabledEntries& entries, Action action) {
   try {
     action();
   } catch (const TransferCancelled&) {
     update.page.ProgressBar1.hide();
     update.page.Command2.show();
-    for (MenuEntry* entry : entries) entry->setEnabled(true);
+    entries.restore();
     update.page.StatusBar1.setPanel(1, "The update was cancelled");
     throw;
   }
@@ -94,9 +113,9 @@ void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry&
   page.ProgressBar1.setValue(1);
   page.ProgressBar1.show();
   page.Command2.hide();
-  entry.setEnabled(false);
+  const DisabledEntries disabled({&entry});
   update.screen.refresh();
-  untilCancelled(update, {&entry}, [&] { Fetcher(update).fetch(one.game, one.folderForMenu); });
+  untilCancelled(update, disabled, [&] { Fetcher(update).fetch(one.game, one.folderForMenu); });
   progressTo(update, 100);
   maintainPlayFiles(one.game, update.folder, update.programs);
   update.refreshPictures();
@@ -115,12 +134,11 @@ void Command2_Click(UpdateSurroundings& update) {
   }
   UpdatePage& page = update.page;
   page.Command2.hide();
-  update.mnuPowerBall2.setEnabled(false);
-  update.mnuMegaMillions2.setEnabled(false);
+  const DisabledEntries disabled({&update.mnuPowerBall2, &update.mnuMegaMillions2});
   tell(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
   page.ProgressBar1.show();
   update.screen.refresh();
-  untilCancelled(update, {&update.mnuPowerBall2, &update.mnuMegaMillions2}, [&] {
+  untilCancelled(update, disabled, [&] {
     Fetcher fetcher(update);
     fetcher.fetch(powerBall, powerBallUpdate.folderForButton);
     progressTo(update, 50);
