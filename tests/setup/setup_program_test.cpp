@@ -144,7 +144,7 @@ TEST(Import, TheRealExportsAreTakenWholeAndLackWhatTheyLack) {
   const test::ScratchFolder scratch;
   const std::string real = TALLYWICK_REAL_DRAWS;
   if (!std::filesystem::exists(real + "/powerball.csv"))
-    GTEST_SKIP() << "no real draws in " << real;
+    GTEST_SKIP() << "no real draws in TALLYWICK_REAL_DRAWS";
   const std::string told = run({(scratch.root() / "book").string(), "--powerball", real + "/powerball.csv",
                                 "--mega-millions", real + "/mega-millions.csv"});
   EXPECT_THAT(told, testing::Not(HasSubstr("refused")));
