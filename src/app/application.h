@@ -27,9 +27,9 @@ struct Surroundings {
   const Clock& clock;
   RandomGenerator& random;
   Platform& platform;
-  /// Empty for the program's own FTP client.
+  /// Empty for the program's own FTP client or public exports, as the settings have it.
   TransferFactory newTransfer;
-  /// The progress window that the FTP client can be asked for; null for none.
+  /// The progress window that a transfer can be asked for; null for none.
   TransferWindow* transferWindow = nullptr;
 };
 
@@ -80,6 +80,8 @@ class Application {
   void wireDisplays();
   void wireUpdates();
   TransferFactory transferFactory() const;
+  /// What an update of the game has for its Server, by the settings.
+  std::string serverOf(Game game) const;
   UpdateSurroundings updateSurroundings();
   void openSettingPage(const std::string& address, std::string_view what);
   void showAbout();

@@ -5,6 +5,7 @@
 #include "search/marks.h"
 #include "update/curl_transfer.h"
 #include "update/maintenance.h"
+#include "update/public_exports.h"
 
 #include <functional>
 #include <utility>
@@ -151,11 +152,20 @@ void Application::wireUpdates() {
 TransferFactory Application::transferFactory() const {
   if (surroundings_.newTransfer) return surroundings_.newTransfer;
   return [this] {
+    const Surroundings& around = surroundings_;
+    if (around.settings.source == Settings::Source::publicExports) {
+      return newPublicExports(around.folder, around.clock, {}, &around.platform, around.transferWindow);
+    }
     CurlTransferSettings settings;
-    settings.tlsRequired = surroundings_.settings.tls == Settings::Tls::required;
-    return newCurlTransfer(surroundings_.folder, surroundings_.clock, settings, &surroundings_.platform,
-                           surroundings_.transferWindow);
+    settings.tlsRequired = around.settings.tls == Settings::Tls::required;
+    return newCurlTransfer(around.folder, around.clock, settings, &around.platform, around.transferWindow);
   };
+}
+
+std::string Application::serverOf(Game game) const {
+  const Settings& settings = surroundings_.settings;
+  if (settings.source == Settings::Source::server) return settings.server;
+  return game == Game::powerBall ? settings.powerBallDraws : settings.megaMillionsDraws;
 }
 
 UpdateSurroundings Application::updateSurroundings() {
@@ -171,7 +181,7 @@ UpdateSurroundings Application::updateSurroundings() {
           platform,
           platform,
           platform,
-          surroundings_.settings.server,
+          [this](Game game) { return serverOf(game); },
           transferFactory(),
           [this] { Command3_Click(main_->draws, surroundings_.folder); }};
 }

@@ -8,8 +8,6 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdint>
 #include <mutex>
 #include <optional>
@@ -92,16 +90,10 @@ std::vector<fs::path> workFiles(const fs::path& folder) {
   return found;
 }
 
-/// A file's size and a hash of its bytes.
 std::string fingerprintOf(const fs::path& file) {
   std::error_code ignored;
   if (!fs::is_regular_file(file, ignored)) return std::string(noFile);
-  const os::FileBytes bytes = os::readFile(file);
-  std::uint64_t hash = 0xCBF29CE484222325U;
-  for (const char byte : bytes.view()) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
-  std::array<char, 16> digits{};
-  const char* const end = std::to_chars(digits.begin(), digits.end(), hash, 16).ptr;
-  return join(std::to_string(bytes.view().size()), " ", std::string_view(digits.data(), end));
+  return fingerprint(os::readFile(file).view());
 }
 
 bool isFingerprint(std::string_view text) {
@@ -264,6 +256,10 @@ void finishCommit(const fs::path& folder) {
 bool isOwnWorkName(std::string_view name) {
   return equalIgnoringCase(name, journalName) || equalIgnoringCase(name, lockName) ||
          lowered(name).ends_with(stagedSuffix);
+}
+
+bool isOwnName(std::string_view name) {
+  return isOwnWorkName(name) || equalIgnoringCase(name, exportNoteName);
 }
 
 void replaceFile(const fs::path& file, std::string_view contents, os::Access access) {

@@ -16,7 +16,13 @@ inline constexpr std::string_view journalName = "TALLYWICK.JNL";
 inline constexpr std::string_view lockName = "TALLYWICK.LCK";
 inline constexpr std::string_view stagedSuffix = ".tw~";
 
+/// What a game's last fetched export was; it stays between changes.
+inline constexpr std::string_view exportNoteName = "TALLYWICK.SRC";
+
+/// The names of locks, journals and staged files, which are there in the middle of a change alone.
 bool isOwnWorkName(std::string_view name);
+/// All names of the program's own.
+bool isOwnName(std::string_view name);
 
 /// Replaces one file in one step: a work file beside it is written and synced, then takes its name. A failure
 /// leaves the file as it was.

@@ -2,6 +2,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace tallywick {
 
@@ -103,6 +104,14 @@ std::string lowered(std::string_view text) {
 
 std::string twoDigits(int number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+}
+
+std::string fingerprint(std::string_view bytes) {
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+  std::array<char, 16> digits{};
+  const char* const end = std::to_chars(digits.begin(), digits.end(), hash, 16).ptr;
+  return join(std::to_string(bytes.size()), " ", std::string_view(digits.data(), end));
 }
 
 }  // namespace tallywick

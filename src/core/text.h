@@ -72,4 +72,7 @@ std::optional<Number> wholeNumber(std::string_view text) {
   return number;
 }
 
+/// The size of `bytes` and a hash, with a blank between: it shows whether they are still the same.
+std::string fingerprint(std::string_view bytes);
+
 }  // namespace tallywick

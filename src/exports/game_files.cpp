@@ -33,4 +33,14 @@ std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before,
   return changed;
 }
 
+GameFiles withChanges(const GameInfo& game, GameFiles files, const std::vector<NewFile>& changed) {
+  for (const NewFile& file : changed) {
+    if (file.name == game.winningsFile) files.amounts = file.contents;
+    if (file.name == doublePlayFile) files.doublePlay = file.contents;
+    if (file.name == searchDrawsFile) files.searchDraws = file.contents;
+    if (file.name == drawsFile) files.draws = file.contents;
+  }
+  return files;
+}
+
 }  // namespace tallywick::exports

@@ -31,4 +31,7 @@ GameFiles readGameFiles(const GameInfo& game, const std::filesystem::path& folde
 /// The files of `now` that differ from `before`, the main history last.
 std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before, GameFiles now);
 
+/// `files` with the contents of those of `changed` that are among them.
+GameFiles withChanges(const GameInfo& game, GameFiles files, const std::vector<NewFile>& changed);
+
 }  // namespace tallywick::exports

@@ -105,7 +105,7 @@ std::vector<fs::path> filesToSend(const fs::path& folder, std::string_view wildc
   std::vector<fs::path> files;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
     const std::string name = nameOf(entry.path());
-    const bool isPlain = entry.is_regular_file() && !entry.is_symlink() && !isOwnWorkName(name);
+    const bool isPlain = entry.is_regular_file() && !entry.is_symlink() && !isOwnName(name);
     if (isPlain && matchesWildcard(wildcard, name)) files.push_back(entry.path());
   }
   std::ranges::sort(files);

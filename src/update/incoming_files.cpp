@@ -29,7 +29,7 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
     if (!isPlainFileName(file.name)) {
       throw transferError(TransferFault::name, join(lists, ", which is no plain file name"));
     }
-    if (isOwnWorkName(file.name)) {
+    if (isOwnName(file.name)) {
       throw transferError(TransferFault::name, join(lists, ", a name that this program keeps for itself"));
     }
     if (!names.insert(lowered(file.name)).second) {

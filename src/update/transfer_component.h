@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the transfer classes need of an FTP client.
+// What the transfer classes need: an FTP client, or what stands in for one.
 #pragma once
 
 #include <cstddef>
@@ -63,7 +63,7 @@ class TransferCancelled : public std::exception {
   const char* what() const noexcept override { return "The transfer was cancelled"; }
 };
 
-/// An FTP client: set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
+/// Set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
 /// what happened and never hold the login or the password.
 class TransferComponent {
  public:

@@ -28,6 +28,7 @@ enum class TransferFault : int {
   protocol,
   webAnswer,
   redirect,
+  exportContents,
 };
 
 /// "The transfer failed: " and `what`; `where` is for standard error.

@@ -52,23 +52,25 @@ void progressTo(UpdateSurroundings& update, int value) {
 class Fetcher {
  public:
   explicit Fetcher(UpdateSurroundings& update)
-      :  // Kept slip: the names are crossed, the login is in the second file.
+      : update_(update),
+        // Kept slip: the names are crossed, the login is in the second file.
         password_(firstField(update.folder, passwordFile)),
         login_(firstField(update.folder, loginFile)),
         status_(update.page.StatusBar1),
         download_(update.newTransfer, &status_) {
-    download_.setServer(update.server);
     download_.setLogin(login_);
     download_.setPassword(password_);
   }
 
   void fetch(const GameInfo& game, std::string_view serverFolder) {
+    download_.setServer(update_.serverOf(game.game));
     download_.setSourceFolder(serverFolder);
     download_.setTargetFolder(join(installFolder, R"(\QzrNumbers\QZR6)", game.code));
     download_.Start();
   }
 
  private:
+  UpdateSurroundings& update_;
   std::string password_;
   std::string login_;
   TransferStatus status_;

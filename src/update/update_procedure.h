@@ -26,8 +26,8 @@ struct UpdateSurroundings {
   MessageBoxes& boxes;
   Screen& screen;
   ProgramStarter& programs;
-  /// Host and port of the update server, from the settings.
-  std::string server;
+  /// Where a game's update comes from: host and port of the update server, or the address of an export.
+  std::function<std::string(Game game)> serverOf;
   TransferFactory newTransfer;
   /// Redraws the play-number pictures.
   std::function<void()> refreshPictures;

@@ -116,6 +116,9 @@ TEST_F(Windows, SettingsThatCannotBeUnderstoodAreNotOverwritten) {
 
 TEST_F(Windows, AnUpdateWithoutAServerIsNotStarted) {
   platform.onPress = [this](const Control& control) { return mayPress(application, platform, control); };
+  Settings settings = application.settings();
+  settings.source = Settings::Source::server;
+  application.setSettings(settings);
   open("Form1");
   answerNextBox(QMessageBox::Ok);
   widget<QPushButton>("Form1", "Command2").click();

@@ -123,7 +123,7 @@ class Run:
 
     def command(self, number, line):
         if self.process is None:
-            start = [self.program, '--folder', str(self.folder), '--now', NOW, '--seed', '1']
+            start = [self.program, '--folder', str(self.folder), '--now', NOW, '--seed', '1', '--source', 'server']
             self.process = subprocess.Popen(start, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.errors, encoding='utf-8')
         # What `windows` prints ends what the line prints.
         self.sent += [number] if line == 'windows' else [number, number]

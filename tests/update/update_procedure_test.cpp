@@ -59,7 +59,7 @@ class Update : public testing::Test, public MessageBoxes, public Screen, public 
             *this,
             *this,
             *this,
-            server,
+            [this](Game) { return server; },
             newTransfer,
             [this] { note("pictures"); }};
   }

@@ -19,8 +19,9 @@ const Day newerDay = dayOf(2026, 11, 21);
 /// What the program prints; it is killed where it does not end.
 std::string outputOf(const std::string& lines, const ScratchFolder& book, const std::string& server) {
   putText(book.root() / "lines", lines);
-  const std::string command = "timeout 60 '" TALLYWICK_SCRIPT "' --folder '" + book.root().string() +
-                              "' --server " + server + " '" + (book.root() / "lines").string() + "' > '" +
+  const std::string source = server.empty() ? "" : " --server " + server;
+  const std::string command = "timeout 60 '" TALLYWICK_SCRIPT "' --folder '" + book.root().string() + "'" +
+                              source + " '" + (book.root() / "lines").string() + "' > '" +
                               (book.root() / "out").string() + "'";
   EXPECT_EQ(std::system(command.c_str()), 0);
   return textOf(book.root() / "out");
@@ -66,6 +67,47 @@ TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
   outputOf("click mnuPowerBall2\nclick Command4\nclick mnuMegaMillions2\n", book, server.address());
   for (const std::string file : {"QzrNumbers/QZR6PWR/QZRNUM6.Dat", "QzrNumbers/QZR6MEG/QZRNUM6.Dat"})
     EXPECT_EQ(book.read(file), newer.read(file)) << file;
+}
+
+TEST(WholeUpdate, BringsExportedDrawsOnceAndMovesDrawnPlays) {
+  const TreeFolder web;
+  const auto file = [&](const char* name) { return (web.root() / name).string(); };
+  makeCertificate(file("authority"));
+  makeCertificate(file("certificate"), "IP:127.0.0.1", file("authority"));
+  const ServerProcess server("web_server.py", {file("certificate"), file("log")});
+  const ScratchFolder book;
+  setup::writeFolder(book.root(), setup::sampleContents(olderDay, seed));
+  const std::string address = "=https://" + server.address() + "/file/";
+  book.write("tallywick.ini", "powerball-draws" + address + "pwr\nmega-millions-draws" + address + "meg\n");
+  const std::string drawn = records({"11-18-2026,10,20,30,40,50,06,0111110"});
+  const std::string next = records({"11-28-2026,01,02,03,04,05,06,5000000"});
+  book.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", drawn + next);
+  std::string pwr = "Draw Date,Winning Numbers,Multiplier\n";
+  std::string meg = "Draw Date,Winning Numbers,Mega Ball,Multiplier\n";
+  for (Day day = newerDay; day > newerDay - 110; day += -1) {
+    pwr += displayDate(day) + ",10 20 30 40 50 06,2\n";
+    meg += displayDate(day) + ",11 21 31 41 51,07,3\n";
+  }
+  putText(file("pwr"), pwr);
+  putText(file("meg"), meg);
+
+  ::setenv("SSL_CERT_FILE", file("authority").c_str(), 1);
+  const std::string update = "now 11-21-2026 12:00:00\nclick Command2\n";
+  EXPECT_EQ(outputOf(update + "print List1\n", book, "").find("11-21-2026"), std::string::npos)
+      << "an update fills no list";
+  EXPECT_EQ(book.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), drawn);
+  EXPECT_EQ(outputOf("print List1\n", book, "").substr(0, 38), " 11-21-2026    10 20 30 40 50   06    ");
+  const auto before = book.snapshot();
+  const std::string again = outputOf(update, book, "");
+  ::unsetenv("SSL_CERT_FILE");
+  EXPECT_NE(again.find("is completed"), std::string::npos);
+  std::string changed;
+  for (const auto& [name, text] : book.snapshot()) {
+    if (name.ends_with(".Ply") || name == "lines" || name == "out") continue;
+    if (!before.contains(name) || before.at(name) != text) changed += name + " ";
+  }
+  EXPECT_EQ(changed, "");
+  EXPECT_EQ(book.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), drawn);
 }
 
 }  // namespace

@@ -3,15 +3,17 @@
 web_server.py CERTIFICATE LOG
 
 Speaks HTTPS and plain HTTP on one free port of the loopback. Prints the port; writes each request's head to LOG;
-ends when its standard input does.
+ends when its standard input does. /file/NAME is the file NAME beside LOG.
 """
 import gzip
 import os
+import pathlib
 import socket
 import ssl
 import sys
 import threading
 import time
+import zlib
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 
 certificate, log_name = sys.argv[1:]
@@ -46,6 +48,18 @@ class Handler(BaseHTTPRequestHandler):
             self.answer(304)
         elif "gzip" in self.headers["Accept-Encoding"]:
             self.answer(200, gzip.compress(draws), ETag=tag, Last_Modified=date, Content_Encoding="gzip")
+
+    def send_file(self, name):
+        body = (pathlib.Path(log_name).parent / name).read_bytes()
+        version = f'"{zlib.crc32(body)}"'
+        if self.headers["If-None-Match"] == version:
+            self.answer(304)
+        else:
+            self.answer(200, gzip.compress(body), ETag=version, Content_Encoding="gzip")
+
+    def send_cut(self, name):
+        packed = gzip.compress((pathlib.Path(log_name).parent / name).read_bytes())
+        self.answer(200, packed[:len(packed) // 2], Content_Encoding="gzip")
 
     def send_bare(self):
         self.answer(200, draws)

@@ -82,7 +82,8 @@ void editSettings(Application& application, QtPlatform& platform) {
 bool mayPress(const Application& application, QtPlatform& platform, const Control& control) {
   constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
   if (std::ranges::find(updates, control.name()) == updates.end()) return true;
-  if (!application.settings().server.empty()) return true;
+  const Settings& settings = application.settings();
+  if (settings.source == Settings::Source::publicExports || !settings.server.empty()) return true;
   platform.show(
       {"No update server is set. Press Settings… and enter its address.", std::string(programTitle)});
   return false;

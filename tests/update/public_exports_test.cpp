@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What public exports bring to a game's folder, and that whatever else comes changes nothing.
+#include "update/public_exports.h"
+
+#include "core/day.h"
+#include "support/raised.h"
+#include "transfer_test.h"
+
+namespace tallywick::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* pwrHead = "Draw Date,Winning Numbers,Multiplier\n";
+constexpr const char* megHead = "Draw Date,Winning Numbers,Mega Ball,Multiplier\n";
+const Day newest = dayOf(2026, 11, 18);
+
+/// Draws of so many days up to `last`, newest first.
+std::string exported(Game game, int count, Day last = newest) {
+  std::string csv = game == Game::powerBall ? pwrHead : megHead;
+  const char* numbers = game == Game::powerBall ? ",10 20 30 40 50 06,2\n" : ",10 20 30 40 50,06,2\n";
+  for (Day day = last; count > 0; day += -1, --count) csv += displayDate(day) + numbers;
+  return csv;
+}
+
+class Exports : public testing::Test {
+ protected:
+  Exports() {
+    settings.times = {1s, 500ms, 500ms, 600ms, 100, 20s};
+    settings.certificates = file("authority");
+    makeCertificate(settings.certificates);
+    makeCertificate(file("certificate"), "IP:127.0.0.1", settings.certificates);
+    server = std::make_unique<ServerProcess>("web_server.py",
+                                             std::vector<std::string>{file("certificate"), file("log")});
+    put("pwr.csv", exported(Game::powerBall, 230));
+    put("meg.csv", exported(Game::megaMillions, 110));
+  }
+
+  std::string file(const std::string& name) const { return (web.root() / name).string(); }
+  void put(const std::string& name, const std::string& text) const { putText(file(name), text); }
+  std::string addressOf(const std::string& path) const { return "https://" + server->address() + "/" + path; }
+  void get(const std::string& path, const char* serverFolder = "/D:/QZR/Z1-PWR/QZR6/",
+           const char* localFolder = R"(QZRNUMBERS\QZR6PWR\)") {
+    const auto component = newPublicExports(scratch.folder(), clock, settings, &watch);
+    component->prepare();
+    component->setHost(addressOf(path));
+    component->openSession();
+    component->download(serverFolder, "*.*", localFolder);
+  }
+  std::string errorOf(const std::string& path) {
+    try {
+      get(path);
+    } catch (const RuntimeError& error) {
+      std::string text = error.description();
+      const std::size_t at = text.find(addressOf(path));
+      return at == std::string::npos ? text : text.replace(at, addressOf(path).size(), "ADDRESS");
+    }
+    return "";
+  }
+  /// How many requests had a line that begins so.
+  std::size_t asked(std::string_view header) const {
+    const std::string log = textOf(file("log"));
+    std::size_t count = 0;
+    for (std::size_t at = log.find(header); at != std::string::npos; at = log.find(header, at + 1)) ++count;
+    return count;
+  }
+  std::string draws() const { return scratch.read("QzrNumbers/QZR6PWR/QZRNUM6.Dat"); }
+
+  TreeFolder web;
+  ScratchFolder scratch;
+  StandingClock clock{"11-21-2026", "18:15:00"};
+  CountingWatch watch;
+  FetchSettings settings;
+  std::unique_ptr<ServerProcess> server;
+};
+
+TEST_F(Exports, BringDrawsToTheGameWhoseFolderIsAskedFor) {
+  scratch.write("QzrNumbers/QZR6MEG/SAMPLE.TXT", "");
+  scratch.write("QzrNumbers/QZR6MEG/QZRNUM6.Dat", records({"11,20,2026,01,02,03,04,05,06,2"}));
+  get("file/pwr.csv", "/D:/QZR/Z1-Pwr/Qzr6/");
+  EXPECT_EQ(std::ranges::count(draws(), '\n'), 230);
+  get("file/meg.csv", "/d:/qzr/z2-meg/QZR6",
+      R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6MEG\)");
+  EXPECT_THAT(scratch.read("QzrNumbers/QZR6MEG/QZRNUM6.Dat"),
+              testing::StartsWith(R"("11","18","2026","10","20","30","40","50","06","2")"))
+      << "made-up draws go";
+  EXPECT_FALSE(scratch.exists("QzrNumbers/QZR6MEG/SAMPLE.TXT"));
+  EXPECT_THROW(get("file/pwr.csv", "/D:/QZR/Z3/Qzr6/"), RuntimeError);
+  EXPECT_EQ(raisedBy([&] { get("file/pwr.csv", "/D:/QZR/Z1-Pwr/Qzr6/", R"(QzrNumbers\QZR6MEG\)"); }).number,
+            76);
+}
+
+TEST_F(Exports, AreFetchedAgainOnlyWhereSomethingIsNew) {
+  get("file/pwr.csv");
+  const auto first = scratch.snapshot();
+  get("file/pwr.csv");
+  EXPECT_EQ(asked("If-None-Match"), 1U);
+  EXPECT_EQ(scratch.snapshot(), first);
+  put("pwr.csv", exported(Game::powerBall, 231, newest + 1));
+  get("file/pwr.csv");
+  EXPECT_THAT(draws(), testing::StartsWith(R"("11","19","2026")"));
+
+  // A backup comes back, with the note of its time or with a newer one.
+  for (const auto& [name, text] : first) scratch.write(name, text);
+  get("file/pwr.csv");
+  EXPECT_THAT(draws(), testing::StartsWith(R"("11","19","2026")"));
+  scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", first.at("QzrNumbers/QZR6PWR/QZRNUM6.Dat"));
+  get("file/pwr.csv");
+  EXPECT_THAT(draws(), testing::StartsWith(R"("11","19","2026")"));
+
+  // Another address, then made-up draws: neither is what the note is good for.
+  const std::size_t before = asked("If-None-Match");
+  put("other.csv", exported(Game::powerBall, 231, newest + 1));
+  get("file/other.csv");
+  scratch.write("QzrNumbers/QZR6PWR/SAMPLE.TXT", "");
+  get("file/other.csv");
+  EXPECT_EQ(asked("If-None-Match"), before);
+}
+
+TEST_F(Exports, ARowThatIsRefusedTodayIsAskedForAgain) {
+  put("pwr.csv", exported(Game::powerBall, 120, dayOf(2026, 11, 22)));
+  get("file/pwr.csv");
+  EXPECT_THAT(draws(), testing::StartsWith(R"("11","21","2026")"));
+  clock = StandingClock("11-22-2026", "18:15:00");
+  get("file/pwr.csv");
+  EXPECT_THAT(draws(), testing::StartsWith(R"("11","22","2026")"));
+}
+
+struct Misbehaviour {
+  std::string name;
+  std::string path;
+  std::string error;
+  std::string csv;
+};
+
+void PrintTo(const Misbehaviour& way, std::ostream* out) {
+  *out << way.name;
+}
+
+class MisbehavingExports : public Exports, public testing::WithParamInterface<Misbehaviour> {};
+
+TEST_P(MisbehavingExports, ChangeNothing) {
+  get("file/pwr.csv");
+  const auto before = scratch.snapshot();
+  if (!GetParam().csv.empty()) put("pwr.csv", GetParam().csv);
+  if (GetParam().name == "stranger") {
+    settings.certificates = file("stranger");
+    makeCertificate(settings.certificates);
+  }
+  EXPECT_EQ(errorOf(GetParam().path), "The transfer failed: " + GetParam().error);
+  EXPECT_EQ(scratch.snapshot(), before);
+}
+
+const std::string whole = exported(Game::powerBall, 121, newest + 1);
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, MisbehavingExports,
+    testing::Values(
+        Misbehaviour{"page", "200", "\"ADDRESS\" is no export of draws: there is no column \"Draw Date\"",
+                     ""},
+        Misbehaviour{"empty", "file/pwr.csv", "\"ADDRESS\" cannot be used: there is no draw in it", pwrHead},
+        Misbehaviour{"cutInARow", "file/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
+                     whole.substr(0, whole.size() - 5)},
+        Misbehaviour{"cutInAQuotedField", "file/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
+                     whole + "\"01/02/2020\",\"\n"},
+        Misbehaviour{"cutWhilePacked", "cut/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
+                     whole},
+        Misbehaviour{"short", "short", "interrupted in the middle of \"ADDRESS\"", ""},
+        Misbehaviour{
+            "few", "file/pwr.csv",
+            "\"ADDRESS\" cannot be used: it has 114 draws, fewer than half of the 230 that are known "
+            "already",
+            exported(Game::powerBall, 114, newest + 1)},
+        Misbehaviour{"refused", "403", "the server refuses access to \"ADDRESS\" (403)", ""},
+        Misbehaviour{"missing", "404", "the server does not have \"ADDRESS\" (404)", ""},
+        Misbehaviour{"tooMany", "429",
+                     "too many requests, try again later: the server puts off \"ADDRESS\" (429)", ""},
+        Misbehaviour{"overloaded", "503",
+                     "the server is overloaded or being repaired, try again later for \"ADDRESS\" (503)", ""},
+        Misbehaviour{"stranger", "file/pwr.csv", "the server's certificate is not trusted", whole}),
+    [](const auto& tested) { return tested.param.name; });
+
+}  // namespace
+}  // namespace tallywick::test
