@@ -19,7 +19,6 @@ namespace {
 
 using Icon = MessageBox::Icon;
 
-constexpr std::string_view pwrThere = "/D:/QZR/Z1-Pwr/Qzr6/";
 constexpr std::string_view pwrHere = R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6PWR\)";
 constexpr std::string_view megHere = R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6MEG\)";
 

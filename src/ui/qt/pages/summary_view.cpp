@@ -20,8 +20,6 @@ namespace {
 constexpr std::initializer_list<int> amountColumns = {1, 15};
 constexpr std::initializer_list<int> drawColumns = {0, 15, 34};
 
-constexpr int drawLineColumns = 46;
-
 /// A list under its heading, with the names of its columns between them where it has any.
 struct HeadedList {
   Label& label;
