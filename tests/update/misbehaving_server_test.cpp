@@ -49,16 +49,18 @@ class BadServer : public TransferTest {
   TreeFolder tree;
 };
 
+/// So many looks at the window come in some seconds, on a loaded machine in more.
+constexpr int patience = 150;
+
 class Misbehaving : public BadServer, public testing::WithParamInterface<Misdeed> {};
 
 TEST_P(Misbehaving, LeavesTheFolderAsItWas) {
-  const auto started = std::chrono::steady_clock::now();
   EXPECT_EQ(errorOf([&] { download(GetParam().fault, GetParam().list); }),
             "The transfer failed: " + GetParam().error);
   EXPECT_EQ(scratch.snapshot(), before);
   EXPECT_FALSE(scratch.exists(join(pwrHere, lockName)));
   EXPECT_TRUE(GetParam().fault != "stall" || watch.looks > 8) << "the window was not painted meanwhile";
-  EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
+  EXPECT_LT(watch.looks, patience);
 }
 INSTANTIATE_TEST_SUITE_P(
     Server, Misbehaving,
@@ -147,10 +149,9 @@ TEST_F(BadServer, IsLeftByWhoeverCancels) {
 }
 
 TEST_F(BadServer, NeedNotAnswerTheFarewell) {
-  const auto started = std::chrono::steady_clock::now();
   download("no farewell", first);
   EXPECT_EQ(get("first.Dat"), "one");
-  EXPECT_LT(std::chrono::steady_clock::now() - started, 5s);
+  EXPECT_LT(watch.looks, patience);
   // One from the change to the other kind of listing, one at the end.
   EXPECT_EQ(commands("QUIT"), 2);
   EXPECT_GT(watch.looks, 30) << "the window was not painted meanwhile";
