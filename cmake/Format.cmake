@@ -1,4 +1,4 @@
-# `cmake --build … --target format` puts every source in the house's form; `format-check` only tells.
+# `cmake --build … --target format` puts every source in the house's form; `format-check` only reports.
 find_program(CLANG_FORMAT clang-format)
 if(CLANG_FORMAT)
   file(GLOB_RECURSE formatted CONFIGURE_DEPENDS

@@ -17,7 +17,7 @@ Application::~Application() {
   try {
     closeAll();
   } catch (const std::exception&) {
-    // The program ends; there is nobody left to be told.
+    // The program ends; there is nobody left to show it to.
   }
 }
 
@@ -42,7 +42,7 @@ void Application::showMainWindow() {
   showRecoveryNotices();
 }
 
-/// Where it cannot be finished now, the next action on the folder tries again and tells.
+/// Where it cannot be finished now, the next action on the folder tries again and reports it.
 void Application::recover() const {
   for (const GameInfo* game : {&powerBall, &megaMillions}) {
     try {

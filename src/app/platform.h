@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the program asks of the desktop it runs on. A binding stands behind it: real windows, or the text
+// What the program asks of the desktop it runs on. A binding implements it: real windows, or the text
 // protocol.
 #pragma once
 
@@ -29,7 +29,7 @@ class Platform : public MessageBoxes, public Screen, public ProgramStarter, publ
   /// A text value below the machine-wide registry key, cut at its first null; a double word as "&h" and its
   /// hexadecimal digits; the empty text where there is none or no registry.
   virtual std::string registryValue(std::string_view key, std::string_view value) = 0;
-  /// Whether a file outside the data folder stands.
+  /// Whether a file outside the data folder exists.
   virtual bool fileExists(std::string_view path) = 0;
 
   /// Ends the program once the handler that is running has returned.

@@ -8,7 +8,7 @@ namespace tallywick {
 namespace {
 
 bool run(const std::function<void()>& handler) {
-  // A copy, since a handler may close the window that the control stands in.
+  // A copy, since a handler may close the window that contains the control.
   const std::function<void()> running = handler;
   if (running) running();
   return true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The controls, without any toolkit: the properties that the handlers use, and nothing else. A control
-// registers with its form when it is constructed and tells it of every change; a binding shows the changes.
+// registers with its form when it is constructed and reports every change to it; a binding shows the changes.
 #pragma once
 
 #include "controls/color.h"

@@ -22,7 +22,7 @@ class SystemClock : public Clock {
   std::string time() const override;
 };
 
-/// A clock that stands still at the time it is given.
+/// A clock that always shows the time it is given.
 class StandingClock : public Clock {
  public:
   StandingClock(std::string date, std::string time);

@@ -9,7 +9,7 @@
 
 namespace tallywick {
 
-/// The fixed install path under which absolute paths are written. It stands for the data folder.
+/// The fixed install path under which absolute paths are written. It means the data folder.
 inline constexpr std::string_view installFolder = R"(C:\Program Files\Tallywick Software\Tallywick)";
 
 class DataFolder {
@@ -19,12 +19,12 @@ class DataFolder {
   const std::filesystem::path& root() const { return root_; }
 
   /// The real file or folder below the data folder for a path as the handlers write it: `\` or `/`, either
-  /// letter case, relative or under the install path. Where nothing stands by that name in any case, the part
+  /// letter case, relative or under the install path. Where nothing has that name in any case, the part
   /// that is missing keeps the case in which it is written, so a file is never created a second time in
   /// another case. A path that leaves the data folder raises error 76.
   std::filesystem::path resolve(std::string_view written) const;
 
-  /// Whether a plain file stands there.
+  /// Whether a plain file exists there.
   bool exists(std::string_view written) const;
 
  private:

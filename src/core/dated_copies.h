@@ -31,7 +31,7 @@ struct DatedCopy {
 std::string nextCopyName(const std::filesystem::path& folder, std::string_view name, const Clock& clock,
                          const std::set<std::string>& taken = {});
 
-/// Makes a copy of the file `name` a part of `change`, in whatever letter case the file stands, and gives
+/// Makes a copy of the file `name` a part of `change`, whatever the letter case of the file's name, and gives
 /// back the copy's name. A missing file is error 53.
 std::string stageDatedCopy(FileCommit& change, std::string_view name, const Clock& clock,
                            std::set<std::string> taken = {});

@@ -67,7 +67,7 @@ fs::file_type typeOf(const fs::path& file) {
   return type;
 }
 
-bool stands(const fs::path& file) {
+bool isThere(const fs::path& file) {
   return typeOf(file) != fs::file_type::not_found;
 }
 
@@ -157,7 +157,7 @@ std::optional<std::vector<Replacement>> readJournal(const fs::path& journal) {
   return entriesIn(os::readFile(journal).view());
 }
 
-/// Whether nothing stands in the way of a staged file that is still to be taken over.
+/// Whether nothing is in the way of a staged file that is still to be taken over.
 bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
   const fs::file_type staged = typeOf(foundStaged(folder, entry.name));
   if (staged == fs::file_type::not_found) return true;
@@ -173,7 +173,7 @@ bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
 void keepChanged(const fs::path& folder, const Replacement& entry) {
   const fs::path staged = foundStaged(folder, entry.name);
   const fs::path file = entryInAnyCase(folder, entry.name);
-  if (entry.replaces.empty() || !stands(staged)) return;
+  if (entry.replaces.empty() || !isThere(staged)) return;
   const std::string found = fingerprintOf(file);
   if (found == noFile || found == entry.replaces || found == fingerprintOf(staged)) return;
   const std::string name = nameOf(file);
@@ -191,7 +191,7 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
 void takeOver(const fs::path& folder, const std::vector<Replacement>& entries) {
   for (const Replacement& entry : entries) {
     const fs::path staged = foundStaged(folder, entry.name);
-    if (stands(staged)) os::takeName(staged, entryInAnyCase(folder, entry.name));
+    if (isThere(staged)) os::takeName(staged, entryInAnyCase(folder, entry.name));
   }
 }
 
@@ -237,7 +237,7 @@ void setAside(const fs::path& folder, bool isReadable) {
 /// left behind.
 void finishCommit(const fs::path& folder) {
   const fs::path journal = foundJournal(folder);
-  if (stands(journal)) {
+  if (isThere(journal)) {
     const std::optional<std::vector<Replacement>> entries = readJournal(journal);
     const auto isFree = [&](const Replacement& entry) { return canBeTakenOver(folder, entry); };
     if (entries && std::ranges::all_of(*entries, isFree)) {
@@ -324,7 +324,7 @@ void FileCommit::commit() {
   }
 }
 
-/// While every staged file still stands, nothing has been taken over and the journal can go. It goes first:
+/// While every staged file still exists, nothing has been taken over and the journal can go. It goes first:
 /// as long as it may stand, the staged files are needed.
 void FileCommit::takeBack() noexcept {
   std::error_code ignored;
@@ -340,9 +340,9 @@ void FileCommit::takeBack() noexcept {
 }
 
 void recoverFolder(const fs::path& folder) {
-  if (!stands(folder)) return;
+  if (!isThere(folder)) return;
   const bool isTidy =
-      workFiles(folder).empty() && !stands(folder / journalName) && !stands(folder / lockName);
+      workFiles(folder).empty() && !isThere(folder / journalName) && !isThere(folder / lockName);
   if (isTidy) return;
   // Who holds the lock is at work now and finishes what it finds; nobody has to wait for that.
   const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);

@@ -38,7 +38,7 @@ os::FileLock lockFolder(const std::filesystem::path& folder);
 /// made: commit() takes over name by name and removes the journal, and where that is cut short the next one
 /// who takes the folder's lock goes on. The lock is held from construction on.
 ///
-/// The journal tells of each file what it contained. A file that somebody else changed after the cut is kept
+/// The journal records what each file contained. A file that somebody else changed after the cut is kept
 /// as a dated copy before it is replaced. A journal that is none of this program's, or that cannot be carried
 /// out, is set aside under a dated name, and so are the staged files; takeRecoveryNotices() reports both.
 class FileCommit {
@@ -53,8 +53,8 @@ class FileCommit {
   /// What has been staged.
   const std::vector<std::string>& names() const { return names_; }
 
-  /// Stages new contents for the file `name`, in whatever letter case it stands in the folder. Error 75 where
-  /// it is no plain name.
+  /// Stages new contents for the file `name`, whatever the letter case of its name in the folder. Error 75
+  /// where it is no plain name.
   void stage(std::string_view name, std::string_view contents, os::Access access = os::Access::usual);
 
   /// Takes over the staged files in the order in which they were staged. Where it fails, everything is as

@@ -22,7 +22,7 @@ std::filesystem::path pathOf(std::string_view text);
 /// character, no blank or point at its end, no device such as "NUL" or "COM1.txt".
 bool isPlainFileName(std::string_view name);
 
-/// "*" stands for any letters, "?" for one, "*.*" for every name; letter case does not count.
+/// "*" matches any letters, "?" for one, "*.*" for every name; letter case does not count.
 bool matchesWildcard(std::string_view wildcard, std::string_view name);
 
 /// The player's own files: the plays, their copies and the saved play texts.

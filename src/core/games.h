@@ -47,7 +47,7 @@ inline constexpr std::string_view hoosierFolder = R"(QzrNumbers\Qzr6Ind\)";
 inline constexpr std::string_view hoosierPlayedFile = R"(QzrNumbers\Qzr6Ind\Qzr6Ind2.Ply)";
 
 inline constexpr std::string_view pictureFolder = R"(QzrNumbers\PlyNumbers\)";
-/// One record a day, with the day code that tells draw days.
+/// One record a day, with the day code of the draw days.
 inline constexpr std::string_view calendarFile = "QZRNUM22.DTE";
 inline constexpr std::string_view passwordFile = "PWF.TXT";
 inline constexpr std::string_view loginFile = "PWF2.TXT";

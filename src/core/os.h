@@ -40,7 +40,7 @@ class InputFile {
   InputFile(const InputFile&) = delete;
   InputFile& operator=(const InputFile&) = delete;
 
-  /// Reads at most `size` bytes and tells how many; 0 at the end.
+  /// Reads at most `size` bytes and returns how many; 0 at the end.
   std::size_t read(char* to, std::size_t size);
 
  private:
@@ -75,7 +75,7 @@ void takeName(const std::filesystem::path& from, const std::filesystem::path& to
 /// file that may not be changed. A missing file and a link can be replaced.
 void checkReplaceable(const std::filesystem::path& file);
 
-/// Removes `file` where it stands and waits until the folder knows it. A missing file is no error.
+/// Removes `file` where it exists and waits until the folder knows it. A missing file is no error.
 void removeDurably(const std::filesystem::path& file);
 
 /// An exclusive lock on a lock file, released when it goes or when its holder dies. The lock file goes with
@@ -104,7 +104,7 @@ std::filesystem::path userDataFolder();
 /// The file of the running program itself.
 std::filesystem::path programFile();
 
-/// Whether the platform can start `program` as it stands.
+/// Whether the platform can start `program` as it is.
 bool canRun(const std::filesystem::path& program);
 
 /// Starts `program` in `workingFolder` and does not wait for it. Its only argument is a path; an empty one is

@@ -61,13 +61,13 @@ class LockedByAnother : public RuntimeError {
 /// The runtime's text for a number, for example "File not found".
 std::string_view descriptionOf(ErrorNumber number);
 
-/// The exception being handled as a runtime error: itself, or what stands for one of the library's.
+/// The exception being handled as a runtime error: itself, or the equivalent of one of the library's.
 RuntimeError currentRuntimeError();
 
 /// Error 75 where `file` is a pipe, a device or whatever else is neither a file nor a folder.
 RuntimeError notAFile(const std::filesystem::path& file);
 
-/// The runtime error that stands for an operating system error on `file`.
+/// The runtime error for an operating system error on `file`.
 RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path& file);
 
 }  // namespace tallywick

@@ -69,7 +69,7 @@ std::string_view SequentialReader::cutField() {
     first = ++here;
     while (here != end && *here != '"' && !endsLine(*here)) ++here;
     last = here;
-    // What stands between the closing quote and the separator belongs to no field.
+    // What is between the closing quote and the separator belongs to no field.
     while (here != end && *here != ',' && !endsLine(*here)) ++here;
   } else {
     while (here != end && *here != ',' && !endsLine(*here)) ++here;

@@ -21,7 +21,7 @@ class DataFolder;
 template <std::size_t Count>
 using Fields = std::array<std::string_view, Count>;
 
-/// A record where it stands in the reader's text; a field is cut out when it is asked for.
+/// A record in its place in the reader's text; a field is cut out when it is asked for.
 template <std::size_t Count>
 class RecordView {
  public:
@@ -55,7 +55,7 @@ class SequentialReader {
 
   /// Opens the file that `written` names. Error 53 where it or its folder is missing, else 70 or 75.
   SequentialReader(const DataFolder& folder, std::string_view written, Reading reading = Reading::whole);
-  /// Reads from memory; `name` stands for the file in errors.
+  /// Reads from memory; errors name `name` in the place of a file.
   SequentialReader(std::string_view text, std::string name);
 
   /// Whether the last field has been read. Ask before each record: nothing but a record at the end is an

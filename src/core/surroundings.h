@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What handlers ask of their surroundings: message boxes, a fresh screen, the start of another program. A
-// binding, a script or a test stands behind them.
+// binding, a script or a test implements them.
 #pragma once
 
 #include <cstdint>

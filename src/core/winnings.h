@@ -36,7 +36,7 @@ class AmountLookup {
 
   explicit AmountLookup(const GameInfo& game) : game_(game) {}
 
-  /// Reads the game's winnings file. An empty file is error 62; what stands before an error has been taken.
+  /// Reads the game's winnings file. An empty file is error 62; what precedes an error has been taken.
   void read(const DataFolder& folder);
 
   /// The trimmed amount of the last record with this date key, not looking at the file's last record. A draw

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reading export files, and what the user is told about a merge.
+// Reading export files, and what is reported to the user about a merge.
 #pragma once
 
 #include "core/games.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The frames of the main window. The visible game frame tells the handlers which game is meant.
+// The frames of the main window. The visible game frame decides which game the handlers mean.
 #pragma once
 
 #include "controls/controls.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The draw history as searches and counts read it: one pass, and a file that cannot be read is told to the
-// player.
+// The draw history as searches and counts read it: one pass, and a file that cannot be read is reported to
+// the player.
 #pragma once
 
 #include "core/runtime_error.h"
@@ -21,8 +21,8 @@ std::optional<SequentialReader> openHistory(const DataFolder& folder, std::strin
 /// Shows the message that names a history file that cannot be read.
 void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes);
 
-/// Runs `read` on an open history. False where the disk fails it meanwhile; the player has been told then. A
-/// file that ends inside a record is raised.
+/// Runs `read` on an open history. False where the disk fails it meanwhile; the player has been shown a
+/// message then. A file that ends inside a record is raised.
 template <typename Read>
 bool readToEnd(std::string_view written, MessageBoxes& boxes, Read read) {
   try {

@@ -12,7 +12,7 @@
 
 namespace tallywick {
 
-/// Where the extra ball of a draw line stands, from 1; the white balls stand at 16, 19, 22, 25 and 28.
+/// The position of the extra ball in a draw line, from 1; the white balls are at 16, 19, 22, 25 and 28.
 inline constexpr std::size_t extraBallPosition = 33;
 /// The same in the lines of the leftover state game.
 inline constexpr std::size_t hoosierExtraBallPosition = 31;

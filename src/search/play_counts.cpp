@@ -76,7 +76,7 @@ class Count {
   Count(std::string_view number, ComboBox& results, ListBox* list)
       : number_(number), results_(results), list_(list) {}
 
-  /// The record's draw stands from field `first` on.
+  /// The record's draw begins at field `first`.
   template <std::size_t Fields>
   void take(const RecordView<Fields>& record, std::size_t first,
             Draw (*drawOf)(const tallywick::Fields<Fields>&)) {

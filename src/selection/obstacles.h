@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What stands in the way of plays for now, told to the player while everything stays as it is.
+// What prevents plays for now, shown to the player while everything stays as it is.
 #pragma once
 
 #include "core/runtime_error.h"
@@ -11,7 +11,7 @@
 namespace tallywick {
 
 /// Runs `enter`. False where it meets a gap in the calendar, or what another program has done or is doing to
-/// the play files; the player has been told then. Every other failure is raised.
+/// the play files; the player has been shown a message then. Every other failure is raised.
 template <typename Enter>
 bool entered(const SelectionForm& form, Enter enter) {
   std::string obstacle;

@@ -63,7 +63,7 @@ void placeExtra(const SelectionForm& form, MarkedPlay& play) {
   }
 }
 
-/// Takes the first refused extra mark off and tells the player.
+/// Takes the first refused extra mark off and shows a message.
 bool refuseExtra(SelectionForm& form) {
   for (int number = refusedExtras.first; number <= refusedExtras.last; ++number) {
     if (!isExtra(form, number)) continue;

@@ -46,8 +46,8 @@ class SelectionForm : public Form {
   SelectionForm(const GameInfo& game, SelectionSurroundings surroundings);
 
   /// What opening the window does: empties the current selections and fills the lists. False where another
-  /// program is changing the play files: the player has been told, the selections stay and the window takes
-  /// no plays.
+  /// program is changing the play files: the player has been shown a message, the selections stay and the
+  /// window takes no plays.
   bool load();
 
   /// Takes the marks off all numbers.

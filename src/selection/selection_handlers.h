@@ -22,7 +22,7 @@ void Command59_Click(SelectionForm& form);
 void Command9_Click(SelectionForm& form);
 
 /// Finishes what an earlier change of the play files left behind, before their plays are asked about. False
-/// where another program is at work there; the player has been told then.
+/// where another program is at work there; the player has been shown a message then.
 bool finishEarlierChange(const SelectionForm& form);
 
 /// Whether the list of current plays shows what their file contains. Another program, or another window on

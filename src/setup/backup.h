@@ -15,8 +15,8 @@ namespace tallywick::setup {
 std::filesystem::path datedBackup(const std::filesystem::path& folder, const Clock& clock);
 
 /// Writes every file of the record book in `folder` to the new file `zip`, but for locks and work files,
-/// reads the zip back and compares. Tells how many files it has. No program changes the plays meanwhile.
-/// std::runtime_error that says what is wrong; no zip is left then.
+/// reads the zip back and compares. Returns how many files it contains. No program changes the plays
+/// meanwhile. std::runtime_error that says what is wrong; no zip is left then.
 std::size_t backUp(const std::filesystem::path& folder, const std::filesystem::path& zip);
 
 struct Restored {

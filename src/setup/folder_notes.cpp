@@ -12,7 +12,7 @@ std::string folderNotes() {
       "\r\n\r\n"
       "tallywick.ini       the source of updates and other settings\r\n"
       "PWF2.TXT, PWF.TXT   login and password for an update server\r\n"
-      "QZRNUM22.DTE        the calendar that tells draw days, 2002 to 2050\r\n"
+      "QZRNUM22.DTE        the calendar of the draw days, 2002 to 2050\r\n"
       "QzrNumbers          a folder a game: draws, amounts, plays; and the pictures of the balls\r\n\r\n"
       "A game whose folder contains a file ",
       exports::madeUpMark,

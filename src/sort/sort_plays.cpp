@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A record with its line end, as it stands in the file.
+/// A record with its line end, as it is in the file.
 struct PlayLine {
   std::string_view text;
   /// The number of its day; behind every real date where it has none.

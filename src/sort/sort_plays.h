@@ -44,7 +44,7 @@ class CommittedPlays {
 /// there are none.
 void sortFolder(const std::filesystem::path& folder);
 
-/// The program `qzrsrt3`. What goes wrong is told on `errors`. Exit code 0, 1 where the plays could not be
+/// The program `qzrsrt3`. What goes wrong is written to `errors`. Exit code 0, 1 where the plays could not be
 /// put in order, 2 where the command line cannot be understood.
 int runSort(int argc, const char* const* argv, std::ostream& out, std::ostream& errors);
 

@@ -49,7 +49,7 @@ class CurlOperation {
   std::uint64_t bytesDone() const { return received_.size() + sent_; }
   /// The number of the server's last answer.
   long responseCode() const;
-  /// The length that the server told; negative where it told none.
+  /// The length that the server announced; negative where it announced none.
   std::int64_t toldLength() const;
   PassedLimit passedLimit() const { return passedLimit_; }
   void setPassedLimit(PassedLimit limit) { passedLimit_ = limit; }

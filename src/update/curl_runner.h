@@ -20,7 +20,7 @@ class CurlRunner {
 
   /// Begins a task of several operations, which together may take the times' limit for a folder.
   void begin(const TransferTimes& times);
-  /// What the watch is told of the task; whoever runs the operations keeps it.
+  /// What the watch learns of the task; whoever runs the operations keeps it.
   TransferProgress& progress() { return progress_; }
 
   /// Runs to the end; `flowed` is called when bytes have flowed. An operation that passes one of its limits

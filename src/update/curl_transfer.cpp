@@ -262,7 +262,7 @@ std::vector<ListedFile> CurlTransfer::filesOf(std::string_view serverFolder, std
   return std::move(*files);
 }
 
-/// What the list tells, or else the server when it is asked; none where it does not know.
+/// What the list says, or else the server when it is asked; none where it does not know.
 std::optional<std::uint64_t> CurlTransfer::lengthOf(std::string_view path, const ListedFile& file) {
   if (file.size) return file.size;
   FtpOperation operation(session_, path);

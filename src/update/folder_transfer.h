@@ -41,7 +41,7 @@ class FolderTransfer {
   /// What differs between the two classes.
   struct Kind {
     std::string_view source;
-    /// Taken out of the server's address wherever it stands in it.
+    /// Taken out of the server's address wherever it contains it.
     std::string_view scheme;
   };
 

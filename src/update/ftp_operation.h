@@ -9,7 +9,7 @@
 
 namespace tallywick {
 
-/// What every operation of a session is told.
+/// What every operation of a session needs.
 struct FtpSession {
   std::string host;
   std::string userName;
@@ -30,7 +30,7 @@ class FtpOperation : public CurlOperation {
 
   /// Without a transfer: only goes to the folder, or asks for the file's length.
   void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
-  /// Takes what comes until the server ends it, not only as many bytes as the server told.
+  /// Takes what comes until the server ends it, not only as many bytes as the server announced.
   void takeAllBytes() { set(CURLOPT_IGNORE_CONTENT_LENGTH, 1L); }
   /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" stands
   /// before the command.

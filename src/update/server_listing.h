@@ -13,7 +13,7 @@ namespace tallywick {
 /// A plain file of a server folder.
 struct ListedFile {
   std::string name;
-  /// In bytes, where the listing tells.
+  /// In bytes, where the listing contains it.
   std::optional<std::uint64_t> size;
 };
 

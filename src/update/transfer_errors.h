@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The errors of a transfer: each tells what happened, and none holds a login, a password or a server's own
+// The errors of a transfer: each says what happened, and none contains a login, a password or a server's own
 // words, which may repeat them.
 #pragma once
 

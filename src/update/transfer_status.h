@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Tells the progress of a transfer in a status bar: what is done, the file in hand and its bytes.
+// Shows the progress of a transfer in a status bar: what is done, the file in hand and its bytes.
 #pragma once
 
 #include "controls/controls.h"

@@ -33,7 +33,7 @@ struct UpdateSurroundings {
   std::function<void()> refreshPictures;
 };
 
-/// Updates both games; refused up to 07:00:00. A failure ends it as it stands: the games that have come down
+/// Updates both games; refused up to 07:00:00. A failure ends it at once: the games that have come down
 /// stay. Where the transfer's watch cancels it, TransferCancelled passes through, and the controls let the
 /// user update again.
 void Command2_Click(UpdateSurroundings& update);

@@ -18,7 +18,7 @@ class Upload : public FolderTransfer, private TransferListener {
 
   /// As Download::Start(), the other way.
   void Start();
-  /// Whether the server folder `folder` stands.
+  /// Whether the server folder `folder` exists.
   bool DirectoryExists(std::string_view folder);
   void CreateDirectory(std::string_view folder);
 

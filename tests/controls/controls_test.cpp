@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The controls by themselves: what a form finds, which changes a binding is told of, and what can be pressed.
+// The controls by themselves: what a form finds, which changes reach a binding, and what can be pressed.
 #include "controls/controls.h"
 
 #include "controls/button_row.h"

@@ -83,7 +83,7 @@ TEST_F(Bindings, TakesChosenAndTypedTextsAndTabs) {
   });
   auto& picker = widget<Picker>("Form1", "Combo4");
   picker.setFocus();
-  // The date stands inside of the line, behind a blank.
+  // The date is inside of the line, behind a blank.
   picker.lineEdit()->selectAll();
   QTest::keyClicks(picker.lineEdit(), QStringLiteral("11-16"));
   EXPECT_EQ(combo.text(), "11-16");

@@ -102,7 +102,7 @@ def numbers_of(action, call, loading):
 
 
 def kill_everywhere(action, start, outcomes, loading):
-    """Kills at each call, starts the program again, and compares; tells how many kills there were."""
+    """Kills at each call, starts the program again, and compares; returns how many kills there were."""
     kills = 0
     for call in KILLED_AT:
         lay_out(start)
@@ -126,7 +126,7 @@ def fail_everywhere(action, start, after, loading):
             ended = run_disturbed(action, call, f"error={error}", number)
             what = f"{action}, {error} at {call} {number}"
             if ended.returncode == 0:
-                # The change stands; what could not be tidied up goes at the next start.
+                # The change is made; what could not be tidied up goes at the next start.
                 check(run("recover").returncode == 0, what + ": no recovery")
                 check(state() == after, what + ": passed over, and not done")
                 continue

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // selection_action FOLDER ACTION: one action of the PowerBall selection window on a data folder, for the test
-// that kills it. A runtime error is told by its number on standard output and exit code 1.
+// that kills it. A runtime error is reported by its number on standard output and exit code 1.
 #include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "selection/selection_form.h"

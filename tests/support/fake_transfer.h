@@ -15,7 +15,7 @@ namespace tallywick::test {
 class FakeTransfer : public TransferComponent {
  public:
   using Log = std::vector<std::string>;
-  /// Stands in for the copying of a folder.
+  /// Takes the place of the copying of a folder.
   using Copy = std::function<void(std::string_view serverFolder)>;
 
   FakeTransfer(Log& log, Copy copy) : log_(log), copy_(std::move(copy)) {}

@@ -32,7 +32,7 @@ inline std::string pythonWithServer() {
 
 class ServerProcess {
  public:
-  /// Starts the script and waits until it tells its port.
+  /// Starts the script and waits until it reports its port.
   ServerProcess(const std::string& script, const std::vector<std::string>& arguments) {
     static const std::string python = pythonWithServer();
     std::vector<std::string> words = {python, std::string(TALLYWICK_TEST_SERVERS) + "/" + script};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whatever a server does wrong, the error tells what happened and the folder stays as it was, to the byte.
+// Whatever a server does wrong, the error says what happened and the folder stays as it was, to the byte.
 #include "transfer_test.h"
 
 #include <algorithm>

@@ -28,7 +28,7 @@ struct Options {
 void declare(CLI::App& line, Options& options) {
   line.set_version_flag("--version", std::string("tallywick-script ") + programVersion());
   line.add_option("--folder", options.folder, "The data folder")->type_name("DIR");
-  line.add_option("--now", options.now, "Sets the clock, which then stands still")
+  line.add_option("--now", options.now, "Sets the clock, which then does not move")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
   line.add_option("--seed", options.seed, "Makes Quick Pick repeatable")->type_name("N");
   line.add_option("--source", options.source, "Where updates come from, in the place of the settings' source")
@@ -43,7 +43,7 @@ void declare(CLI::App& line, Options& options) {
       "Lines: click NAME, choose NAME INDEX, type NAME TEXT, answer yes|no, now DATE TIME, show NAME..., "
       "print NAME...,\n"
       "close NAME, windows, plays powerball|mega-millions; # begins a comment line. The manual's page on "
-      "scripts tells more.");
+      "scripts says more.");
 }
 
 int complain(const std::string& what) {

@@ -38,7 +38,7 @@ class ScriptPlatform : public Platform {
   bool ended_ = false;
 };
 
-/// The computer's clock until it is set; then it stands still.
+/// The computer's clock until it is set; then it does not move.
 class SettableClock : public Clock {
  public:
   std::string date() const override { return standing_ ? standing_->date() : system_.date(); }

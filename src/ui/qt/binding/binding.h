@@ -88,7 +88,7 @@ class Binding : public QObject {
   void enter(Control& control, QObject& widget, std::function<void()> show);
   /// Runs what a click on the control runs.
   void press(Control& control);
-  /// Changes the model as a user's action told, without a click.
+  /// Changes the model as a user's action asks, without a click.
   void take(const std::function<void()>& change);
 
   Form* form_;

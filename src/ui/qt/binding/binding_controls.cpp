@@ -29,7 +29,7 @@ namespace tallywick {
 
 namespace {
 
-/// Tells whether lines have changed since it was asked last.
+/// Whether lines have changed since it was asked last.
 class LineWatch {
  public:
   explicit LineWatch(const TextLines& lines) : lines_(lines) {}
@@ -40,7 +40,7 @@ class LineWatch {
   std::size_t seen_ = static_cast<std::size_t>(-1);
 };
 
-/// A heading as the name of what stands below it.
+/// A heading as the name of what is below it.
 QString spokenName(std::string_view caption) {
   QString name = asLabel()(caption).simplified();
   while (name.endsWith(QLatin1Char(':')) || name.endsWith(QLatin1Char(','))) name.chop(1);

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What screen readers say after a line that stands out.
+/// What screen readers say after a line that is emphasised.
 const QString winningMeaning = u"winning"_s;
 
 /// What a line of a winning ticket says.

@@ -20,7 +20,7 @@ enum class BallMark { none, main, extra };
 
 /// The mark that a number button's colour means: cyan a main number, magenta the extra ball.
 BallMark markOf(Color color);
-/// How many draws before the newest a frequent number's colour stands for: 1 (red) to 5 (light cyan), else 0.
+/// How many draws before the newest a frequent number's colour means: 1 (red) to 5 (light cyan), else 0.
 int repeatOf(Color color);
 
 struct BallLook {
@@ -36,7 +36,7 @@ struct BallLook {
   bool pressed = false;
 };
 
-/// The colours that a ball is painted in. The number stands on `ground`.
+/// The colours that a ball is painted in. The number is written on `ground`.
 struct BallColors {
   QColor ground;
   QColor caps;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A drop-down that stands open: its text above its items, for windows with room for all of them.
+// A drop-down that is always open: its text above its items, for windows with room for all of them.
 #pragma once
 
 #include "controls/text_lines.h"

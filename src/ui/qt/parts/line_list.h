@@ -20,7 +20,7 @@ class LineListModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  /// Whether a line stands out, asked for the lines on the screen only.
+  /// Whether a line is emphasised, asked for the lines on the screen only.
   using StandOut = std::function<bool(std::size_t row, std::string_view line)>;
   enum Role { StandsOutRole = Qt::UserRole };
 

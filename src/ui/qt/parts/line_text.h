@@ -14,7 +14,7 @@ namespace tallywick {
 /// The pieces of a line between its runs of blanks.
 std::vector<std::string_view> fieldsOf(std::string_view line);
 
-/// The fields of a line, separated by commas; a field with a comma or a quote stands in quotes. No line end.
+/// The fields of a line, separated by commas; a field with a comma or a quote is quoted. No line end.
 std::string csvLine(std::string_view line);
 
 struct TextRun {

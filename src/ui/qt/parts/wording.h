@@ -20,7 +20,7 @@ std::filesystem::path toPath(const QString& file);
 /// How a caption is put on the screen.
 using Wording = std::function<QString(std::string_view caption)>;
 
-/// As it stands, for a widget that knows mnemonics: an ampersand is one, not a mark.
+/// Unchanged, for a widget that knows mnemonics: an ampersand is one, not a mark.
 Wording literally();
 /// As literally(), with the first `letter` of the caption (in either case) as its mnemonic.
 Wording withMnemonic(char letter);

@@ -47,7 +47,7 @@ void nameProgram(bool forPicture) {
   QCoreApplication::setApplicationName(forPicture ? u"tallywick-picture"_s : u"tallywick"_s);
   QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
   QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
-  // The model tells when the program ends.
+  // The model decides when the program ends.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -117,7 +117,7 @@ int runProgram(int argumentCount, char** arguments) {
   nameProgram(takesPicture(options));
   GuardedApplication qt(toolkit.count(), toolkit.pointers());
   if (toolkit.count() > 1) {
-    std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help tells them\n";
+    std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help lists them\n";
     return 2;
   }
   QGuiApplication::setWindowIcon(programIcon());

@@ -39,7 +39,7 @@ QMessageBox::Icon iconOf(MessageBox::Icon icon) {
   return QMessageBox::NoIcon;
 }
 
-/// The window's top left corner where it stands in the middle of its screen, halved in whole units.
+/// The window's top left corner where it is in the middle of its screen, halved in whole units.
 QPoint centred(const QWidget& window) {
   const QRect screen = window.screen()->availableGeometry();
   return {screen.left() + std::max(0, (screen.width() - window.width()) / 2),

@@ -20,7 +20,7 @@ struct Desk {
   std::function<void()> editSettings;
   /// Opens the help at a page of the manual.
   std::function<void(const QString& page)> help;
-  /// Whether a press of this control goes on to its handler; where not, the user has been told why.
+  /// Whether a press of this control goes on to its handler; where not, the user has been shown why.
   std::function<bool(const Control&)> mayPress;
 };
 
@@ -34,7 +34,7 @@ class FormWindow : public QMainWindow {
   Binding& binding() { return binding_; }
   const Desk& desk() const { return desk_; }
 
-  /// The page of the manual that tells about what is in front.
+  /// The page of the manual about what is in front.
   virtual QString helpPage() const = 0;
   /// Keeps sizes for the next time; called before the window goes.
   virtual void keepLayout() {}

@@ -22,7 +22,7 @@ std::vector<MenuEntry*> entriesOf(const Form& form) {
 
 QMenu* newMenu(QMenuBar& bar, QMenu* parent) {
   auto* menu = parent != nullptr ? parent->addMenu(QString()) : bar.addMenu(QString());
-  // A separator stands where the model has one, at the top too.
+  // A separator is shown where the model has one, at the top too.
   menu->setSeparatorsCollapsible(false);
   return menu;
 }

@@ -24,7 +24,7 @@ QPushButton* gameSwitch(QWidget* parent) {
   return button;
 }
 
-/// Presses a side of the switch in, or lets it out; the colour tells it on dark desktops too.
+/// Presses a side of the switch in, or lets it out; the colour shows it on dark desktops too.
 void showSide(QPushButton& button, bool on) {
   button.setChecked(on);
   QPalette colors;
