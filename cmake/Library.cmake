@@ -24,7 +24,7 @@ function(tallywick_test name)
   while(arg_FAULTS)
     list(POP_FRONT arg_FAULTS kind filter)
     string(APPEND others ":${filter}")
-    gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_FILTER "${filter}"
+    gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES TEST_FILTER "${filter}"
                          PROPERTIES TIMEOUT 120 LABELS "faults-${kind}")
   endwhile()
   if(others)
@@ -32,6 +32,6 @@ function(tallywick_test name)
   else()
     set(others "*")
   endif()
-  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES TEST_FILTER "${others}"
+  gtest_discover_tests(${name}_test DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES TEST_FILTER "${others}"
                        PROPERTIES TIMEOUT 120)
 endfunction()
