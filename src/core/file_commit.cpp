@@ -259,7 +259,8 @@ bool isOwnWorkName(std::string_view name) {
 }
 
 bool isOwnName(std::string_view name) {
-  return isOwnWorkName(name) || equalIgnoringCase(name, exportNoteName);
+  return isOwnWorkName(name) || equalIgnoringCase(name, exportNoteName) ||
+         equalIgnoringCase(name, typedDrawsName);
 }
 
 void replaceFile(const fs::path& file, std::string_view contents, os::Access access) {

@@ -18,6 +18,8 @@ inline constexpr std::string_view stagedSuffix = ".tw~";
 
 /// What a game's last fetched export was; it stays between changes.
 inline constexpr std::string_view exportNoteName = "TALLYWICK.SRC";
+/// The draws that were typed in.
+inline constexpr std::string_view typedDrawsName = "TALLYWICK.TYP";
 
 /// The names of locks, journals and staged files, which are there in the middle of a change alone.
 bool isOwnWorkName(std::string_view name);

@@ -14,6 +14,8 @@ namespace tallywick::exports {
 struct Balls {
   std::array<int, 5> white;
   int extra;
+
+  bool operator==(const Balls&) const = default;
 };
 
 struct DrawEntry {
@@ -31,6 +33,8 @@ struct AmountEntry {
   std::string amount;
   /// How many tickets won it.
   int marks = 0;
+
+  bool operator==(const AmountEntry&) const = default;
 };
 
 }  // namespace tallywick::exports

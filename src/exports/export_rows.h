@@ -55,10 +55,6 @@ ExportedDraws readDraws(Game game, CsvReader& rows, Day today);
 /// Takes the columns "Draw Date", "Amount" and "Mark Count". A row with a blank amount is passed over.
 ExportedAmounts readAmounts(Game game, CsvReader& rows, Day today);
 
-/// The balls of a draw on `day`, five white ones and the extra ball, in the order of the files.
-/// std::runtime_error where the rules of that day do not allow them; `notice` is set where they are new.
-Balls checkedBalls(Game game, Day day, std::vector<int> numbers, std::string& notice);
-
 /// The scheduled draws between the oldest and the newest of `draws` that are not among them, oldest first.
 std::vector<Day> missingDraws(Game game, const std::vector<DrawEntry>& draws);
 

@@ -2,6 +2,7 @@
 #include "exports/game_files.h"
 
 #include "core/data_folder.h"
+#include "core/file_commit.h"
 #include "core/os.h"
 
 #include <utility>
@@ -16,7 +17,8 @@ GameFiles readGameFiles(const GameInfo& game, const fs::path& folder) {
     if (!fs::exists(file)) return std::string();
     return std::string(os::readFile(file).view());
   };
-  GameFiles files{textOf(drawsFile), textOf(searchDrawsFile), {}, textOf(game.winningsFile)};
+  GameFiles files{
+      textOf(drawsFile), textOf(searchDrawsFile), {}, textOf(game.winningsFile), textOf(typedDrawsName)};
   if (game.game == Game::powerBall) files.doublePlay = textOf(doublePlayFile);
   return files;
 }
@@ -26,6 +28,7 @@ std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before,
   const auto add = [&](std::string_view name, const std::string& old, std::string& text) {
     if (text != old) changed.push_back({name, std::move(text)});
   };
+  add(typedDrawsName, before.typed, now.typed);
   add(game.winningsFile, before.amounts, now.amounts);
   if (game.game == Game::powerBall) add(doublePlayFile, before.doublePlay, now.doublePlay);
   add(searchDrawsFile, before.searchDraws, now.searchDraws);
@@ -35,6 +38,7 @@ std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before,
 
 GameFiles withChanges(const GameInfo& game, GameFiles files, const std::vector<NewFile>& changed) {
   for (const NewFile& file : changed) {
+    if (file.name == typedDrawsName) files.typed = file.contents;
     if (file.name == game.winningsFile) files.amounts = file.contents;
     if (file.name == doublePlayFile) files.doublePlay = file.contents;
     if (file.name == searchDrawsFile) files.searchDraws = file.contents;

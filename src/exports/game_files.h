@@ -18,6 +18,10 @@ struct GameFiles {
   /// PowerBall's alone.
   std::string doublePlay;
   std::string amounts;
+  /// The records of the draws that were typed in and that no export has had, as the main history has them. A
+  /// draw counts as typed only while the history still has the same record: an update server's files know
+  /// nothing of this one.
+  std::string typed = {};
 };
 
 struct NewFile {

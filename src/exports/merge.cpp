@@ -17,8 +17,6 @@ namespace tallywick::exports {
 
 namespace {
 
-/// The displays read fifteen draws without looking for the end of the file.
-constexpr std::size_t shownDraws = 15;
 /// The charts read a hundred draws in the same way.
 constexpr std::size_t chartedDraws = 100;
 /// The fewest that the last draw, the displays and the charts need.
@@ -222,7 +220,7 @@ Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vecto
   const RecordList before = main;
   mergeHistory(main, byDay);
   mergeHistory(search, byDay);
-  GameFiles now{main.text(), search.text(), {}, {}};
+  GameFiles now{main.text(), search.text(), {}, {}, {}};
   if (game == Game::powerBall) {
     RecordList doublePlay(base.doublePlay, doublePlayFields);
     mergeDoublePlay(doublePlay, byDay, main);
@@ -231,6 +229,10 @@ Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vecto
   RecordList amountsList(base.amounts, winningsFields);
   merge.report.newAmounts = mergeAmounts(amountsList, amounts, main);
   now.amounts = amountsList.text();
+  RecordList typed(base.typed, drawFields);
+  std::erase_if(typed.records,
+                [&](const FileRecord& record) { return !record.day || byDay.contains(*record.day); });
+  now.typed = typed.text();
 
   reportDraws(merge.report, game, byDay, before, main);
   merge.files = changedFiles(infoOf(game), files, std::move(now));

@@ -35,6 +35,9 @@ struct Merge {
   MergeReport report;
 };
 
+/// The displays read so many draws without looking for the end of the file.
+inline constexpr std::size_t shownDraws = 15;
+
 /// Whether the draws and amounts of a folder are real.
 enum class Standing { real, madeUp };
 
@@ -43,8 +46,8 @@ enum class Standing { real, madeUp };
 /// field stays. An amount replaces all records of its day, every other one stays. Each of the fifteen newest
 /// draws has an amounts record, blank where the amount is not known, and the last record, which nothing uses,
 /// is one copy of the one before it. While fewer than a hundred draws are in the Double Play history, the
-/// newest ones are added with blank Double Play numbers, because the displays need them. Made-up files are
-/// replaced as a whole.
+/// newest ones are added with blank Double Play numbers, because the displays need them. None of the draws
+/// counts as typed in any more. Made-up files are replaced as a whole.
 Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vector<AmountEntry>& amounts,
                 const GameFiles& files, Standing standing = Standing::real);
 
