@@ -65,7 +65,7 @@ fs::path entryInAnyCase(const fs::path& folder, std::string_view name, Entry wan
     std::error_code ignored;
     if (wanted == Entry::any || entry->is_directory(ignored)) best = std::move(candidate);
   }
-  // A folder that cannot be listed may hold the name in another case: to take it as missing would make it
+  // A folder that cannot be listed may contain the name in another case: to take it as missing would make it
   // twice.
   if (error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory) {
     throw runtimeErrorFrom(error, folder);

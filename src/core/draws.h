@@ -28,7 +28,7 @@ struct Draw {
   /// MM-DD-YYYY.
   std::string displayDate() const;
   /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball. With
-  /// two-digit numbers and a leading blank the numbers stand at 16, 19, 22, 25, 28 and 33.
+  /// two-digit numbers and a leading blank the numbers are at 16, 19, 22, 25, 28 and 33.
   std::string line() const;
   void appendLine(std::string& to) const;
 };

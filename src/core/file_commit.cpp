@@ -187,7 +187,7 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
               "\" had been changed meanwhile; what it contained is kept in \"", copy, "\"."));
 }
 
-/// Takes over the staged files that still stand. Doing it twice changes nothing: a staged name is used once.
+/// Takes over the staged files that still exist. Doing it twice changes nothing: a staged name is used once.
 void takeOver(const fs::path& folder, const std::vector<Replacement>& entries) {
   for (const Replacement& entry : entries) {
     const fs::path staged = foundStaged(folder, entry.name);
@@ -326,7 +326,7 @@ void FileCommit::commit() {
 }
 
 /// While every staged file still exists, nothing has been taken over and the journal can go. It goes first:
-/// as long as it may stand, the staged files are needed.
+/// as long as it may exist, the staged files are needed.
 void FileCommit::takeBack() noexcept {
   std::error_code ignored;
   const bool untouched = std::all_of(names_.begin(), names_.end(), [&](const std::string& name) {

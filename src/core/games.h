@@ -42,7 +42,7 @@ inline constexpr std::string_view searchDrawsFile = "QZRNUM62.Dat";
 inline constexpr std::string_view doublePlayFile = "QZRNUM72.Dat";
 inline constexpr std::string_view sortToolFile = "QZRSRT3.EXE";
 
-/// A leftover six-number state game; its files are read where they stand and never written.
+/// A leftover six-number state game; its files are read where they exist and never written.
 inline constexpr std::string_view hoosierFolder = R"(QzrNumbers\Qzr6Ind\)";
 inline constexpr std::string_view hoosierPlayedFile = R"(QzrNumbers\Qzr6Ind\Qzr6Ind2.Ply)";
 

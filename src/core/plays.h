@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Play records and the play files that hold them.
+// Play records and the play files that contain them.
 #pragma once
 
 #include "core/games.h"
@@ -33,7 +33,7 @@ struct Play {
   /// MMDDYYYY, as Draw::dateKey() makes it: characters 1-2, 4-5 and from 7 of the date.
   std::string dateKey() const;
   /// Two blanks, the date, six blanks, the six numbers with two blanks between: how lists show a play. The
-  /// numbers stand at 19, 23, 27, 31, 35 and 39.
+  /// numbers are at 19, 23, 27, 31, 35 and 39.
   std::string itemText() const;
   /// In the layout of Draw::line().
   std::string drawLine() const;
@@ -51,7 +51,7 @@ void appendRecord(std::string& text, const Play& play);
 /// Opens a play file for use record by record. A missing file reads as an empty one.
 SequentialReader openPlays(const DataFolder& folder, std::string_view written);
 
-/// A play file, read whole. A missing file holds no plays.
+/// A play file, read whole. A missing file contains no plays.
 class PlayFile {
  public:
   PlayFile(const DataFolder& folder, std::string_view written);
@@ -61,7 +61,7 @@ class PlayFile {
   /// All records in file order, those that are never listed among them.
   const std::vector<Play>& plays() const { return plays_; }
   bool empty() const { return plays_.empty(); }
-  /// The bytes of the file, as they stand.
+  /// The bytes of the file, unchanged.
   std::string_view text() const { return reader_.text(); }
 
  private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Guesses where the fields of a record stand from the records before it: nearly all records of a file look
+// Guesses where the fields of a record are from the records before it: nearly all records of a file look
 // alike but for their digits, and then nobody need look at every character.
 #pragma once
 
@@ -22,7 +22,7 @@ struct FieldPlace {
 inline constexpr std::size_t maxRecordFields = 18;
 using FieldPlaces = std::array<FieldPlace, maxRecordFields>;
 
-/// Where the separators of a record stand and where its digits.
+/// Where the separators of a record are and where its digits.
 class RecordShape {
  public:
   /// Records that are longer than this have no shape.

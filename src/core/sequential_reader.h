@@ -101,7 +101,7 @@ class SequentialReader {
   std::string_view cutField();
 
   std::string_view rest() const { return text_.substr(position_); }
-  /// Whether more may follow than text_ holds.
+  /// Whether more may follow than text_ contains.
   bool isOpen() const { return file_.has_value(); }
   void readOn();
 

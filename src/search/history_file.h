@@ -39,10 +39,10 @@ bool readToEnd(std::string_view written, MessageBoxes& boxes, Read read) {
 template <std::size_t Count>
 bool holdsNumber(const RecordView<Count>& record, std::size_t first, std::size_t count,
                  std::string_view number) {
-  bool holds = false;
+  bool found = false;
   // All of them are looked at: leaving at the first hit costs more than it saves.
-  for (std::size_t i = first; i < first + count; ++i) holds |= sameText(record[i], number);
-  return holds;
+  for (std::size_t i = first; i < first + count; ++i) found |= sameText(record[i], number);
+  return found;
 }
 
 }  // namespace tallywick

@@ -70,7 +70,7 @@ const History* visibleHistory(const Histories& histories, const GameFrames& fram
   return visible == histories.end() ? nullptr : visible;
 }
 
-/// Lists the draws that hold one number and counts them.
+/// Lists the draws that contain one number and counts them.
 class Count {
  public:
   Count(std::string_view number, ComboBox& results, ListBox* list)

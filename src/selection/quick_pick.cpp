@@ -39,7 +39,7 @@ Picks drawPicks(RandomGenerator& random, const QuickPickRules& rules, const Seed
 void markPicks(SelectionForm& form, const Picks& picks) {
   const QuickPickRules& rules = form.rules.quickPick;
   for (int pick : picks) {
-    if (pick <= rules.lastMain && !rules.neverMain.holds(pick)) setMark(form.button(pick), Mark::main);
+    if (pick <= rules.lastMain && !rules.neverMain.contains(pick)) setMark(form.button(pick), Mark::main);
   }
   if (picks[extraPick] <= rules.lastExtra) setMark(form.button(picks[extraPick]), Mark::extra);
 }

@@ -11,7 +11,7 @@ namespace tallywick {
 
 namespace {
 
-/// Where an item of a play list holds its numbers, the extra ball last.
+/// Where the numbers are in an item of a play list, the extra ball last.
 constexpr std::array<std::size_t, 6> places = {19, 23, 27, 31, 35, 39};
 
 }  // namespace

@@ -114,7 +114,7 @@ std::string endedText(const PlayFile& file) {
   return text.append("\r\n");
 }
 
-/// Appends the play to the current plays, in one step: the file never holds a part of a record.
+/// Appends the play to the current plays, in one step: the file never contains a part of a record.
 void append(SelectionForm& form, const Play& play) {
   const DataFolder& folder = form.surroundings.folder;
   const std::string name = playFilePath(form.game, PlaySlot::current);

@@ -79,8 +79,9 @@ const SelectionRules& selectionRulesOf(Game game) {
 }
 
 std::string numberButtonName(int number) {
-  const auto run = std::find_if(controlRuns.begin(), std::prev(controlRuns.end()),
-                                [&](const ControlRun& candidate) { return candidate.numbers.holds(number); });
+  const auto run =
+      std::find_if(controlRuns.begin(), std::prev(controlRuns.end()),
+                   [&](const ControlRun& candidate) { return candidate.numbers.contains(number); });
   return "Command" + std::to_string(run->firstControl + number - run->numbers.first);
 }
 

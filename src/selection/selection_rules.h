@@ -13,7 +13,7 @@ namespace tallywick {
 struct NumberRange {
   int first;
   int last;
-  constexpr bool holds(int number) const { return number >= first && number <= last; }
+  constexpr bool contains(int number) const { return number >= first && number <= last; }
 };
 
 /// How Quick Pick draws and marks. A draw is a number from 1 to the limit.

@@ -169,7 +169,7 @@ void writeFolder(const fs::path& folder, const FolderContents& contents) {
   requireGameFolders(folder);
   requireRoomFor(folder, pictureFolder);
   if (holdsRecords(folder)) {
-    throw std::runtime_error(folder.string() + " already holds draws or plays; nothing was changed");
+    throw std::runtime_error(folder.string() + " already contains draws or plays; nothing was changed");
   }
   fs::create_directories(folder);
   writePictures(folder);

@@ -38,8 +38,8 @@ bool holdsRecords(const std::filesystem::path& folder);
 /// so that writing there would change what is not this data folder's.
 void requireGameFolders(const std::filesystem::path& root);
 
-/// Makes a whole data folder. Every file that exists already stays. std::runtime_error where the folder holds
-/// records, or where a file or a link has the name of one of its folders; then nothing is written.
+/// Makes a whole data folder. Every file that exists already stays. std::runtime_error where the folder
+/// contains records, or where a file or a link has the name of one of its folders; then nothing is written.
 void writeFolder(const std::filesystem::path& folder, const FolderContents& contents);
 
 /// Replaces the draws and amounts of one game as a whole, marks it where they are made up, and leaves

@@ -134,7 +134,7 @@ std::vector<fs::path> foldersOf(const fs::path& tree, const ServerFolder& place)
   return folders;
 }
 
-bool holds(const fs::path& file, std::string_view bytes) {
+bool contains(const fs::path& file, std::string_view bytes) {
   return fs::is_regular_file(file) && os::readFile(file).view() == bytes;
 }
 
@@ -152,7 +152,7 @@ void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files
   std::vector<std::pair<fs::path, fs::path>> names;
   for (const PublishedFile& file : files) {
     const fs::path target = entryInAnyCase(folder, file.name);
-    if (holds(target, file.bytes)) continue;
+    if (contains(target, file.bytes)) continue;
     const fs::path work = (folder.parent_path() / file.name).concat(stagedSuffix);
     os::writeDurably(work, file.bytes);
     names.emplace_back(work, target);

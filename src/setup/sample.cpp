@@ -39,7 +39,7 @@ Balls pickBalls(RandomGenerator& generator, const Matrix& matrix) {
   return balls;
 }
 
-/// The multiplier is drawn from a set in which the small ones stand more often.
+/// The multiplier is drawn from a set in which the small ones are more frequent.
 std::string pickMultiplier(RandomGenerator& generator) {
   constexpr std::array multipliers = {"2", "2", "2", "2", "3", "3", "3", "4", "4", "5"};
   return multipliers[static_cast<std::size_t>(pick(generator, static_cast<int>(multipliers.size()))) - 1];

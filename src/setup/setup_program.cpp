@@ -62,7 +62,7 @@ void describe(CLI::App& app, Options& options) {
   addExports(app, "--powerball", powerBallExports);
   addExports(app, "--mega-millions", megaMillionsExports);
   app.add_flag("--force-draws", options.forceDraws,
-               "Replace all draws and amounts of a folder that holds some; the plays stay");
+               "Replace all draws and amounts of a folder that has some; the plays stay");
   app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
   app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
   app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
@@ -188,9 +188,9 @@ void makeFolder(const Options& options, std::ostream& out) {
   if (!holdsRecords(options.folder)) return makeNewFolder(options, exported, out);
   if (!exported.empty()) return mergeExports(options, exported, out);
   if (!options.forceDraws) {
-    throw std::runtime_error(
-        options.folder +
-        " already holds draws or plays; nothing was changed. --force-draws replaces its draws and amounts");
+    throw std::runtime_error(options.folder +
+                             " already contains draws or plays; nothing was changed. --force-draws replaces "
+                             "its draws and amounts");
   }
   for (const FolderContents::Part& part : sampleContents(Now(options).lastDrawn(), options.seed).games) {
     replaceDraws(options.folder, part);

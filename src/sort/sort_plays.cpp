@@ -102,7 +102,7 @@ void sortFolder(const fs::path& folder) {
   for (const GameInfo* game : {&powerBall, &megaMillions}) sortGame(folder, *game, found);
   if (found) return;
   throw RuntimeError(ErrorNumber::fileNotFound,
-                     join(folder.string(), " holds neither ", playFileName(powerBall, PlaySlot::committed),
+                     join(folder.string(), " contains neither ", playFileName(powerBall, PlaySlot::committed),
                           " nor ", playFileName(megaMillions, PlaySlot::committed)));
 }
 

@@ -40,7 +40,7 @@ class CommittedPlays {
   os::FileBytes read_;
 };
 
-/// Puts each game's committed plays that stand in `folder` in order, under the folder's lock. Error 53 where
+/// Puts each game's committed plays in `folder` in order, under the folder's lock. Error 53 where
 /// there are none.
 void sortFolder(const std::filesystem::path& folder);
 

@@ -87,7 +87,7 @@ long CurlOperation::responseCode() const {
   return code;
 }
 
-std::int64_t CurlOperation::toldLength() const {
+std::int64_t CurlOperation::announcedLength() const {
   curl_off_t length = -1;
   curl_easy_getinfo(handle_.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
   return length;

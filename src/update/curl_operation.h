@@ -50,7 +50,7 @@ class CurlOperation {
   /// The number of the server's last answer.
   long responseCode() const;
   /// The length that the server announced; negative where it announced none.
-  std::int64_t toldLength() const;
+  std::int64_t announcedLength() const;
   PassedLimit passedLimit() const { return passedLimit_; }
   void setPassedLimit(PassedLimit limit) { passedLimit_ = limit; }
   bool isConnected() const;

@@ -195,7 +195,7 @@ void CurlTransfer::createDirectory(std::string_view serverFolder) {
   runOrRaise(operation, inQuotes(serverFolder), serverFolder);
 }
 
-/// Ends the connection. A server that does not answer must not hold the program up.
+/// Ends the connection. A server that does not answer must not delay the program.
 void CurlTransfer::leave() noexcept {
   if (!runner_.isConnected()) return;
   try {
@@ -268,8 +268,8 @@ std::optional<std::uint64_t> CurlTransfer::lengthOf(std::string_view path, const
   FtpOperation operation(session_, path);
   operation.goThereOnly();
   runOrRaise(operation, inQuotes(file.name), path);
-  const std::int64_t told = operation.toldLength();
-  return told < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(told));
+  const std::int64_t length = operation.announcedLength();
+  return length < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(length));
 }
 
 std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile& file, std::uint64_t most) {
@@ -284,7 +284,7 @@ std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile&
   const std::uint64_t got = operation.received().size();
   if (got != length.value_or(got)) {
     throw transferError(TransferFault::length,
-                        join(inQuotes(file.name), " came down with another length than the server told"),
+                        join(inQuotes(file.name), " came down with another length than the server announced"),
                         whereIs(path));
   }
   return operation.received();

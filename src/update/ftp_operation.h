@@ -32,7 +32,7 @@ class FtpOperation : public CurlOperation {
   void goThereOnly() { set(CURLOPT_NOBODY, 1L); }
   /// Takes what comes until the server ends it, not only as many bytes as the server announced.
   void takeAllBytes() { set(CURLOPT_IGNORE_CONTENT_LENGTH, 1L); }
-  /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" stands
+  /// Gives the server `command` before anything else. An answer that refuses is an error unless a "*" is
   /// before the command.
   void giveCommand(const std::string& command) { append(CURLOPT_QUOTE, command); }
   /// Sends `bytes`, which outlive the operation.

@@ -18,9 +18,10 @@ namespace tallywick {
 namespace fs = std::filesystem;
 
 void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& limits) {
-  if (files.empty()) throw transferError(TransferFault::nothingThere, "the server's folder holds no files");
+  if (files.empty())
+    throw transferError(TransferFault::nothingThere, "the server's folder contains no files");
   if (files.size() > limits.files) {
-    throw transferError(TransferFault::limit, "the server's folder holds too many files");
+    throw transferError(TransferFault::limit, "the server's folder contains too many files");
   }
   std::set<std::string> names;
   std::uint64_t room = limits.allSizes;
@@ -39,7 +40,7 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
       throw transferError(TransferFault::limit, join(lists, ", which is too large"));
     }
     if (file.size.value_or(0) > room) {
-      throw transferError(TransferFault::limit, "the server's folder holds too much");
+      throw transferError(TransferFault::limit, "the server's folder contains too much");
     }
     room -= file.size.value_or(0);
   }

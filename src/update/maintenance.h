@@ -12,7 +12,7 @@ class DataFolder;
 
 /// Splits the game's committed plays by the date of the newest draw, in the text order of MM-DD-YYYY, and
 /// starts the game folder's sort tool. The files change together or not at all. A missing draw file or file
-/// of committed plays is error 53, a missing game folder error 76; a missing history holds no plays.
+/// of committed plays is error 53, a missing game folder error 76; a missing history contains no plays.
 void maintainPlayFiles(const GameInfo& game, const DataFolder& folder, ProgramStarter& programs);
 
 /// Moves the PowerBall plays whose draw has taken place to the history.

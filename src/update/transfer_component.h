@@ -64,7 +64,7 @@ class TransferCancelled : public std::exception {
 };
 
 /// Set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
-/// what happened and never hold the login or the password.
+/// what happened and never contain the login or the password.
 class TransferComponent {
  public:
   virtual ~TransferComponent() = default;

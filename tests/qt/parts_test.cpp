@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Balls that everybody can read, and lists that find, emphasise and hold many lines.
+// Balls that everybody can read, and lists that find and emphasise among many lines.
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/line_text.h"

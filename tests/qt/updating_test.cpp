@@ -49,14 +49,14 @@ class Updating : public Desktop {
 
 TEST_F(Updating, TakesNoInputButCancelAndGoesOn) {
   auto& typed = *widget<Picker>("Form1", "Combo4").lineEdit();
-  QString told;
+  QString shown;
   meanwhile = [&] {
-    told = panel().findChild<QLabel*>()->text();
+    shown = panel().findChild<QLabel*>()->text();
     QTest::keyClicks(&typed, QStringLiteral("11"));
     QTest::mouseClick(&panel().button(), Qt::LeftButton);
   };
   update();
-  EXPECT_EQ(told, QStringLiteral("1 of 3 files, 2.0 KiB"));
+  EXPECT_EQ(shown, QStringLiteral("1 of 3 files, 2.0 KiB"));
   EXPECT_EQ(typed.text(), QString());
   EXPECT_TRUE(panel().isHidden());
   EXPECT_FALSE(platform.ended());

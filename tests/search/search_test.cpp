@@ -81,7 +81,7 @@ class TwoThreeSearch : public testing::TestWithParam<Member>, public SearchWindo
 INSTANTIATE_TEST_SUITE_P(Members, TwoThreeSearch, testing::ValuesIn(members),
                          [](const auto& member) { return std::string(member.param.name); });
 
-// One draw holds all six numbers; another one only those marked, the last of them as extra ball.
+// One draw contains all six numbers; another one only those marked, the last of them as extra ball.
 TEST_P(TwoThreeSearch, TakesEverySetOfMarks) {
   for (unsigned set = 0; set < 64; ++set) {
     std::string marks;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// tallywick-setup: what a new folder holds and what an existing one keeps.
+// tallywick-setup: what a new folder contains and what an existing one keeps.
 #include "setup/setup_program.h"
 
 #include "core/day.h"
@@ -44,7 +44,7 @@ TEST(Setup, AnExportIsMergedIntoAFolderAndForceDrawsReplacesAll) {
   const std::string now = "11-21-2026 12:00:00";
   run({folder, "--now", now});
   const auto before = scratch.snapshot();
-  EXPECT_THAT(run({folder}, 1), HasSubstr("already holds draws or plays; nothing was changed"));
+  EXPECT_THAT(run({folder}, 1), HasSubstr("already contains draws or plays; nothing was changed"));
   EXPECT_EQ(scratch.snapshot(), before);
 
   scratch.write("long.csv", dailyExport(150));
@@ -91,7 +91,7 @@ TEST(Setup, ANewFolderTakesNothingThatIsThereAlready) {
   fs::create_directories(scratch.root() / "f/qzrnumbers/qzr6pwr");
   const auto before = scratch.snapshot();
   for (const Case& refused :
-       {Case{"a", "qzrnumbers is in the way: it is no folder"}, Case{"b", "already holds draws or plays"},
+       {Case{"a", "qzrnumbers is in the way: it is no folder"}, Case{"b", "already contains draws or plays"},
         Case{"c", "QZR6PWR is in the way: it is a link", {"--force-draws"}},
         Case{"d", "d is in the way: it is no folder"}, Case{"f", "f/qzrnumbers are in each other's way"}}) {
     std::vector<std::string> words = refused.options;
@@ -145,12 +145,12 @@ TEST(Import, TheRealExportsAreTakenWholeAndLackWhatTheyLack) {
   const std::string real = TALLYWICK_REAL_DRAWS;
   if (!std::filesystem::exists(real + "/powerball.csv"))
     GTEST_SKIP() << "no real draws in TALLYWICK_REAL_DRAWS";
-  const std::string told = run({(scratch.root() / "book").string(), "--powerball", real + "/powerball.csv",
-                                "--mega-millions", real + "/mega-millions.csv"});
-  EXPECT_THAT(told, testing::Not(HasSubstr("refused")));
-  EXPECT_THAT(told,
+  const std::string report = run({(scratch.root() / "book").string(), "--powerball", real + "/powerball.csv",
+                                  "--mega-millions", real + "/mega-millions.csv"});
+  EXPECT_THAT(report, testing::Not(HasSubstr("refused")));
+  EXPECT_THAT(report,
               HasSubstr("missing: 06-28-2014 06-10-2017 04-28-2021 03-12-2022 04-09-2022 11-07-2022\n"));
-  EXPECT_THAT(told, HasSubstr("missing: 10-18-2013\n"));
+  EXPECT_THAT(report, HasSubstr("missing: 10-18-2013\n"));
   EXPECT_THAT(scratch.read("book/QzrNumbers/QZR6MEG/QZR6MEG2.Ply"), IsEmpty());
 }
 

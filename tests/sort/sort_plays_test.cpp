@@ -36,12 +36,12 @@ class SortTool : public testing::Test {
  protected:
   int run(std::string_view folder = "QzrNumbers/QZR6PWR") {
     std::ostringstream out;
-    std::ostringstream told;
+    std::ostringstream err;
     const std::string path = scratch.folder().resolve(folder).string();
     const char* const words[] = {"qzrsrt3", path.c_str()};
-    const int exitCode = runSort(2, words, out, told);
+    const int exitCode = runSort(2, words, out, err);
     EXPECT_EQ(out.str(), "") << "it shares the output of the program that starts it";
-    errors = told.str();
+    errors = err.str();
     return exitCode;
   }
 
@@ -83,7 +83,7 @@ TEST_F(SortTool, LeavesAMalformedFileAsItIs) {
 
 TEST_F(SortTool, GivesUpWhereTheFileChangedOrIsLockedOrMissing) {
   EXPECT_EQ(run(), 1);
-  EXPECT_NE(errors.find("holds neither QZR6PWR1.Ply nor QZR6MEG1.Ply"), std::string::npos);
+  EXPECT_NE(errors.find("contains neither QZR6PWR1.Ply nor QZR6MEG1.Ply"), std::string::npos);
 
   scratch.write(plays, records({january, november}));
   const CommittedPlays read(file);

@@ -69,11 +69,11 @@ class ServerProcess {
 
  private:
   void readPort(int from) {
-    std::FILE* const told = ::fdopen(from, "r");
-    for (int letter = std::fgetc(told); letter > ' '; letter = std::fgetc(told)) {
+    std::FILE* const output = ::fdopen(from, "r");
+    for (int letter = std::fgetc(output); letter > ' '; letter = std::fgetc(output)) {
       port_ += static_cast<char>(letter);
     }
-    std::fclose(told);
+    std::fclose(output);
     if (port_.empty()) throw std::runtime_error("the test's FTP server did not start");
   }
 

@@ -37,11 +37,11 @@ TEST(CheckIncoming, RefusesWhatIsNoPlainNameOfAnothersFile) {
 TEST(CheckIncoming, RefusesDoublesAndWhatIsTooMuchOrNothing) {
   EXPECT_EQ(refusal({{"a.Dat", 1}, {"A.dat", 1}}), "The transfer failed: the server lists \"A.dat\" twice");
   EXPECT_EQ(refusal({{"a", 100}, {"b", 1}, {"c", 1}}), "");
-  EXPECT_EQ(refusal({{"a", 100}, {"b", 51}}), "The transfer failed: the server's folder holds too much");
+  EXPECT_EQ(refusal({{"a", 100}, {"b", 51}}), "The transfer failed: the server's folder contains too much");
   EXPECT_EQ(refusal({{"a", 101}}), "The transfer failed: the server lists \"a\", which is too large");
   EXPECT_EQ(refusal({{"a", 1}, {"b", 1}, {"c", 1}, {"d", 1}}),
-            "The transfer failed: the server's folder holds too many files");
-  EXPECT_EQ(refusal({}), "The transfer failed: the server's folder holds no files");
+            "The transfer failed: the server's folder contains too many files");
+  EXPECT_EQ(refusal({}), "The transfer failed: the server's folder contains no files");
   EXPECT_EQ(refusal({{"\x1b[31m/", 1}}),
             "The transfer failed: the server lists \"?[31m/\", which is no plain file name");
 }

@@ -40,8 +40,8 @@ TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
   book.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", later + drawn + next);
 
   const TreeFolder tree;
-  std::ostringstream told;
-  setup::publish(tree.root() / "root", newer.root(), told);
+  std::ostringstream out;
+  setup::publish(tree.root() / "root", newer.root(), out);
   const ServerProcess server("good_server.py",
                              {(tree.root() / "root").string(), (tree.root() / "log").string()});
   const std::string pictures = "click Command3\nshow Image1 Image6\n";

@@ -22,7 +22,7 @@ Json describe(const JudgedPlay& play);
 /// items.
 std::string plainText(const Control& control);
 
-/// One line, whatever bytes the texts hold.
+/// One line, whatever bytes the texts contain.
 std::string oneLine(const Json& json);
 
 }  // namespace tallywick::script

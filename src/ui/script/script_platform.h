@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The surroundings of a scripted run: boxes are printed and answered from a queue, pages and programs are
-// told.
+// reported.
 #pragma once
 
 #include "app/platform.h"

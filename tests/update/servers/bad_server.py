@@ -1,8 +1,8 @@
-"""An FTP server that misbehaves as it is told, or not at all, on a free port of the loopback.
+"""An FTP server that misbehaves as its arguments ask, or not at all, on a free port of the loopback.
 
 bad_server.py FOLDER FAULT
 
-FOLDER holds the answer to LIST, the answer to MLSD where the server is to know it, the files, and a
+FOLDER contains the answer to LIST, the answer to MLSD where the server is to know it, the files, and a
 "certificate" where it is to know TLS; the commands that come in are written to its "log". Prints its port; ends
 when its standard input does.
 """
@@ -34,7 +34,7 @@ class Session:
         self.control.sendall(text.encode() + b"\r\n")
 
     def open_data(self):
-        """Waits for the client at the address that it was told."""
+        """Waits for the client at the address that it was given."""
         data = self.waiting.accept()[0]
         self.waiting.close()
         if self.tls:

@@ -44,7 +44,7 @@ std::optional<fs::path> askForFolder() {
   const QString chosen = QFileDialog::getExistingDirectory(nullptr, u"Open a Record Book"_s);
   if (chosen.isEmpty()) return std::nullopt;
   if (isDataFolder(toPath(chosen))) return toPath(chosen);
-  tell(u"%1 holds no record book: there is no folder QzrNumbers in it."_s.arg(chosen));
+  tell(u"%1 contains no record book: there is no folder QzrNumbers in it."_s.arg(chosen));
   return std::nullopt;
 }
 

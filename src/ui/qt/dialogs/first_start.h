@@ -16,8 +16,8 @@ enum class Offer { no, yes };
 /// Shows a warning with the program's title.
 void tell(const QString& text);
 
-/// The data folder to work on. Where the chosen one holds no record book the user is offered to make one
-/// there, or to open another; nothing where he does neither. Without the offer it is only told.
+/// The data folder to work on. Where the chosen one contains no record book the user is offered to make one
+/// there, or to open another; nothing where neither is done. Without the offer there is only a warning.
 std::optional<std::filesystem::path> findDataFolder(const std::string& named, Offer offer);
 
 /// Takes the data folder for this program alone. Nothing, after a message, where another one has it open.

@@ -75,7 +75,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
 QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, const std::string& value,
                                    const QString& explanation) {
   auto* edit = new QLineEdit(toQString(value));
-  // The settings file holds a value between quotes.
+  // The settings file has a value between quotes.
   edit->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[^\"]*"_s), edit));
   addField(form, label, *edit, explanation);
   return edit;

@@ -16,7 +16,7 @@ namespace tallywick {
 class SettingsDialog : public QDialog {
  public:
   SettingsDialog(const Settings& settings, QWidget* parent);
-  /// As they stand in the dialog.
+  /// As the dialog shows them.
   Settings settings() const;
 
  private:

@@ -45,7 +45,7 @@ struct BallColors {
 };
 BallColors ballColors(const BallLook& look, const QPalette& palette);
 
-/// Paints the largest ball that `area` holds, with room for the focus ring, in the painter's font made to
+/// Paints the largest ball that fits into `area`, with room for the focus ring, in the painter's font made to
 /// fit.
 void paintBall(QPainter& painter, const QRectF& area, const BallLook& look, const QPalette& palette);
 

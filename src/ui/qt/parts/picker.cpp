@@ -17,7 +17,7 @@ constexpr int shownLines = 15;
 /// A draw line with its margins.
 constexpr int lineLength = 36;
 
-/// Proposes the lines that hold what was typed so far.
+/// Proposes the lines that contain what was typed so far.
 QCompleter* lineFinder(QAbstractItemModel* lines, QWidget* parent) {
   auto* finder = new QCompleter(lines, parent);
   finder->setCompletionRole(Qt::DisplayRole);

@@ -16,7 +16,7 @@ inline constexpr int gap = 8;
 inline constexpr int halfGap = gap / 2;
 inline constexpr int pageMargin = 2 * gap;
 
-/// Readable text on its ground, and a shape that is told from its surroundings.
+/// Readable text on its ground, and a shape that differs from its surroundings.
 inline constexpr double textContrast = 4.5;
 inline constexpr double shapeContrast = 3.0;
 

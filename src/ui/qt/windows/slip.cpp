@@ -42,14 +42,14 @@ void Slip::typeDigit(int digit) {
   const bool second = typed_ > 0 && sinceTyped_.isValid() && sinceTyped_.elapsed() < typingMilliseconds;
   const bool zeroFirst = typed_ == -1 && sinceTyped_.elapsed() < typingMilliseconds;
   const int number = second ? typed_ * numbersInRow + digit : digit;
-  if ((second || zeroFirst) && holds(number)) {
+  if ((second || zeroFirst) && contains(number)) {
     typed_ = 0;
     goTo(number);
     return;
   }
   typed_ = digit == 0 ? -1 : digit;
   sinceTyped_.start();
-  if (holds(digit)) goTo(digit);
+  if (contains(digit)) goTo(digit);
 }
 
 bool Slip::eventFilter(QObject* watched, QEvent* event) {
@@ -81,7 +81,7 @@ int Slip::neighbour(int number, int key) const {
   if (key == Qt::Key_Right) next = number + 1;
   if (key == Qt::Key_Up) next = number - numbersInRow;
   if (key == Qt::Key_Down) next = number + numbersInRow;
-  return holds(next) ? next : 0;
+  return contains(next) ? next : 0;
 }
 
 int Slip::numberOf(const QObject* button) const {
@@ -89,7 +89,7 @@ int Slip::numberOf(const QObject* button) const {
   return found == buttons_.end() ? 0 : static_cast<int>(found - buttons_.begin()) + 1;
 }
 
-bool Slip::holds(int number) const {
+bool Slip::contains(int number) const {
   return number >= 1 && number <= static_cast<int>(buttons_.size());
 }
 

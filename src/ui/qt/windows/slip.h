@@ -29,7 +29,7 @@ class Slip : public QWidget {
   /// The number `key` leads to from `number`; 0 where there is none.
   int neighbour(int number, int key) const;
   int numberOf(const QObject* button) const;
-  bool holds(int number) const;
+  bool contains(int number) const;
 
   std::vector<BallButton*> buttons_;
   int typed_ = 0;
