@@ -79,6 +79,8 @@ class SequentialReader {
 
   /// How many records have been begun.
   std::size_t recordNumber() const { return recordNumber_; }
+  /// How much of text() has been read, in bytes.
+  std::size_t position() const { return position_; }
   const std::string& name() const { return name_; }
   /// The whole of what is read, where it is read as a whole.
   std::string_view text() const { return text_; }

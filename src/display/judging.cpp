@@ -38,11 +38,14 @@ std::optional<Day> dayOfDraw(const Draw& draw) {
 }
 
 void addPlays(const GameInfo& game, PlaySlot slot, std::string_view text, Judgement& judgement) {
+  std::size_t number = 0;
   forEachWhole<playFields>(text, playFileName(game, slot), judgement, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
+    ++number;
     if (trimmed(play.date) == noPlayDate) return;
     JudgedPlay& judged = judgement.plays.emplace_back();
     judged.file = slot;
+    judged.record = number;
     judged.date = play.date;
     judged.day = parseDay(trimmed(play.date));
     std::ranges::copy(play.main, judged.white.begin());
@@ -159,12 +162,17 @@ Judgement judgePlays(const GameInfo& game, const DataFolder& folder) {
   const SequentialReader committed =
       openPlays(folder, inFolder(game, playFileName(game, PlaySlot::committed)));
   const SequentialReader played = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  return judgePlays(game, folder, played.text(), committed.text());
+}
+
+Judgement judgePlays(const GameInfo& game, const DataFolder& folder, std::string_view played,
+                     std::string_view committed) {
   const SequentialReader draws(folder, inFolder(game, drawsFile));
   const SequentialReader amounts = openPlays(folder, inFolder(game, game.winningsFile));
   std::optional<SequentialReader> doublePlays;
   if (game.game == Game::powerBall) doublePlays.emplace(folder, inFolder(game, doublePlayFile));
-  return judge(game, {committed.text(), played.text(), draws.text(),
-                      doublePlays ? doublePlays->text() : std::string_view(), amounts.text()});
+  return judge(game, {committed, played, draws.text(), doublePlays ? doublePlays->text() : std::string_view(),
+                      amounts.text()});
 }
 
 }  // namespace tallywick

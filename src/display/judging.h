@@ -37,6 +37,8 @@ struct Match {
 struct JudgedPlay {
   /// Committed or played.
   PlaySlot file;
+  /// The number of its record in the file, from 1.
+  std::size_t record;
   /// As the record has it.
   std::string date;
   /// None where the date is no day of the calendar.
@@ -63,7 +65,7 @@ struct Judgement {
   std::vector<std::string> torn;
 };
 
-/// The contents of a game's files. To judge a ticket that nobody keeps, give its record as `played`.
+/// The contents of a game's files.
 struct JudgingTexts {
   std::string_view committed;
   std::string_view played;
@@ -80,5 +82,9 @@ Judgement judge(const GameInfo& game, const JudgingTexts& texts);
 /// Judges all plays of the game's folder and changes nothing. Missing play and winnings files read as empty;
 /// error 53 where a draw history is missing.
 Judgement judgePlays(const GameInfo& game, const DataFolder& folder);
+
+/// Judges the plays of a text in the place of those in the play files.
+Judgement judgePlays(const GameInfo& game, const DataFolder& folder, std::string_view played,
+                     std::string_view committed = {});
 
 }  // namespace tallywick

@@ -64,6 +64,10 @@ constexpr std::array keys = {
         [](Settings& settings, std::string_view value) {
           settings.megaMillionsDraws = exportAddress("mega-millions-draws", value, megaMillionsExport);
         }},
+    Key{"powerball-price",
+        [](Settings& settings, std::string_view value) { settings.powerBallPrice = priceFrom(value); }},
+    Key{"mega-millions-price",
+        [](Settings& settings, std::string_view value) { settings.megaMillionsPrice = priceFrom(value); }},
     Key{"server", [](Settings& settings, std::string_view value) { settings.server = value; }},
     Key{"tls", [](Settings& settings, std::string_view value) { settings.tls = tlsNamed(value); }},
     Key{"web-site", [](Settings& settings, std::string_view value) { settings.webSite = value; }},
@@ -116,6 +120,27 @@ Settings::Source sourceNamed(std::string_view word) {
   refuse(join("source is \"", word, "\"; it can be public or server"));
 }
 
+std::optional<std::int64_t> priceFrom(std::string_view text) {
+  constexpr std::int64_t most = 1000;
+  if (text.empty()) return std::nullopt;
+  const std::size_t point = std::min(text.find('.'), text.size());
+  const std::string_view dollars = text.substr(0, point);
+  const std::string_view cents = point == text.size() ? "00" : text.substr(point + 1);
+  const auto isDigits = [](std::string_view part) {
+    return !part.empty() && part.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  const std::optional<std::int64_t> whole = wholeNumber<std::int64_t>(dollars);
+  if (!isDigits(dollars) || !isDigits(cents) || cents.size() != 2 || !whole || *whole > most)
+    refuse(join("the price of a play is \"", text, "\"; it can be dollars and cents, such as 2 or 2.50"));
+  return *whole * 100 + *wholeNumber<std::int64_t>(cents);
+}
+
+std::string priceText(std::optional<std::int64_t> cents) {
+  if (!cents) return "";
+  const std::string dollars = std::to_string(*cents / 100);
+  return *cents % 100 == 0 ? dollars : join(dollars, ".", twoDigits(static_cast<int>(*cents % 100)));
+}
+
 Settings settingsFrom(std::string_view text) {
   if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
   Settings settings;
@@ -165,7 +190,11 @@ std::string settingsText(const Settings& settings) {
       tls, "\n\n",
       "# The pages that the Help menu opens.\n"
       "web-site=",
-      inQuotes(settings.webSite), "\n", "web-help=", inQuotes(settings.webHelp), "\n");
+      inQuotes(settings.webSite), "\n", "web-help=", inQuotes(settings.webHelp), "\n\n",
+      "# What a play costs in dollars, for the sums of your plays; empty for none.\n"
+      "powerball-price=",
+      inQuotes(priceText(settings.powerBallPrice)), "\n",
+      "mega-millions-price=", inQuotes(priceText(settings.megaMillionsPrice)), "\n");
 }
 
 void writeSettings(const DataFolder& folder, const Settings& settings) {

@@ -2,6 +2,8 @@
 // The settings in "tallywick.ini" of the data folder.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +34,9 @@ struct Settings {
   /// Addresses of the public exports of draws, never empty.
   std::string powerBallDraws{powerBallExport};
   std::string megaMillionsDraws{megaMillionsExport};
+  /// What a play costs, in cents; none where the player has not said.
+  std::optional<std::int64_t> powerBallPrice = std::nullopt;
+  std::optional<std::int64_t> megaMillionsPrice = std::nullopt;
 
   bool operator==(const Settings&) const = default;
 };
@@ -39,6 +44,12 @@ struct Settings {
 /// The source that a word of the settings file or the command line names: "public" or "server". Raises
 /// std::invalid_argument for any other.
 Settings::Source sourceNamed(std::string_view word);
+
+/// Cents for an amount of dollars such as "2" or "2.50"; none for an empty text. Raises std::invalid_argument
+/// for any other text, and above a thousand dollars.
+std::optional<std::int64_t> priceFrom(std::string_view text);
+/// The text that priceFrom() reads.
+std::string priceText(std::optional<std::int64_t> cents);
 
 /// The settings that a file with this text contains. Raises std::invalid_argument, its text beginning with
 /// "line N: ", for a line that cannot be understood.

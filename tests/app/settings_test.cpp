@@ -27,7 +27,9 @@ TEST(Settings, ComeBackAsTheyWereWritten) {
                              "",
                              Settings::Source::server,
                              "http://localhost:8000/powerball.csv",
-                             "https://example.org/mega;millions.csv"};
+                             "https://example.org/mega;millions.csv",
+                             200,
+                             505};
   writeSettings(scratch.folder(), settings);
   EXPECT_EQ(readSettings(scratch.folder()), settings);
   for (const char* value : {"a\"b", "a\nb"})
@@ -65,6 +67,8 @@ TEST(Settings, ALineThatCannotBeUnderstoodIsNamedRatherThanIgnored) {
             "1: mega-millions-draws is \"file:///x\"; it can be an address that begins with https://"},
            {"web-site=http://x/?a=1,2",
             "1: web-site has a value with a comma, a semicolon or a quote; put it between double quotes"},
+           {"powerball-price=2.5",
+            "1: the price of a play is \"2.5\"; it can be dollars and cents, such as 2 or 2.50"},
            {"server=a b", "1: server has a value with blanks; put it between double quotes"},
            {"server=\"a", "1: the value of server has no closing quote"},
            {"server=\"a\"b\"", "1: there is more behind the closing quote of server"},

@@ -20,6 +20,8 @@ namespace {
 const QString exportExplanation =
     u"The web address of the game's public export; empty for that of the state of New York's open data."_s;
 
+const QString priceExplanation = u"In dollars, for the sums of My Plays; empty for none."_s;
+
 /// A field with its explanation close below it.
 void addField(QFormLayout& form, const QString& label, QWidget& field, const QString& explanation) {
   auto* column = new QVBoxLayout;
@@ -62,6 +64,10 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   webSite_ = addText(*form, u"Web &site:"_s, settings.webSite,
                      u"The page about the games that the Help menu opens."_s);
   webHelp_ = addText(*form, u"Web &help:"_s, settings.webHelp, u"The help page that the Help menu opens."_s);
+  powerBallPrice_ =
+      addText(*form, u"P&rice of a PowerBall play:"_s, priceText(settings.powerBallPrice), priceExplanation);
+  megaMillionsPrice_ = addText(*form, u"Price of a Mega Millions p&lay:"_s,
+                               priceText(settings.megaMillionsPrice), priceExplanation);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -90,6 +96,8 @@ Settings SettingsDialog::settings() const {
   settings.tls = tls_->isChecked() ? Settings::Tls::required : Settings::Tls::off;
   settings.webSite = toText(webSite_->text().trimmed());
   settings.webHelp = toText(webHelp_->text().trimmed());
+  settings.powerBallPrice = priceFrom(toText(powerBallPrice_->text().trimmed()));
+  settings.megaMillionsPrice = priceFrom(toText(megaMillionsPrice_->text().trimmed()));
   return settings;
 }
 

@@ -16,7 +16,7 @@ namespace tallywick {
 class SettingsDialog : public QDialog {
  public:
   SettingsDialog(const Settings& settings, QWidget* parent);
-  /// As the dialog shows them.
+  /// What the dialog shows. Raises std::invalid_argument for a price that is none.
   Settings settings() const;
 
  private:
@@ -30,6 +30,8 @@ class SettingsDialog : public QDialog {
   QCheckBox* tls_;
   QLineEdit* webSite_;
   QLineEdit* webHelp_;
+  QLineEdit* powerBallPrice_;
+  QLineEdit* megaMillionsPrice_;
 };
 
 }  // namespace tallywick

@@ -70,8 +70,9 @@ void editSettings(Application& application, QtPlatform& platform) {
   SettingsDialog dialog(application.settings(), QApplication::activeWindow());
   while (dialog.exec() == QDialog::Accepted) {
     try {
-      writeSettings(folder, dialog.settings());
-      application.setSettings(dialog.settings());
+      const Settings settings = dialog.settings();
+      writeSettings(folder, settings);
+      application.setSettings(settings);
       return;
     } catch (const std::exception& error) {
       platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plays/play_table.h"
+
+#include "core/text.h"
+
+#include <algorithm>
+#include <map>
+
+namespace tallywick {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> weekdays = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
+
+bool passes(const JudgedPlay& play, PlayFilter filter) {
+  switch (filter) {
+    case PlayFilter::waiting:
+      return play.state == DrawState::waiting;
+    case PlayFilter::drawn:
+      return play.state == DrawState::drawn;
+    case PlayFilter::won:
+      return isWinner(play);
+    case PlayFilter::all:
+      break;
+  }
+  return true;
+}
+
+bool isNewer(const JudgedPlay& left, const JudgedPlay& right) {
+  if (!left.day || !right.day) return left.day.has_value() && !right.day;
+  return *left.day > *right.day;
+}
+
+/// The dates of the plays in that place, each once, as many as a line can show.
+std::string datesOf(const Judgement& judgement, Misplaced misplaced) {
+  constexpr std::size_t mostDates = 6;
+  std::vector<std::string> dates;
+  for (const JudgedPlay& play : judgement.plays) {
+    if (misplacedOf(play) == misplaced && std::ranges::find(dates, play.date) == dates.end())
+      dates.push_back(play.date);
+  }
+  std::string text;
+  for (std::size_t i = 0; i < dates.size() && i < mostDates; ++i) text += join(i == 0 ? "" : ", ", dates[i]);
+  return dates.size() > mostDates ? join(text, " …") : text;
+}
+
+void add(YearSums& sums, const YearSums& other) {
+  sums.plays += other.plays;
+  sums.waiting += other.waiting;
+  sums.wins += other.wins;
+  sums.winsWithoutPrize += other.winsWithoutPrize;
+  sums.doublePlayWins += other.doublePlayWins;
+  sums.dollars += other.dollars;
+  if (other.costInCents) sums.costInCents = sums.costInCents.value_or(0) + *other.costInCents;
+}
+
+YearSums sumsOf(const JudgedPlay& play, std::optional<std::int64_t> centsAPlay) {
+  YearSums sums;
+  sums.plays = 1;
+  sums.waiting = play.state == DrawState::waiting ? 1 : 0;
+  sums.wins = play.match.wins() ? 1 : 0;
+  sums.winsWithoutPrize = play.match.wins() && !play.prize ? 1 : 0;
+  sums.doublePlayWins = play.doublePlay && play.doublePlay->wins() ? 1 : 0;
+  sums.dollars = play.prize.value_or(0);
+  sums.costInCents = centsAPlay;
+  return sums;
+}
+
+}  // namespace
+
+Misplaced misplacedOf(const JudgedPlay& play) {
+  if (play.file == PlaySlot::committed && play.state == DrawState::drawn) return Misplaced::leftBehind;
+  if (play.file == PlaySlot::played && play.state == DrawState::waiting) return Misplaced::movedEarly;
+  return Misplaced::no;
+}
+
+bool isWinner(const JudgedPlay& play) {
+  return play.match.wins() || (play.doublePlay && play.doublePlay->wins());
+}
+
+bool isRemovable(const JudgedPlay& play) {
+  return play.state == DrawState::waiting ||
+         (play.state == DrawState::unknown && play.file == PlaySlot::committed);
+}
+
+std::vector<JudgedPlay> playsIn(const Judgement& judgement, PlayFilter filter) {
+  std::vector<JudgedPlay> plays;
+  std::ranges::copy_if(judgement.plays, std::back_inserter(plays),
+                       [&](const JudgedPlay& play) { return passes(play, filter); });
+  std::ranges::stable_sort(plays, isNewer);
+  return plays;
+}
+
+std::string_view extraBallName(Game game) {
+  return game == Game::powerBall ? "PowerBall" : "Mega Ball";
+}
+
+std::string dateText(const JudgedPlay& play) {
+  if (!play.day) return play.date;
+  return join(weekdays.at(static_cast<std::size_t>(play.day->weekday()) - 1), " ", displayDate(*play.day));
+}
+
+std::string stateText(const JudgedPlay& play) {
+  switch (misplacedOf(play)) {
+    case Misplaced::leftBehind:
+      return "drawn, left among the next plays";
+    case Misplaced::movedEarly:
+      return "waiting, moved early";
+    case Misplaced::no:
+      break;
+  }
+  if (play.state == DrawState::drawn) return "drawn";
+  if (play.state == DrawState::waiting) return "waiting";
+  return play.day ? "no such draw known" : "no such day";
+}
+
+std::string matchText(const Match& match, Game game) {
+  std::string text;
+  for (const std::string& white : match.whites) text += join(text.empty() ? "" : " ", white);
+  if (match.extra) text += join(text.empty() ? "the " : " and the ", extraBallName(game));
+  return text.empty() ? "nothing" : text;
+}
+
+std::string prizeText(const JudgedPlay& play) {
+  if (play.jackpot)
+    return play.jackpotAmount.empty() ? "jackpot" : join("jackpot, amount ", play.jackpotAmount);
+  if (play.prize) return moneyText(*play.prize * 100);
+  return play.match.wins() ? "won, no published prize" : "";
+}
+
+std::string doublePlayText(const JudgedPlay& play) {
+  if (!play.doublePlay) return "";
+  return join(matchText(*play.doublePlay, Game::powerBall), play.doublePlay->wins() ? ": won" : "");
+}
+
+std::string moneyText(std::int64_t cents) {
+  std::string text = std::to_string(cents / 100);
+  for (std::size_t end = text.size(); end > 3; end -= 3) text.insert(end - 3, ",");
+  if (cents % 100 != 0) text += join(".", twoDigits(static_cast<int>(cents % 100)));
+  return join("$", text);
+}
+
+std::vector<YearSums> sumsByYear(const Judgement& judgement, std::optional<std::int64_t> centsAPlay) {
+  std::map<int, YearSums, std::greater<>> years;
+  for (const JudgedPlay& play : judgement.plays) {
+    // Before every year that a day can have.
+    YearSums& sums = years[play.day ? play.day->year() : -1];
+    if (play.day) sums.year = play.day->year();
+    add(sums, sumsOf(play, centsAPlay));
+  }
+  std::vector<YearSums> newestFirst;
+  for (const auto& [year, sums] : years) newestFirst.push_back(sums);
+  return newestFirst;
+}
+
+YearSums totalOf(const std::vector<YearSums>& years) {
+  YearSums total;
+  for (const YearSums& year : years) add(total, year);
+  return total;
+}
+
+std::vector<std::string> noticesOn(const Judgement& judgement) {
+  std::vector<std::string> notices;
+  for (const std::string& torn : judgement.torn) {
+    notices.push_back(join("A file ends in the middle of a record and is judged up to there: ", torn, "."));
+  }
+  if (const std::string dates = datesOf(judgement, Misplaced::leftBehind); !dates.empty()) {
+    notices.push_back(join("Drawn, and left among the next plays: ", dates, "."));
+  }
+  if (const std::string dates = datesOf(judgement, Misplaced::movedEarly); !dates.empty()) {
+    notices.push_back(join("Moved to the played plays before their draw: ", dates, "."));
+  }
+  return notices;
+}
+
+}  // namespace tallywick

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plays/ticket.h"
+
+#include "core/eras.h"
+#include "core/plays.h"
+#include "core/text.h"
+#include "plays/play_table.h"
+
+#include <algorithm>
+#include <set>
+#include <stdexcept>
+#include <vector>
+
+namespace tallywick {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string& what) {
+  throw std::invalid_argument(what);
+}
+
+std::vector<std::string_view> wordsIn(std::string_view text) {
+  constexpr std::string_view separators = " ,;\t";
+  std::vector<std::string_view> words;
+  while (true) {
+    text.remove_prefix(std::min(text.find_first_not_of(separators), text.size()));
+    if (text.empty()) return words;
+    const std::size_t end = text.find_first_of(separators);
+    words.push_back(text.substr(0, end));
+    text.remove_prefix(std::min(end, text.size()));
+  }
+}
+
+int numberUpTo(int last, std::string_view word, std::string_view what) {
+  const std::optional<int> number = wholeNumber<int>(word);
+  if (!number || *number < 1 || *number > last) {
+    refuse(join(what, " is \"", word, "\"; it can be a number from 1 to ", std::to_string(last), "."));
+  }
+  return *number;
+}
+
+std::string describe(const GameInfo& game, const JudgedPlay& ticket) {
+  if (ticket.state == DrawState::waiting) {
+    const bool isScheduled = isDrawDay(game.game, *ticket.day);
+    return join("The draw of ", dateText(ticket), " has not taken place yet, or is not in the record book.",
+                isScheduled ? "" : join(" By its schedule ", game.name, " is not drawn on that day."));
+  }
+  if (ticket.state == DrawState::unknown) {
+    return join("The record book has no ", game.name, " draw of ", dateText(ticket), ".");
+  }
+  const std::string prize = prizeText(ticket);
+  return join("Drawn on ", dateText(ticket), ". Matched: ", matchText(ticket.match, game.game), ". ",
+              prize.empty()              ? "It does not win."
+              : ticket.prize.has_value() ? join("It wins ", prize, ".")
+                                         : join("It wins: ", prize, "."));
+}
+
+}  // namespace
+
+std::string ticketRecord(const GameInfo& game, const TypedTicket& typed) {
+  const std::optional<Day> day = parseDay(trimmed(typed.date));
+  if (!day) refuse(join("The date is \"", trimmed(typed.date), "\"; it can be a day as MM-DD-YYYY."));
+  const std::optional<Matrix> matrix = matrixOn(game.game, *day);
+  if (!matrix) refuse(join(game.name, " was first drawn on ", displayDate(firstDrawDay(game.game)), "."));
+  const std::vector<std::string_view> words = wordsIn(typed.numbers);
+  std::set<int> numbers;
+  for (const std::string_view word : words) numbers.insert(numberUpTo(matrix->white, word, "A number"));
+  if (words.size() != 5 || numbers.size() != 5) {
+    refuse(join("A ticket has five different numbers and the ", extraBallName(game.game), "; there are ",
+                std::to_string(numbers.size()), "."));
+  }
+  const int extra = numberUpTo(matrix->extra, trimmed(typed.extra), join("The ", extraBallName(game.game)));
+
+  const std::string date = displayDate(*day);
+  const std::string extraText = twoDigits(extra);
+  std::array<int, 5> main{};
+  std::array<std::string, 5> mainTexts;
+  std::ranges::copy(numbers, main.begin());
+  std::ranges::transform(main, mainTexts.begin(), twoDigits);
+  const std::string decades = decadePattern(game, main);
+  std::string record;
+  appendRecord(
+      record,
+      {date, {mainTexts[0], mainTexts[1], mainTexts[2], mainTexts[3], mainTexts[4]}, extraText, decades});
+  return record;
+}
+
+JudgedPlay judgeTicket(const GameInfo& game, const DataFolder& folder, std::string_view record) {
+  return judgePlays(game, folder, record).plays.at(0);
+}
+
+std::string ticketVerdict(const GameInfo& game, const JudgedPlay& ticket) {
+  const std::string text = describe(game, ticket);
+  if (!ticket.doublePlay) return text;
+  return join(text, " With Double Play: ", matchText(*ticket.doublePlay, game.game),
+              ticket.doublePlay->wins() ? ", it wins." : ", it does not win.");
+}
+
+bool canBeKept(const JudgedPlay& ticket) {
+  return ticket.state != DrawState::unknown;
+}
+
+PlaySlot fileForTicket(const JudgedPlay& ticket) {
+  return ticket.state == DrawState::drawn ? PlaySlot::played : PlaySlot::committed;
+}
+
+bool isAmongPlays(const Judgement& plays, const JudgedPlay& ticket) {
+  return std::ranges::any_of(plays.plays, [&](const JudgedPlay& play) {
+    return play.day == ticket.day && play.extra == ticket.extra &&
+           std::ranges::is_permutation(play.white, ticket.white);
+  });
+}
+
+}  // namespace tallywick

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a player does with all plays: the table with its sums, changes and their undoing, tickets typed in,
+// and what is said beside the winning-ticket check.
+#include "core/clock.h"
+#include "core/text.h"
+#include "display/winning_tickets.h"
+#include "plays/check_explained.h"
+#include "plays/play_changes.h"
+#include "plays/play_table.h"
+#include "plays/ticket.h"
+#include "support/scratch_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallywick {
+namespace {
+
+using test::records;
+using testing::ElementsAre;
+
+const std::string leftBehind = records({"12-30-2025,01,02,03,60,61,20,x"});
+const std::string waiting = records({"01-10-2026,01,02,03,04,05,06,x"});
+const std::string movedEarly = records({"01-07-2026,11,12,13,14,15,16,x"});
+const std::string newest = records({"01-02-2026,10,20,30,60,61,26,x"});
+const std::string old = records({"12-27-2025,31,32,33,34,35,26,x"});
+
+/// A New Year at which the maintenance left one play behind and moved another one early.
+class MyPlays : public testing::Test {
+ protected:
+  MyPlays() {
+    scratch.write(game("QZRNUM6.Dat"),
+                  records({"01,02,2026,10,20,30,40,50,06,2", "12,30,2025,01,02,03,04,05,07,2",
+                           "12,27,2025,41,42,43,44,45,26,2"}));
+    scratch.write(game("QZRNUM62.Dat"), scratch.read(game("QZRNUM6.Dat")));
+    scratch.write(game("QZRNUM72.Dat"), records({"01,02,2026,91,92,93,94,95,96,2,DP,10,20,30,40,50,01,1"}));
+    write(leftBehind + waiting, movedEarly + newest + old);
+  }
+  static std::string game(std::string_view file) { return inFolder(powerBall, file); }
+  void write(std::string_view committed, std::string_view played) const {
+    scratch.write(game("QZR6PWR1.Ply"), committed);
+    scratch.write(game("QZR6PWR2.Ply"), played);
+  }
+  PlayTexts shown() const { return readPlayTexts(powerBall, scratch.folder()); }
+  Judgement judgement() const { return judgePlays(powerBall, scratch.folder()); }
+  void expectFiles(const std::string& committed, const std::string& played) const {
+    EXPECT_EQ(shown().committed, committed);
+    EXPECT_EQ(shown().played, played);
+    EXPECT_EQ(scratch.read(game("QZR6PWR1.Sav")), committed);
+  }
+
+  test::ScratchFolder scratch;
+  StandingClock clock{"01-03-2026", "12:00:00"};
+  PlayChanges changes{powerBall, scratch.folder(), clock};
+};
+
+TEST_F(MyPlays, AreInOneTableWithTheirSumsByYear) {
+  std::vector<std::string> rows;
+  for (const JudgedPlay& play : playsIn(judgement(), PlayFilter::all)) {
+    rows.push_back(join(dateText(play), "|", stateText(play), "|", matchText(play.match, Game::powerBall),
+                        "|", prizeText(play), "|", doublePlayText(play)));
+  }
+  EXPECT_THAT(rows,
+              ElementsAre("Sat 01-10-2026|waiting|nothing||", "Wed 01-07-2026|waiting, moved early|nothing||",
+                          "Fri 01-02-2026|drawn|10 20 30|$7|10 20 30: won",
+                          "Tue 12-30-2025|drawn, left among the next plays|01 02 03|$7|",
+                          "Sat 12-27-2025|drawn|the PowerBall|$4|"));
+  EXPECT_EQ(playsIn(judgement(), PlayFilter::waiting).size(), 2U);
+  EXPECT_EQ(playsIn(judgement(), PlayFilter::won).size(), 3U);
+  const std::vector<YearSums> years = sumsByYear(judgement(), 250);
+  ASSERT_EQ(years.size(), 2U);
+  EXPECT_EQ(years[1].year, 2025);
+  EXPECT_EQ(years[1].dollars, 11);
+  const YearSums total = totalOf(years);
+  EXPECT_EQ(total.plays * 10 + total.wins, 53U);
+  EXPECT_EQ(moneyText(*total.costInCents), "$12.50");
+  EXPECT_EQ(moneyText(100'000'000), "$1,000,000");
+  scratch.write(game("QZR6PWR1.Ply"), leftBehind + "\"01-1");
+  EXPECT_THAT(noticesOn(judgement()),
+              ElementsAre(testing::HasSubstr("QZR6PWR1.Ply, record 2"),
+                          "Drawn, and left among the next plays: 12-30-2025.",
+                          "Moved to the played plays before their draw: 01-07-2026."));
+}
+
+TEST_F(MyPlays, AChangeIsUndoneToTheByteAndWhatGoesStaysInACopy) {
+  scratch.write(game("QZR6PWR1.Sav"), "before");
+  const PlayChange removed =
+      changes.remove(shown(), std::vector<PlayPlace>{{PlaySlot::committed, 2}, {PlaySlot::played, 1}});
+  EXPECT_EQ(removed.what, "2 plays removed");
+  expectFiles(leftBehind, newest + old);
+  EXPECT_EQ(scratch.read(game("QZR6PWR1 2026-01-03 120000.Ply")), leftBehind + waiting);
+  EXPECT_THROW(changes.remove(removed.before, {}), PlaysChangedMeanwhile);
+
+  const std::vector<PlayCopy> copies = changes.copies();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[0].missing + copies[1].missing, 2U);
+  const PlayChange back = changes.bringBack(shown(), "QZR6PWR2 2026-01-03 120000.Ply");
+  // It waits for its draw, so that is where it belongs.
+  expectFiles(leftBehind + movedEarly, newest + old);
+  changes.undo(back);
+  changes.undo(removed);
+  EXPECT_EQ(shown(), removed.before);
+  EXPECT_EQ(scratch.read(game("QZR6PWR1.Sav")), "before");
+  EXPECT_THROW(changes.bringBack(shown(), copies[0].name), std::runtime_error);
+
+  const PlayChange moved = changes.moveToPlayed(shown(), std::vector<std::size_t>{1});
+  expectFiles(waiting, movedEarly + newest + leftBehind + old);
+  EXPECT_EQ(changes.copies().size(), 3U) << "a play that only moves leaves no copy";
+  scratch.write(game("QZR6PWR1.Ply"), "");
+  EXPECT_THROW(changes.undo(moved), PlaysChangedMeanwhile);
+}
+
+TEST_F(MyPlays, OddFilesKeepWhatCannotBeUnderstood) {
+  struct Row {
+    const char* file;
+    std::string committed;
+    std::string after;
+  };
+  const std::string play = records({"01-09-2026,07,08,09,10,11,12,x"});
+  const std::string sentinel = records({"11-11-1111,00,00,00,00,00,00,x"});
+  for (const Row& row :
+       {Row{"empty", "", play}, Row{"no line end", waiting.substr(0, waiting.size() - 2), play + waiting},
+        Row{"no line end, earlier", leftBehind.substr(0, leftBehind.size() - 2), leftBehind + play},
+        Row{"a cut record", leftBehind + "\"01-1", leftBehind + play + "\"01-1"},
+        Row{"a place holder", sentinel + waiting, sentinel + play + waiting},
+        Row{"two in a line", "01-08-2026,1,2,3,4,5,6,\x80,01-10-2026,1,2,3,4,5,6,x\n",
+            records({"01-08-2026,1,2,3,4,5,6,\x80"}) + play + records({"01-10-2026,1,2,3,4,5,6,x"})}}) {
+    SCOPED_TRACE(row.file);
+    write(row.committed, newest);
+    const PlayChange added = changes.add(PlaySlot::committed, play);
+    expectFiles(row.after, newest);
+    changes.undo(added);
+    EXPECT_EQ(shown().committed, row.committed);
+  }
+}
+
+TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
+  const auto verdictOn = [&](const TypedTicket& typed) -> std::string {
+    try {
+      return ticketVerdict(powerBall,
+                           judgeTicket(powerBall, scratch.folder(), ticketRecord(powerBall, typed)));
+    } catch (const std::invalid_argument& error) {
+      return error.what();
+    }
+  };
+  const auto before = scratch.snapshot();
+  EXPECT_EQ(verdictOn({"61 30,20, 10 60", "26", "01/02/2026"}),
+            "Drawn on Fri 01-02-2026. Matched: 10 20 30. It wins $7. With Double Play: 10 20 30, it wins.");
+  EXPECT_EQ(verdictOn({"1 2 3 60 61", "26", "12-27-2025"}),
+            "Drawn on Sat 12-27-2025. Matched: the PowerBall. It wins $4.");
+  EXPECT_EQ(verdictOn({"10 20 30 40 50", "6", "01-02-2026"}).substr(0, 73),
+            "Drawn on Fri 01-02-2026. Matched: 10 20 30 40 50 and the PowerBall. It wi");
+  EXPECT_EQ(verdictOn({"1 2 3 4 5", "6", "01-01-2026"}),
+            "The record book has no PowerBall draw of Thu 01-01-2026.");
+  EXPECT_THAT(verdictOn({"1 2 3 4 5", "6", "01-06-2026"}),
+              testing::EndsWith("PowerBall is not drawn on that day."));
+  EXPECT_THAT(verdictOn({"1 2 3 4 5", "6", "02-30-2026"}), testing::StartsWith("The date is \"02-30-2026\""));
+  EXPECT_THAT(verdictOn({"1 2 3 4 70", "6", "01-02-2026"}), testing::StartsWith("A number is \"70\""));
+  EXPECT_THAT(verdictOn({"1 2 3 4 4", "6", "01-02-2026"}), testing::EndsWith("there are 4."));
+  EXPECT_THAT(verdictOn({"1 2 3 4 5", "27", "01-02-2026"}), testing::StartsWith("The PowerBall is \"27\""));
+  EXPECT_EQ(scratch.snapshot(), before);
+
+  const std::string record = ticketRecord(powerBall, {"61 60 30 20 10", "26", "01-02-2026"});
+  const JudgedPlay ticket = judgeTicket(powerBall, scratch.folder(), record);
+  EXPECT_TRUE(isAmongPlays(judgement(), ticket));
+  EXPECT_EQ(fileForTicket(ticket), PlaySlot::played);
+}
+
+TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
+  Form form("Form1");
+  WinningsPage page(form);
+  const auto explained = [&](OptionButton& option) {
+    page.Option1.setValue(&option == &page.Option1);
+    page.Option2.setValue(&option == &page.Option2);
+    (&option == &page.Option1 ? checkAgainstLatestDraw : checkByDate)(page, scratch.folder(),
+                                                                      ticketFilesOf(powerBall));
+    std::string text;
+    for (const std::string& line : checkExplained(page, powerBall, judgement())) text += line + "\n";
+    return text;
+  };
+  const std::string sum =
+      "Judged by the draw of each play's own date, 3 of 3 plays drawn of PowerBall won, $18 in all before "
+      "any "
+      "multiplier.\n";
+  write(leftBehind + waiting, records({"12-26-2025,10,20,30,34,35,01,x"}) + old + newest);
+  const std::string left = "Won, and still among the next plays: 1 play. The check does not look there.\n";
+  EXPECT_EQ(explained(page.Option1), sum +
+                                         "Listed, and not won: 1 play. The check sets every play against the "
+                                         "newest draw; a ticket counts in "
+                                         "the draw of its own date.\nWon, and not listed: 1 play. The check "
+                                         "looks at the newest draw alone.\n" +
+                                         left +
+                                         "Won with Double Play: 1 play. The check sets the first play "
+                                         "against the newest Double Play draw.\n");
+  EXPECT_EQ(explained(page.Option2),
+            sum + "The verdict line is that of a play which lost; the lists have those that won.\n" + left +
+                "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
+}
+
+}  // namespace
+}  // namespace tallywick
