@@ -15,10 +15,13 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace tallywick {
+
+class FetchedExports;
 
 /// What the program works with.
 struct Surroundings {
@@ -56,6 +59,18 @@ class Application {
   void close(const Form& form);
 
   void openSelection(const GameInfo& game);
+
+  /// Runs the update that `control` starts as the windows want it. From public exports everything is fetched
+  /// before the update procedure begins, and where nothing can be fetched or nothing is new it does not
+  /// begin; what fails is a message. Afterwards the lists of the game on show are filled anew.
+  void updateInWindow(Control& control);
+  /// The same as Command2's, also where an update has hidden it.
+  void updateAgain();
+  /// Fills the lists of the game on show anew, and says in a message what fails.
+  void showGameAnew();
+  /// What is known about the draws of the game on show, in the place of the button that an update has hidden;
+  /// empty where that is in its place.
+  std::string noteOfUpdate() const;
   /// Closes every window and ends the program.
   void exit();
 
@@ -83,11 +98,19 @@ class Application {
   /// What an update of the game has for its Server, by the settings.
   std::string serverOf(Game game) const;
   UpdateSurroundings updateSurroundings();
+  bool fetchesFirst() const;
+  /// Fetches the exports of `games`, runs `update` on them, and reports what fails.
+  void fetchThenUpdate(const std::vector<const GameInfo*>& games, const std::function<void()>& update);
+  /// Whether everything has come; else the user has been told why not.
+  bool hasFetched(FetchedExports& exports, const std::vector<const GameInfo*>& games);
+  void showNothingNew(const std::vector<const GameInfo*>& games);
   void openSettingPage(const std::string& address, std::string_view what);
   void showAbout();
   void showSystemInformation();
 
   Surroundings surroundings_;
+  /// For the update at hand; null where it fetches them itself.
+  const FetchedExports* fetched_ = nullptr;
   MainForm* main_ = nullptr;
   std::vector<std::unique_ptr<Form>> windows_;
   /// Closed windows live until the next one opens: a handler of their own may have closed them.

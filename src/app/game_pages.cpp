@@ -144,6 +144,14 @@ void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder) {
   Command4_Click(form, folder);
 }
 
+void fillGameOnShow(MainForm& form, const DataFolder& folder) {
+  if (form.frames.Frame6.visible()) {
+    showDoublePlayDisplay(form, folder);
+  } else if (const GameInfo* const game = gameOnShow(form.frames)) {
+    showSummary(form, folder, *game);
+  }
+}
+
 void startUp(MainForm& form, const DataFolder& folder) {
   const auto& game = powerBall;
   showStartingState(form, game);

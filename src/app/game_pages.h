@@ -17,6 +17,10 @@ void mnuPowerBall_Click(MainForm& form, const DataFolder& folder, MessageBoxes& 
 /// Switches the frames and hides the update button, then does what Command4 does.
 void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder);
 
+/// Fills the lists of the game on show anew, for draws that have come meanwhile; tabs, menus and the game on
+/// show stay.
+void fillGameOnShow(MainForm& form, const DataFolder& folder);
+
 /// Opens the main window on PowerBall and fills its summary, its pickers and its chart. A step that fails is
 /// skipped: what it feeds stays empty or partly filled.
 void startUp(MainForm& form, const DataFolder& folder);

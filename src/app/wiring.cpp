@@ -151,6 +151,7 @@ void Application::wireUpdates() {
 
 TransferFactory Application::transferFactory() const {
   if (surroundings_.newTransfer) return surroundings_.newTransfer;
+  if (fetched_ != nullptr) return fetched_->components();
   return [this] {
     const Surroundings& around = surroundings_;
     if (around.settings.source == Settings::Source::publicExports) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/eras.h"
 
+#include "core/text.h"
+
 #include <algorithm>
+#include <stdexcept>
 
 namespace tallywick {
 
@@ -98,6 +101,12 @@ Day drawDayAfter(Game game, Day day) {
     day += 1;
   } while (!isDrawDay(game, day));
   return day;
+}
+
+Day lastDrawnDay(std::string_view date, std::string_view time) {
+  const std::optional<Day> today = parseDay(date);
+  if (!today) throw std::invalid_argument(join("\"", date, "\" is no date; expected MM-DD-YYYY"));
+  return time > "23:00:00" ? *today : *today - 1;
 }
 
 }  // namespace tallywick

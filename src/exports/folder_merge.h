@@ -20,6 +20,8 @@ class FolderMerge {
   FolderMerge(const DataFolder& folder, Game game, const Merging& merge);
 
   const MergeReport& report() const { return merge_.report; }
+  /// What commit() will write.
+  const std::vector<NewFile>& files() const { return merge_.files; }
 
   /// Makes the change. Real draws take the mark of made-up ones away.
   void commit();

@@ -3,6 +3,7 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/text.h"
 #include "exports/made_up.h"
@@ -13,6 +14,7 @@
 #include "setup/records.h"
 #include "setup/sample.h"
 
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -128,12 +130,6 @@ bool isRecordFile(std::string_view name, const GameInfo& game) {
 }
 
 }  // namespace
-
-Day lastDrawnDay(std::string_view date, std::string_view time) {
-  const std::optional<Day> today = parseDay(date);
-  if (!today) throw std::invalid_argument(join("\"", date, "\" is no date; expected MM-DD-YYYY"));
-  return time > "23:00:00" ? *today : *today - 1;
-}
 
 FolderContents sampleContents(Day last, std::uint64_t seed) {
   FolderContents contents{};

@@ -24,10 +24,6 @@ struct FolderContents {
   std::array<Part, 2> games;
 };
 
-/// The last day whose draw has taken place at `date` (MM-DD-YYYY) and `time` (HH:MM:SS): today's is drawn at
-/// eleven in the evening. std::invalid_argument where it is no date.
-Day lastDrawnDay(std::string_view date, std::string_view time);
-
 /// Sample draws, amounts and plays of both games up to `last`.
 FolderContents sampleContents(Day last, std::uint64_t seed);
 

@@ -3,6 +3,7 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/text.h"
 #include "exports/folder_merge.h"

@@ -9,6 +9,8 @@
 #include "core/sequential_reader.h"
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace tallywick {
 
 namespace {
@@ -65,6 +67,13 @@ void moveDrawnPlays(const GameInfo& game, const DataFolder& folder) {
 }
 
 }  // namespace
+
+bool hasDrawnPlays(const GameInfo& game, const DataFolder& folder) {
+  if (!folder.exists(inFolder(game, drawsFile))) return false;
+  const std::string newestDraw = newestDrawDate(game, folder);
+  const PlayFile committed(folder, playFilePath(game, PlaySlot::committed));
+  return std::ranges::any_of(committed.plays(), [&](const Play& play) { return play.date <= newestDraw; });
+}
 
 void maintainPlayFiles(const GameInfo& game, const DataFolder& folder, ProgramStarter& programs) {
   // The folder's lock is free again before the sort tool asks for it.

@@ -15,6 +15,9 @@ class DataFolder;
 /// of committed plays is error 53, a missing game folder error 76; a missing history contains no plays.
 void maintainPlayFiles(const GameInfo& game, const DataFolder& folder, ProgramStarter& programs);
 
+/// Whether the maintenance would move plays of the game.
+bool hasDrawnPlays(const GameInfo& game, const DataFolder& folder);
+
 /// Moves the PowerBall plays whose draw has taken place to the history.
 void Command1_Click(const DataFolder& folder, ProgramStarter& programs);
 /// Moves the Mega Millions plays whose draw has taken place to the history.

@@ -12,6 +12,7 @@
 #include "update/folder_transfer.h"
 #include "update/transfer_errors.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <optional>
@@ -108,11 +109,45 @@ class Onlookers : public TransferWatch {
   std::string subject_;
 };
 
+/// Adds what was fetched before to what one fetch reports.
+class CountingWatch : public TransferWatch {
+ public:
+  CountingWatch(TransferWatch* watch, const TransferProgress& before) : watch_(watch), before_(before) {}
+
+  void progress(const TransferProgress& soFar) override {
+    bytes_ = soFar.bytes;
+    if (watch_ == nullptr) return;
+    watch_->progress({before_.bytes + bytes_, before_.files, before_.filesInAll});
+  }
+  bool cancelled() override { return watch_ != nullptr && watch_->cancelled(); }
+  std::uint64_t bytes() const { return bytes_; }
+
+ private:
+  TransferWatch* watch_;
+  TransferProgress before_;
+  std::uint64_t bytes_ = 0;
+};
+
+/// Gets a game's export: what is at the address, or the word that it is still what `known` names.
+using ExportFetch =
+    std::function<FetchedDocument(Game game, const std::string& address, const Validators& known,
+                                  const FetchSettings& settings, TransferWatch& watch)>;
+
+FetchedDocument fetchFromNet(Game /*game*/, const std::string& address, const Validators& known,
+                             const FetchSettings& settings, TransferWatch& watch) {
+  return fetchDocument(address, known, settings, &watch);
+}
+
 class PublicExports : public TransferComponent {
  public:
   PublicExports(const DataFolder& folder, const Clock& clock, FetchSettings settings, TransferWatch* watch,
-                TransferWindow* window)
-      : folder_(folder), clock_(clock), settings_(std::move(settings)), watch_(watch), window_(window) {}
+                TransferWindow* window, ExportFetch fetch = fetchFromNet)
+      : folder_(folder),
+        clock_(clock),
+        settings_(std::move(settings)),
+        watch_(watch),
+        window_(window),
+        fetch_(std::move(fetch)) {}
 
   void prepare() override {
     address_.clear();
@@ -137,6 +172,9 @@ class PublicExports : public TransferComponent {
   bool directoryExists(std::string_view serverFolder) override { return gameOf(serverFolder).has_value(); }
   void createDirectory(std::string_view) override { refuseToSend(); }
 
+  /// The merge of a game's export, not yet made; null where the export is what it was.
+  std::unique_ptr<exports::FolderMerge> mergeOf(const GameInfo& game);
+
  private:
   [[noreturn]] static void refuseToSend() {
     throw transferError(TransferFault::protocol, "nothing can be sent to the public exports");
@@ -154,6 +192,7 @@ class PublicExports : public TransferComponent {
   FetchSettings settings_;
   TransferWatch* watch_;
   TransferWindow* window_;
+  ExportFetch fetch_;
   TransferListener* listener_ = nullptr;
   std::string address_;
   bool windowWanted_ = false;
@@ -172,19 +211,22 @@ void PublicExports::download(std::string_view serverFolder, std::string_view /*w
     throw RuntimeError(ErrorNumber::pathNotFound, folder_.resolve(localFolder).string());
   }
   tell(join("Asking for the draws of ", game.name));
-  Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
-  const FetchedDocument document = fetchDocument(address_, known(game, local), settings_, &onlookers);
-  if (!document.isUnchanged) {
-    const exports::ExportedDraws draws =
-        drawsIn(document, address_, game.game, parseDay(clock_.date()).value());
-    if (onlookers.cancelled()) throw TransferCancelled();
-    exports::FolderMerge(folder_, game.game,
-                         [&](const exports::GameFiles& files, exports::Standing standing) {
-                           return merged(game, document, draws, files, standing);
-                         })
-        .commit();
-  }
+  if (const auto merge = mergeOf(game)) merge->commit();
   tell("");
+}
+
+std::unique_ptr<exports::FolderMerge> PublicExports::mergeOf(const GameInfo& game) {
+  Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
+  const Validators before = known(game, folder_.resolve(game.folder));
+  const FetchedDocument document = fetch_(game.game, address_, before, settings_, onlookers);
+  if (document.isUnchanged) return nullptr;
+  const exports::ExportedDraws draws =
+      drawsIn(document, address_, game.game, parseDay(clock_.date()).value());
+  if (onlookers.cancelled()) throw TransferCancelled();
+  return std::make_unique<exports::FolderMerge>(
+      folder_, game.game, [&](const exports::GameFiles& files, exports::Standing standing) {
+        return merged(game, document, draws, files, standing);
+      });
 }
 
 /// Made-up draws are replaced whatever the server says.
@@ -238,6 +280,49 @@ std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, co
                                                     FetchSettings settings, TransferWatch* watch,
                                                     TransferWindow* window) {
   return std::make_unique<PublicExports>(folder, clock, std::move(settings), watch, window);
+}
+
+FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, TransferWatch* watch,
+                               std::size_t count)
+    : folder_(folder), clock_(clock), watch_(watch) {
+  soFar_.filesInAll = count;
+}
+
+void FetchedExports::fetch(Game game, const std::string& address) {
+  Fetched& fetched = (*documents_)[game];
+  fetched.address = address;
+  CountingWatch watch(watch_, soFar_);
+  PublicExports component(folder_, clock_, {}, &watch, nullptr,
+                          [&](Game asked, const std::string& from, const Validators& known,
+                              const FetchSettings& settings, TransferWatch& onlooker) {
+                            fetched.document = fetchFromNet(asked, from, known, settings, onlooker);
+                            return fetched.document;
+                          });
+  component.setHost(address);
+  const auto merge = component.mergeOf(infoOf(game));
+  const auto isOfDraws = [](const exports::NewFile& file) { return !isOwnName(file.name); };
+  if (merge && std::ranges::any_of(merge->files(), isOfDraws)) bringDraws_ = true;
+  soFar_.bytes += watch.bytes();
+  ++soFar_.files;
+}
+
+TransferFactory FetchedExports::components() const {
+  return [&folder = folder_, &clock = clock_, documents = documents_] {
+    return std::make_unique<PublicExports>(
+        folder, clock, FetchSettings(), nullptr, nullptr,
+        [documents](Game game, const std::string&, const Validators&, const FetchSettings&, TransferWatch&) {
+          return documents->at(game).document;
+        });
+  };
+}
+
+void FetchedExports::merge() const {
+  for (const auto& [game, fetched] : *documents_) {
+    PublicExports component(folder_, clock_, {}, nullptr, nullptr,
+                            [&document = fetched.document](auto&&...) { return document; });
+    component.setHost(fetched.address);
+    if (const auto merge = component.mergeOf(infoOf(game))) merge->commit();
+  }
 }
 
 }  // namespace tallywick

@@ -8,6 +8,8 @@
 #include "update/https_fetch.h"
 #include "update/transfer_component.h"
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -29,5 +31,36 @@ std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, co
                                                     FetchSettings settings = {},
                                                     TransferWatch* watch = nullptr,
                                                     TransferWindow* window = nullptr);
+
+/// Exports that are all fetched before an update begins, which then takes them from here.
+class FetchedExports {
+ public:
+  /// `count` of them are going to be fetched; `watch` learns how many are through.
+  FetchedExports(const DataFolder& folder, const Clock& clock, TransferWatch* watch, std::size_t count);
+
+  /// Fetches the game's export and works out its merge, and changes nothing. Raises what an update from that
+  /// address would raise.
+  void fetch(Game game, const std::string& address);
+  /// Whether merging what has been fetched changes a game's draws or amounts.
+  bool bringDraws() const { return bringDraws_; }
+  /// Makes components that fetch nothing: they merge what has been fetched.
+  TransferFactory components() const;
+  /// Merges it without an update.
+  void merge() const;
+
+ private:
+  struct Fetched {
+    std::string address;
+    FetchedDocument document;
+  };
+  using Documents = std::map<Game, Fetched>;
+
+  const DataFolder& folder_;
+  const Clock& clock_;
+  TransferWatch* watch_;
+  TransferProgress soFar_;
+  bool bringDraws_ = false;
+  std::shared_ptr<Documents> documents_ = std::make_shared<Documents>();
+};
 
 }  // namespace tallywick

@@ -127,8 +127,12 @@ void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry&
 
 }  // namespace
 
+bool updatesAreClosed(const Clock& clock) {
+  return clock.time() <= lastClosedTime;
+}
+
 void Command2_Click(UpdateSurroundings& update) {
-  if (update.clock.time() <= lastClosedTime) {
+  if (updatesAreClosed(update.clock)) {
     tell(update.boxes,
          "The Tallywick Software servers are unavailable,\r\nPlease retry your request after 07:00 AM EST",
          MessageBox::Icon::exclamation);

@@ -33,6 +33,9 @@ struct UpdateSurroundings {
   std::function<void()> refreshPictures;
 };
 
+/// Whether Command2_Click refuses an update now: up to 07:00:00.
+bool updatesAreClosed(const Clock& clock);
+
 /// Updates both games; refused up to 07:00:00. A failure ends it at once: the games that have come down
 /// stay. Where the transfer's watch cancels it, TransferCancelled passes through, and the controls let the
 /// user update again.

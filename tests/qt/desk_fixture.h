@@ -19,7 +19,9 @@ namespace tallywick::test {
 
 class Desktop : public testing::Test {
  protected:
-  Desktop() {
+  enum class Transfers { fake, real };
+
+  explicit Desktop(Transfers transfers = Transfers::fake) : transfers_(transfers) {
     scratch.write("QZRNUM22.DTE", calendar());
     platform.onClose = [this](Form& form) { application.close(form); };
     platform.onEditSettings = [] {};
@@ -66,12 +68,19 @@ class Desktop : public testing::Test {
     });
   }
 
+  const Transfers transfers_;
   ScratchFolder scratch;
   StandingClock clock{"11-21-2026", "12:00:00"};
   MixingGenerator random{1};
   QtPlatform platform{scratch.folder()};
   TransferFactory newTransfer;
-  Application application{{scratch.folder(), {}, clock, random, platform, [this] { return newTransfer(); }}};
+  Application application{
+      {scratch.folder(),
+       {},
+       clock,
+       random,
+       platform,
+       transfers_ == Transfers::real ? TransferFactory() : [this] { return newTransfer(); }}};
   QString helpPage;
   QString boxTitle;
   QString boxText;

@@ -2,10 +2,13 @@
 // The windows during an update: they stay alive, take no input but Cancel and the closing of a window, and go
 // on afterwards.
 #include "app/main_form.h"
+#include "core/day.h"
 #include "qt/desk_fixture.h"
 #include "support/fake_transfer.h"
 #include "ui/qt/parts/picker.h"
+#include "ui/qt/program/desk_actions.h"
 #include "ui/qt/windows/transfer_panel.h"
+#include "update/ftp_servers.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -79,6 +82,103 @@ TEST_F(Updating, ThatIsCutShortByClosingTheMainWindowEndsTheProgram) {
   EXPECT_TRUE(application.windows().empty());
   EXPECT_TRUE(platform.ended());
   EXPECT_EQ(platform.exitCode(), 0);
+}
+
+/// A record book over a portal of the test's own.
+class Portal : public Desktop {
+ protected:
+  Portal() : Desktop(Transfers::real) {
+    const std::string certificate = (web.root() / "certificate").string();
+    makeCertificate(certificate);
+    server = std::make_unique<ServerProcess>(
+        "web_server.py", std::vector<std::string>{certificate, (web.root() / "log").string()});
+    for (const char* file : {"PWF.TXT", "PWF2.TXT"}) scratch.write(file, "word");
+    put(newest);
+    platform.onPress = [this](Control& control) { press(application, platform, control); };
+    platform.onUpdateNote = [this] { return application.noteOfUpdate(); };
+    platform.onUpdateAgain = [this] { application.updateAgain(); };
+    use("file/pwr.csv", "file/meg.csv");
+    open("Form1").show();
+    answering.callOnTimeout([this] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      boxes.push_back(box->text().section(u'\n', 0, 0).toStdString());
+      boxText = box->text();
+      box->button(answer)->click();
+    });
+    answering.start(1);
+  }
+
+  /// Both games' draws of 110 days up to `last`.
+  void put(Day last) const {
+    std::string powerBallRows = "Draw Date,Winning Numbers,Multiplier\n";
+    std::string megaMillionsRows = "Draw Date,Winning Numbers,Mega Ball,Multiplier\n";
+    for (Day day = last; last - day < 110; day += -1) {
+      powerBallRows += displayDate(day) + ",10 20 30 40 50 06,2\n";
+      megaMillionsRows += displayDate(day) + ",10 20 30 40 50,06,2\n";
+    }
+    putText(web.root() / "pwr.csv", powerBallRows);
+    putText(web.root() / "meg.csv", megaMillionsRows);
+  }
+  void use(const std::string& powerBallPath, const std::string& megaMillionsPath) {
+    Settings settings;
+    settings.powerBallDraws = "http://" + server->address() + "/" + powerBallPath;
+    settings.megaMillionsDraws = "http://" + server->address() + "/" + megaMillionsPath;
+    application.setSettings(settings);
+  }
+  void update() { widget<QPushButton>("Form1", "Command2").click(); }
+  std::string newestLine() {
+    return std::string(static_cast<ListBox*>(application.find("Form1")->find("List1"))->items()[0]);
+  }
+
+  const Day newest = dayOf(2026, 11, 18);
+  TreeFolder web;
+  std::unique_ptr<ServerProcess> server;
+  QTimer answering;
+  QMessageBox::StandardButton answer = QMessageBox::Ok;
+  std::vector<std::string> boxes;
+};
+
+TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
+  const auto empty = scratch.snapshot();
+  use("file/pwr.csv", "404");
+  update();
+  EXPECT_EQ(boxes, std::vector<std::string>{
+                       "The draws of Mega Millions could not be fetched. Nothing was changed."});
+  EXPECT_TRUE(boxText.contains(QStringLiteral("the server does not have"))) << boxText.toStdString();
+  EXPECT_EQ(scratch.snapshot(), empty) << "one game alone has come";
+  EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
+
+  use("file/pwr.csv", "file/meg.csv");
+  for (const char* file : {"QZR6PWR/QZR6PWR1.Ply", "QZR6MEG/QZR6MEG1.Ply"}) {
+    scratch.write(std::string("QzrNumbers/") + file, "");
+  }
+  update();
+  EXPECT_EQ(boxes.back(), "The updates for The Tallywick Software is completed");
+  EXPECT_TRUE(newestLine().starts_with(" 11-18-2026")) << newestLine();
+  EXPECT_TRUE(widget<QPushButton>("Form1", "Command2").isHidden());
+  const auto note = [this] { return application.noteOfUpdate(); };
+  EXPECT_EQ(note(), "Next draw: Saturday, 11-21-2026");
+
+  auto& again = *window("Form1").findChild<QPushButton*>(QStringLiteral("fetchAgain"));
+  const auto updated = scratch.snapshot();
+  again.click();
+  EXPECT_EQ(boxText,
+            QStringLiteral("There is no new draw. Nothing was changed.\n\nPowerBall: Next draw: Saturday, "
+                           "11-21-2026.\nMega Millions: Friday's draw is not published yet."));
+  EXPECT_EQ(scratch.snapshot(), updated);
+  put(newest + 2);
+  again.click();
+  EXPECT_EQ(boxes.back(), "The updates for The Tallywick Software is completed");
+  EXPECT_TRUE(newestLine().starts_with(" 11-20-2026")) << newestLine();
+}
+
+TEST_F(Portal, AFailureOfTheUpdateItselfEndsNothing) {
+  update();
+  EXPECT_EQ(boxes.back(), "The update could not be completed.") << "there are no plays to be moved";
+  EXPECT_FALSE(platform.ended());
+  EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
+  EXPECT_TRUE(newestLine().starts_with(" 11-18-2026")) << newestLine();
 }
 
 }  // namespace

@@ -115,7 +115,7 @@ TEST_F(Windows, SettingsThatCannotBeUnderstoodAreNotOverwritten) {
 }
 
 TEST_F(Windows, AnUpdateWithoutAServerIsNotStarted) {
-  platform.onPress = [this](const Control& control) { return mayPress(application, platform, control); };
+  platform.onPress = [this](Control& control) { press(application, platform, control); };
   Settings settings = application.settings();
   settings.source = Settings::Source::server;
   application.setSettings(settings);

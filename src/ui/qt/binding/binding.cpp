@@ -71,7 +71,11 @@ void Binding::release() {
 void Binding::press(Control& control) {
   if (form_ == nullptr) return;
   runner_.run([this, &control] {
-    if (!mayPress || mayPress(control)) click(control);
+    if (onPress) {
+      onPress(control);
+    } else {
+      click(control);
+    }
   });
 }
 

@@ -65,8 +65,8 @@ class Binding : public QObject {
   /// What a window derives from several controls; runs after each showChanges().
   std::function<void()> afterChanges;
 
-  /// Asked before each press, where it is set; a press that it refuses leads nowhere.
-  std::function<bool(const Control&)> mayPress;
+  /// Takes the place of a press's click, where it is set.
+  std::function<void(Control&)> onPress;
 
   /// The model goes; from now on the widgets lead nowhere.
   void release();

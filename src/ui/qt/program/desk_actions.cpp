@@ -80,14 +80,18 @@ void editSettings(Application& application, QtPlatform& platform) {
   }
 }
 
-bool mayPress(const Application& application, QtPlatform& platform, const Control& control) {
+void press(Application& application, QtPlatform& platform, Control& control) {
   constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
-  if (std::ranges::find(updates, control.name()) == updates.end()) return true;
+  if (std::ranges::find(updates, control.name()) == updates.end()) {
+    click(control);
+    return;
+  }
   const Settings& settings = application.settings();
-  if (settings.source == Settings::Source::publicExports || !settings.server.empty()) return true;
-  platform.show(
-      {"No update server is set. Press Settings… and enter its address.", std::string(programTitle)});
-  return false;
+  if (settings.source == Settings::Source::server && settings.server.empty()) {
+    showMessage(platform, "No update server is set. Press Settings… and enter its address.");
+    return;
+  }
+  application.updateInWindow(control);
 }
 
 }  // namespace tallywick

@@ -25,7 +25,8 @@ Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform);
 /// that cannot be understood is not overwritten: it raises what readSettings() raises.
 void editSettings(Application& application, QtPlatform& platform);
 
-/// Whether a press of the control may go on to its handler; a message says what an update lacks.
-bool mayPress(const Application& application, QtPlatform& platform, const Control& control);
+/// Runs what a press of the control leads to. An update fetches what it needs first; a message says what it
+/// lacks.
+void press(Application& application, QtPlatform& platform, Control& control);
 
 }  // namespace tallywick

@@ -57,9 +57,9 @@ void connectDesk(Application& application, QtPlatform& platform) {
   platform.onHelp = [&application](const QString& page) {
     openHelp(application.surroundings().folder, page);
   };
-  platform.onPress = [&application, &platform](const Control& control) {
-    return mayPress(application, platform, control);
-  };
+  platform.onPress = [&application, &platform](Control& control) { press(application, platform, control); };
+  platform.onUpdateNote = [&application] { return application.noteOfUpdate(); };
+  platform.onUpdateAgain = [&application] { application.updateAgain(); };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {

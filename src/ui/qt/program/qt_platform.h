@@ -25,7 +25,9 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void(Form&)> onClose;
   std::function<void()> onEditSettings;
   std::function<void(const QString& page)> onHelp;
-  std::function<bool(const Control& control)> onPress;
+  std::function<void(Control& control)> onPress;
+  std::function<std::string()> onUpdateNote;
+  std::function<void()> onUpdateAgain;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

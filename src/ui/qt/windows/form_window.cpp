@@ -35,7 +35,7 @@ FormWindow::FormWindow(Form& form, const Desk& desk)
     : form_(form), desk_(desk), binding_(form, desk.runner, desk.folder) {
   setObjectName(toQString(form.name()));
   setWindowTitle(toQString(form.title()));
-  binding_.mayPress = desk_.mayPress;
+  binding_.onPress = desk_.press;
 }
 
 void FormWindow::answerHelpKey() {

@@ -20,8 +20,12 @@ struct Desk {
   std::function<void()> editSettings;
   /// Opens the help at a page of the manual.
   std::function<void(const QString& page)> help;
-  /// Whether a press of this control goes on to its handler; where not, the user has been shown why.
-  std::function<bool(const Control&)> mayPress;
+  /// Runs what a press of this control leads to; empty for its click alone.
+  std::function<void(Control&)> press = {};
+  /// What is known about the draws after an update; empty where the update button is in its place.
+  std::function<std::string()> updateNote = {};
+  /// Updates once more after an update.
+  std::function<void()> updateAgain = {};
 };
 
 class TransferPanel;

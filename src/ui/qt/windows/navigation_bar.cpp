@@ -7,6 +7,7 @@
 #include "ui/qt/windows/form_window.h"
 #include "ui/qt/windows/transfer_panel.h"
 
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QToolButton>
@@ -48,9 +49,12 @@ QToolButton* settingsButton(QWidget* parent) {
 
 NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
     : form_(form),
+      window_(window),
       powerBall_(gameSwitch(this)),
       megaMillions_(gameSwitch(this)),
-      transfer_(new TransferPanel(this)) {
+      transfer_(new TransferPanel(this)),
+      note_(new QLabel(this)),
+      again_(new QPushButton(u"Fetch A&gain"_s, this)) {
   auto* selection = new QPushButton(this);
   auto* update = new QPushButton(this);
   auto* progress = new QProgressBar(this);
@@ -70,6 +74,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   bar->addWidget(selection);
   bar->addWidget(update);
   bar->addWidget(progress, 1);
+  bar->addWidget(updateNote(), 1);
   bar->addWidget(transfer_);
   bar->addStretch();
   bar->addWidget(next);
@@ -87,10 +92,32 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   showGame();
 }
 
+QWidget* NavigationBarView::updateNote() {
+  auto* box = new QWidget(this);
+  note_->setTextFormat(Qt::PlainText);
+  note_->setWordWrap(true);
+  note_->setMinimumWidth(20 * theme::gap);
+  again_->setObjectName(u"fetchAgain"_s);
+  again_->setToolTip(u"Asks once more for the draws of both games"_s);
+  auto* line = new QHBoxLayout(box);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(theme::gap);
+  line->addWidget(again_);
+  line->addWidget(note_, 1);
+  connect(again_, &QPushButton::clicked, &window_,
+          [this] { window_.desk().runner.run([this] { window_.desk().updateAgain(); }); });
+  box->hide();
+  return box;
+}
+
 void NavigationBarView::showGame() {
   const GameInfo* const game = gameOnShow(form_.frames);
   showSide(*powerBall_, game == &powerBall);
   showSide(*megaMillions_, game == &megaMillions);
+  const QString note = window_.desk().updateNote ? toQString(window_.desk().updateNote()) : QString();
+  note_->setText(note);
+  again_->setAccessibleDescription(note);
+  note_->parentWidget()->setVisible(!note.isEmpty() && transfer_->isHidden());
 }
 
 }  // namespace tallywick

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QPushButton;
 
 namespace tallywick {
@@ -16,15 +17,20 @@ class TransferPanel;
 class NavigationBarView : public QWidget {
  public:
   NavigationBarView(MainForm& form, FormWindow& window);
-  /// Presses the switch in for the game on show.
+  /// Presses the switch in for the game on show, and shows what is known about its draws after an update.
   void showGame();
   TransferPanel* transferPanel() const { return transfer_; }
 
  private:
+  QWidget* updateNote();
+
   MainForm& form_;
+  FormWindow& window_;
   QPushButton* powerBall_;
   QPushButton* megaMillions_;
   TransferPanel* transfer_;
+  QLabel* note_;
+  QPushButton* again_;
 };
 
 }  // namespace tallywick

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/draws_note.h"
+
+#include "core/clock.h"
+#include "core/data_folder.h"
+#include "core/draws.h"
+#include "core/eras.h"
+#include "core/sequential_reader.h"
+#include "core/text.h"
+
+#include <array>
+#include <exception>
+#include <string_view>
+
+namespace tallywick {
+
+namespace {
+
+std::string_view weekdayOf(Day day) {
+  constexpr std::array<std::string_view, 7> names = {"Monday", "Tuesday",  "Wednesday", "Thursday",
+                                                     "Friday", "Saturday", "Sunday"};
+  return names.at(static_cast<std::size_t>(day.weekday() - 1));
+}
+
+}  // namespace
+
+std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
+  try {
+    SequentialReader draws(folder, inFolder(game, drawsFile));
+    return parseDay(drawOf(draws.record<drawFields>()).displayDate());
+  } catch (const std::exception&) {
+    return std::nullopt;  // What is wrong with the file is reported where it is read for its draws.
+  }
+}
+
+std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock) {
+  constexpr int daysOfWeek = 7;
+  const std::optional<Day> newest = newestDrawDay(game, folder);
+  if (!newest) return "There is no draw yet";
+  const Day drawn = lastDrawnDay(clock.date(), clock.time());
+  const Day next = drawDayAfter(game.game, *newest);
+  if (next > drawn) return join("Next draw: ", weekdayOf(next), ", ", displayDate(next));
+  if (drawDayAfter(game.game, next) <= drawn) {
+    return join("The draws since ", weekdayOf(next), ", ", displayDate(next), ", are not published yet");
+  }
+  const std::string date = drawn - next < daysOfWeek ? "" : join(" (", displayDate(next), ")");
+  return join(weekdayOf(next), "'s draw", date, " is not published yet");
+}
+
+}  // namespace tallywick

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What is known about a game's newest draw and the next one.
+#pragma once
+
+#include "core/day.h"
+#include "core/games.h"
+
+#include <optional>
+#include <string>
+
+namespace tallywick {
+
+class Clock;
+class DataFolder;
+
+/// The date of the newest draw; none where there is no draw, or none that can be read.
+std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder);
+
+/// A sentence for the player: which draw is not published yet, or when the next one takes place.
+std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock);
+
+}  // namespace tallywick

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Updates as the windows run them: nothing that a portal does ends the program.
+#include "app/application.h"
+#include "app/draws_note.h"
+#include "app/game_pages.h"
+#include "core/text.h"
+#include "update/maintenance.h"
+#include "update/public_exports.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace tallywick {
+
+namespace {
+
+/// The controls that an update hides and disables, as they were before it.
+class UpdateControls {
+ public:
+  explicit UpdateControls(MainForm& form)
+      : form_(form),
+        powerBallEnabled_(form.menu.mnuPowerBall2.enabled()),
+        megaMillionsEnabled_(form.menu.mnuMegaMillions2.enabled()) {}
+
+  /// Lets the user update again after a failure.
+  void restore() const {
+    form_.menu.mnuPowerBall2.setEnabled(powerBallEnabled_);
+    form_.menu.mnuMegaMillions2.setEnabled(megaMillionsEnabled_);
+    form_.update.ProgressBar1.hide();
+    form_.update.Command2.show();
+    form_.update.StatusBar1.setPanel(1, "");
+  }
+
+ private:
+  MainForm& form_;
+  bool powerBallEnabled_;
+  bool megaMillionsEnabled_;
+};
+
+}  // namespace
+
+void Application::updateInWindow(Control& control) {
+  const bool isBoth = &control == &main_->update.Command2;
+  if (!fetchesFirst() || (isBoth && updatesAreClosed(surroundings_.clock))) {
+    click(control);
+    return;
+  }
+  std::vector<const GameInfo*> games = {&powerBall, &megaMillions};
+  if (&control == &main_->menu.mnuPowerBall2) games = {&powerBall};
+  if (&control == &main_->menu.mnuMegaMillions2) games = {&megaMillions};
+  fetchThenUpdate(games, [&control] { click(control); });
+}
+
+void Application::updateAgain() {
+  const auto update = [this] { main_->update.Command2.onClick(); };
+  if (!fetchesFirst() || updatesAreClosed(surroundings_.clock)) return update();
+  fetchThenUpdate({&powerBall, &megaMillions}, update);
+}
+
+bool Application::fetchesFirst() const {
+  return surroundings_.settings.source == Settings::Source::publicExports && !surroundings_.newTransfer;
+}
+
+void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
+                                  const std::function<void()>& update) {
+  const DataFolder& folder = surroundings_.folder;
+  recover();
+  showRecoveryNotices();
+  FetchedExports exports(folder, surroundings_.clock, &surroundings_.platform, games.size());
+  if (!hasFetched(exports, games)) return;
+  const UpdateControls controls(*main_);
+  try {
+    const auto hasMoves = [&folder](const GameInfo* game) { return hasDrawnPlays(*game, folder); };
+    if (!exports.bringDraws() && std::ranges::none_of(games, hasMoves)) {
+      exports.merge();
+      showNothingNew(games);
+      return;
+    }
+    fetched_ = &exports;
+    update();
+    fetched_ = nullptr;
+  } catch (const std::exception& error) {
+    fetched_ = nullptr;
+    controls.restore();
+    showMessage(
+        surroundings_.platform,
+        join("The update could not be completed.\n\n", error.what(),
+             "\n\nA game is updated as a whole or not at all; no play is lost. You can update again."),
+        MessageBox::Icon::exclamation);
+  }
+  showGameAnew();
+}
+
+bool Application::hasFetched(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
+  StatusBar& status = main_->update.StatusBar1;
+  const GameInfo* asked = games.front();
+  try {
+    for (const GameInfo* game : games) {
+      asked = game;
+      status.setPanel(1, join("Fetching the draws of ", game->name));
+      exports.fetch(game->game, serverOf(game->game));
+    }
+    status.setPanel(1, "");
+    return true;
+  } catch (const TransferCancelled&) {
+    status.setPanel(1, "The update was cancelled; nothing was changed");
+  } catch (const std::exception& error) {
+    status.setPanel(1, "");
+    showMessage(
+        surroundings_.platform,
+        join("The draws of ", asked->name, " could not be fetched. Nothing was changed.\n\n", error.what()),
+        MessageBox::Icon::exclamation);
+  }
+  return false;
+}
+
+void Application::showNothingNew(const std::vector<const GameInfo*>& games) {
+  std::string text = "There is no new draw. Nothing was changed.\n";
+  for (const GameInfo* game : games) {
+    text += join("\n", game->name, ": ", drawsNote(*game, surroundings_.folder, surroundings_.clock), ".");
+  }
+  showMessage(surroundings_.platform, std::move(text), MessageBox::Icon::information);
+}
+
+void Application::showGameAnew() {
+  try {
+    fillGameOnShow(*main_, surroundings_.folder);
+  } catch (const std::exception& error) {
+    showMessage(surroundings_.platform, join("The draws could not be shown anew.\n\n", error.what()),
+                MessageBox::Icon::exclamation);
+  }
+}
+
+std::string Application::noteOfUpdate() const {
+  if (main_ == nullptr || !fetchesFirst()) return "";
+  const UpdatePage& page = main_->update;
+  const GameInfo* const game = gameOnShow(main_->frames);
+  if (game == nullptr || page.Command2.visible() || main_->updateHiddenByGameSwitch ||
+      page.ProgressBar1.visible()) {
+    return "";
+  }
+  return drawsNote(*game, surroundings_.folder, surroundings_.clock);
+}
+
+}  // namespace tallywick
