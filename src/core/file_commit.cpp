@@ -20,7 +20,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Of a change that only replaces files: a line has the fingerprint of the file that is replaced and its
+/// name.
 constexpr std::string_view journalHead = "tallywick-journal 2\n";
+/// Of one that removes files too: these lines begin with a word more.
+constexpr std::string_view removingJournalHead = "tallywick-journal 3\n";
+constexpr std::string_view removalWord = "remove ";
 /// The first release's journals list names only.
 constexpr std::string_view firstJournalHead = "tallywick-journal 1\n";
 /// Closes a journal; no file has such a name.
@@ -34,8 +39,10 @@ constexpr std::string_view noFile = "- -";
 /// One file of a change.
 struct Replacement {
   std::string name;
-  /// The fingerprint of the file that is replaced; empty where the journal does not tell it.
+  /// The fingerprint of the file that goes; empty where the journal does not tell it.
   std::string replaces;
+  /// Nothing takes its place.
+  bool isRemoval = false;
 };
 
 std::mutex noticesMutex;
@@ -110,15 +117,22 @@ bool canBeStaged(std::string_view name) {
 }
 
 std::string journalOf(const std::vector<Replacement>& entries) {
-  std::string journal(journalHead);
-  for (const Replacement& entry : entries) journal.append(join(entry.replaces, " ", entry.name, "\n"));
+  const bool removes = std::ranges::any_of(entries, &Replacement::isRemoval);
+  std::string journal(removes ? removingJournalHead : journalHead);
+  for (const Replacement& entry : entries) {
+    journal.append(join(entry.isRemoval ? removalWord : "", entry.replaces, " ", entry.name, "\n"));
+  }
   return journal.append(journalEnd);
 }
 
 /// None where the line is not one that journalOf() writes.
-std::optional<Replacement> entryIn(std::string_view line, bool tellsContents) {
+std::optional<Replacement> entryIn(std::string_view line, std::string_view head) {
   Replacement entry;
-  if (tellsContents) {
+  if (head == removingJournalHead && line.starts_with(removalWord)) {
+    entry.isRemoval = true;
+    line.remove_prefix(removalWord.size());
+  }
+  if (head != firstJournalHead) {
     const std::size_t blank = line.find(' ', line.find(' ') + 1);
     if (blank == std::string_view::npos || !isFingerprint(line.substr(0, blank))) return std::nullopt;
     entry.replaces = line.substr(0, blank);
@@ -130,16 +144,16 @@ std::optional<Replacement> entryIn(std::string_view line, bool tellsContents) {
 
 /// None where the text is no journal of this program's: a whole one of plain names, each once.
 std::optional<std::vector<Replacement>> entriesIn(std::string_view journal) {
-  const bool tellsContents = journal.starts_with(journalHead);
-  if (!tellsContents && !journal.starts_with(firstJournalHead)) return std::nullopt;
-  journal.remove_prefix(journalHead.size());
+  const std::string_view head = journal.substr(0, journalHead.size());
+  if (head != journalHead && head != removingJournalHead && head != firstJournalHead) return std::nullopt;
+  journal.remove_prefix(head.size());
   if (!journal.ends_with(journalEnd)) return std::nullopt;
   journal.remove_suffix(journalEnd.size());
   std::vector<Replacement> entries;
   std::set<std::string> names;
   while (!journal.empty()) {
     const std::size_t end = journal.find('\n');
-    const std::optional<Replacement> entry = entryIn(journal.substr(0, end), tellsContents);
+    const std::optional<Replacement> entry = entryIn(journal.substr(0, end), head);
     if (end == std::string_view::npos || !entry || !names.insert(lowered(entry->name)).second) {
       return std::nullopt;
     }
@@ -157,9 +171,10 @@ std::optional<std::vector<Replacement>> readJournal(const fs::path& journal) {
   return entriesIn(os::readFile(journal).view());
 }
 
-/// Whether nothing is in the way of a staged file that is still to be taken over.
+/// Whether nothing is in the way of a file that is still to be taken over or removed.
 bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
-  const fs::file_type staged = typeOf(foundStaged(folder, entry.name));
+  const fs::file_type staged =
+      entry.isRemoval ? fs::file_type::regular : typeOf(foundStaged(folder, entry.name));
   if (staged == fs::file_type::not_found) return true;
   try {
     os::checkReplaceable(entryInAnyCase(folder, entry.name));
@@ -173,7 +188,7 @@ bool canBeTakenOver(const fs::path& folder, const Replacement& entry) {
 void keepChanged(const fs::path& folder, const Replacement& entry) {
   const fs::path staged = foundStaged(folder, entry.name);
   const fs::path file = entryInAnyCase(folder, entry.name);
-  if (entry.replaces.empty() || !isThere(staged)) return;
+  if (entry.replaces.empty() || (!entry.isRemoval && !isThere(staged))) return;
   const std::string found = fingerprintOf(file);
   if (found == noFile || found == entry.replaces || found == fingerprintOf(staged)) return;
   const std::string name = nameOf(file);
@@ -187,11 +202,17 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
               "\" had been changed meanwhile; what it contained is kept in \"", copy, "\"."));
 }
 
-/// Takes over the staged files that still exist. Doing it twice changes nothing: a staged name is used once.
+/// Takes over the staged files that still exist, and removes what is to go. Doing it twice changes nothing: a
+/// staged name is used once.
 void takeOver(const fs::path& folder, const std::vector<Replacement>& entries) {
   for (const Replacement& entry : entries) {
     const fs::path staged = foundStaged(folder, entry.name);
-    if (isThere(staged)) os::takeName(staged, entryInAnyCase(folder, entry.name));
+    const fs::path file = entryInAnyCase(folder, entry.name);
+    if (entry.isRemoval) {
+      os::removeDurably(file);
+    } else if (isThere(staged)) {
+      os::takeName(staged, file);
+    }
   }
 }
 
@@ -231,6 +252,12 @@ void setAside(const fs::path& folder, bool isReadable) {
               "\r\nwas begun and cannot be finished. The files stay as they are; what is left of the change "
               "is kept in",
               listed(names)));
+}
+
+void requireStageable(const fs::path& folder, std::string_view name) {
+  if (canBeStaged(name)) return;
+  throw RuntimeError(ErrorNumber::pathFileAccess,
+                     join(textOf(folder), ": \"", name, "\" is no plain file name"));
 }
 
 /// Finishes a change that was cut short after its journal was in place, and removes what an uncommitted one
@@ -289,12 +316,14 @@ FileCommit::~FileCommit() {
 }
 
 void FileCommit::stage(std::string_view name, std::string_view contents, os::Access access) {
-  if (!canBeStaged(name)) {
-    throw RuntimeError(ErrorNumber::pathFileAccess,
-                       join(textOf(folder_), ": \"", name, "\" is no plain file name"));
-  }
+  requireStageable(folder_, name);
   names_.emplace_back(name);
   os::writeDurably(stagedPath(folder_, name), contents, access);
+}
+
+void FileCommit::stageRemoval(std::string_view name) {
+  requireStageable(folder_, name);
+  removedNames_.emplace_back(name);
 }
 
 void FileCommit::commit() {
@@ -304,9 +333,15 @@ void FileCommit::commit() {
     if (typeOf(staged) != fs::file_type::regular) {
       throw RuntimeError(ErrorNumber::fileNotFound, textOf(staged));
     }
-    const fs::path file = entryInAnyCase(folder_, name);
+    entries.push_back({name, {}});
+  }
+  std::erase_if(removedNames_,
+                [&](const std::string& name) { return !isThere(entryInAnyCase(folder_, name)); });
+  for (const std::string& name : removedNames_) entries.push_back({name, {}, true});
+  for (Replacement& entry : entries) {
+    const fs::path file = entryInAnyCase(folder_, entry.name);
     os::checkReplaceable(file);
-    entries.push_back({name, fingerprintOf(file)});
+    entry.replaces = fingerprintOf(file);
   }
   try {
     // The journal may name only what a cut of the power leaves standing.
@@ -325,26 +360,32 @@ void FileCommit::commit() {
   }
 }
 
-/// While every staged file still exists, nothing has been taken over and the journal can go. It goes first:
-/// as long as it may exist, the staged files are needed.
+/// While every staged file and every file to be removed still exists, nothing has been changed and the
+/// journal can go. It goes first: as long as it may exist, the staged files are needed.
 void FileCommit::takeBack() noexcept {
-  std::error_code ignored;
-  const bool untouched = std::all_of(names_.begin(), names_.end(), [&](const std::string& name) {
-    return fs::exists(stagedPath(folder_, name), ignored);
-  });
   try {
-    if (untouched) os::removeDurably(folder_ / journalName);
+    const bool untouched =
+        std::ranges::all_of(names_,
+                            [&](const std::string& name) { return isThere(stagedPath(folder_, name)); }) &&
+        std::ranges::all_of(removedNames_,
+                            [&](const std::string& name) { return isThere(entryInAnyCase(folder_, name)); });
+    if (untouched) {
+      os::removeDurably(folder_ / journalName);
+    } else {
+      names_.clear();
+    }
   } catch (const std::exception&) {
     names_.clear();
   }
-  if (!untouched) names_.clear();
+}
+
+bool isAtRest(const fs::path& folder) {
+  return !isThere(folder) ||
+         (workFiles(folder).empty() && !isThere(folder / journalName) && !isThere(folder / lockName));
 }
 
 void recoverFolder(const fs::path& folder) {
-  if (!isThere(folder)) return;
-  const bool isTidy =
-      workFiles(folder).empty() && !isThere(folder / journalName) && !isThere(folder / lockName);
-  if (isTidy) return;
+  if (isAtRest(folder)) return;
   // Who holds the lock is at work now and finishes what it finds; nobody has to wait for that.
   const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);
   finishCommit(folder);

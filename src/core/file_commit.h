@@ -59,8 +59,13 @@ class FileCommit {
   /// where it is no plain name.
   void stage(std::string_view name, std::string_view contents, os::Access access = os::Access::usual);
 
-  /// Takes over the staged files in the order in which they were staged. Where it fails, everything is as
-  /// before or, once a name has been taken over, finished by the next one who takes the folder's lock.
+  /// Makes the removal of the file `name`, whatever the letter case of its name, a part of the change. A
+  /// missing file is no error.
+  void stageRemoval(std::string_view name);
+
+  /// Takes over the staged files in the order in which they were staged, then removes. Where it fails,
+  /// everything is as before or, once a name has been taken over, finished by the next one who takes the
+  /// folder's lock.
   void commit();
 
  private:
@@ -69,7 +74,11 @@ class FileCommit {
   std::filesystem::path folder_;
   os::FileLock lock_;
   std::vector<std::string> names_;
+  std::vector<std::string> removedNames_;
 };
+
+/// Whether nobody is at work in the folder and nothing in it is to be finished.
+bool isAtRest(const std::filesystem::path& folder);
 
 /// Finishes what was cut short. Where there is nothing to finish it takes no lock, so that a folder that
 /// cannot be written is no error. Raises LockedByAnother at once where somebody is at work in the folder.

@@ -112,6 +112,9 @@ bool canRun(const std::filesystem::path& program);
 void startProgram(const std::filesystem::path& program, const std::filesystem::path& argument,
                   const std::filesystem::path& workingFolder);
 
+/// Whether standard error is a terminal, where somebody reads it.
+bool isTerminalBehindErrors();
+
 /// From now on a write beyond the file size that this process is allowed is error 61. It ends the process
 /// otherwise. Each program calls it first.
 void reportSizeLimit();

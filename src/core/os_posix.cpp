@@ -314,6 +314,10 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   if (error != 0) failToStart(program, error);
 }
 
+bool isTerminalBehindErrors() {
+  return ::isatty(STDERR_FILENO) == 1;
+}
+
 void reportSizeLimit() {
   std::signal(SIGXFSZ, SIG_IGN);
 }

@@ -270,6 +270,11 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
 }
 
 // There is no such limit here.
+bool isTerminalBehindErrors() {
+  DWORD mode = 0;
+  return ::GetConsoleMode(::GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
+}
+
 void reportSizeLimit() {}
 
 std::string registryValue(std::string_view key, std::string_view value) {

@@ -17,17 +17,23 @@ GameFiles readGameFiles(const GameInfo& game, const fs::path& folder) {
     if (!fs::exists(file)) return std::string();
     return std::string(os::readFile(file).view());
   };
-  GameFiles files{
-      textOf(drawsFile), textOf(searchDrawsFile), {}, textOf(game.winningsFile), textOf(typedDrawsName)};
+  GameFiles files;
+  files.draws = textOf(drawsFile);
+  files.searchDraws = textOf(searchDrawsFile);
   if (game.game == Game::powerBall) files.doublePlay = textOf(doublePlayFile);
+  files.amounts = textOf(game.winningsFile);
+  files.typed = textOf(typedDrawsName);
+  files.exportNote = textOf(exportNoteName);
   return files;
 }
 
 std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before, GameFiles now) {
   std::vector<NewFile> changed;
   const auto add = [&](std::string_view name, const std::string& old, std::string& text) {
-    if (text != old) changed.push_back({name, std::move(text)});
+    const bool isRemoval = text.empty() && isOwnName(name);
+    if (text != old) changed.push_back({name, std::move(text), isRemoval});
   };
+  add(exportNoteName, before.exportNote, now.exportNote);
   add(typedDrawsName, before.typed, now.typed);
   add(game.winningsFile, before.amounts, now.amounts);
   if (game.game == Game::powerBall) add(doublePlayFile, before.doublePlay, now.doublePlay);
@@ -38,6 +44,7 @@ std::vector<NewFile> changedFiles(const GameInfo& game, const GameFiles& before,
 
 GameFiles withChanges(const GameInfo& game, GameFiles files, const std::vector<NewFile>& changed) {
   for (const NewFile& file : changed) {
+    if (file.name == exportNoteName) files.exportNote = file.contents;
     if (file.name == typedDrawsName) files.typed = file.contents;
     if (file.name == game.winningsFile) files.amounts = file.contents;
     if (file.name == doublePlayFile) files.doublePlay = file.contents;

@@ -51,9 +51,10 @@ bool isMadeUp(const DataFolder& folder, Game game) {
          notesOf(folder).find(claimOf(game)) != std::string::npos;
 }
 
-void removeMadeUpMark(const DataFolder& folder, Game game) {
+void stageMarkRemoval(const DataFolder& folder, Game game, FileCommit& change) {
+  if (!isMadeUp(folder, game)) return;
   turnClaimsIntoMarks(folder);
-  os::removeDurably(folder.resolve(inFolder(infoOf(game), madeUpMark)));
+  change.stageRemoval(madeUpMark);
 }
 
 }  // namespace tallywick::exports

@@ -9,7 +9,8 @@
 
 namespace tallywick {
 class DataFolder;
-}
+class FileCommit;
+}  // namespace tallywick
 
 namespace tallywick::exports {
 
@@ -23,9 +24,9 @@ inline constexpr std::string_view notesFile = "README.txt";
 /// games.
 bool isMadeUp(const DataFolder& folder, Game game);
 
-/// Takes the mark away, when real draws have come. In a folder of the first release the other game gets its
-/// mark first, if it needs one, and the README's claim goes. Not in the middle of a change of the data folder
-/// itself.
-void removeMadeUpMark(const DataFolder& folder, Game game);
+/// Makes the removal of the game's mark a part of `change` in the game's folder, when real draws come. In a
+/// folder of the first release both games that need one get their mark first, and the README's claims go:
+/// that changes nothing of what is made up.
+void stageMarkRemoval(const DataFolder& folder, Game game, FileCommit& change);
 
 }  // namespace tallywick::exports

@@ -220,7 +220,7 @@ Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vecto
   const RecordList before = main;
   mergeHistory(main, byDay);
   mergeHistory(search, byDay);
-  GameFiles now{main.text(), search.text(), {}, {}, {}};
+  GameFiles now{main.text(), search.text(), {}, {}, {}, files.exportNote};
   if (game == Game::powerBall) {
     RecordList doublePlay(base.doublePlay, doublePlayFields);
     mergeDoublePlay(doublePlay, byDay, main);

@@ -15,6 +15,8 @@ namespace tallywick::exports {
 
 /// What a merge found and did.
 struct MergeReport {
+  /// Whether a file changes.
+  bool changesFiles = false;
   /// How many draws and amounts were given to it.
   std::size_t draws = 0;
   std::size_t amounts = 0;

@@ -14,6 +14,7 @@
 #include "setup/records.h"
 #include "setup/sample.h"
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <vector>
@@ -23,6 +24,9 @@ namespace tallywick::setup {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// Has a folder for each game and one for the pictures.
+constexpr std::string_view numbersFolder = "QzrNumbers";
 
 bool isThere(const fs::path& entry) {
   std::error_code ignored;
@@ -88,12 +92,12 @@ void writePictures(const fs::path& root) {
   files.commit();
 }
 
-void writeRoot(const fs::path& root) {
+void writeRoot(const fs::path& root, const Settings& settings) {
   FolderFiles files(root, "");
   files.add(calendarFile, calendarText(dayOf(2002, 1, 1), dayOf(2050, 12, 31)));
   files.add(loginFile, "\"tallywick\"\r\n", os::Access::ownerOnly);
   files.add(passwordFile, "\"change-me\"\r\n", os::Access::ownerOnly);
-  files.add(settingsFile, settingsText({}));
+  files.add(settingsFile, settingsText(settings));
   files.add(exports::notesFile, folderNotes());
   files.commit();
 }
@@ -120,6 +124,46 @@ void requireRoomFor(const fs::path& root, std::string_view written) {
   const fs::path numbers = entryInAnyCase(root, outer);
   requireFolder(numbers);
   requireFolder(entryInAnyCase(numbers, inner.substr(0, inner.size() - 1)));
+}
+
+/// Calls `write` with a work folder in `root`, whose QzrNumbers then becomes that of `root` in one step.
+void writeAside(const fs::path& root, const std::function<void(const fs::path& work)>& write) {
+  const os::FileLock lock(root / lockName, os::FileLock::Wait::no);
+  const fs::path work = root / pathOf(join(numbersFolder, stagedSuffix));
+  fs::remove_all(work);
+  fs::create_directory(work);
+  try {
+    write(work);
+    os::syncFolder(work / numbersFolder);
+    fs::rename(work / numbersFolder, root / numbersFolder);
+  } catch (...) {
+    std::error_code ignored;
+    fs::remove_all(work, ignored);
+    throw;
+  }
+  os::syncFolder(root);
+  fs::remove_all(work);
+}
+
+/// Makes a data folder whose games are written by `writeGames`.
+void makeBook(const fs::path& folder, const Settings& settings,
+              const std::function<void(const fs::path& root)>& writeGames) {
+  requireGameFolders(folder);
+  requireRoomFor(folder, pictureFolder);
+  if (holdsRecords(folder)) {
+    throw std::runtime_error(folder.string() + " already contains draws or plays; nothing was changed");
+  }
+  fs::create_directories(folder);
+  writeRoot(folder, settings);
+  const auto write = [&](const fs::path& root) {
+    writePictures(root);
+    writeGames(root);
+  };
+  if (isThere(entryInAnyCase(folder, numbersFolder))) {
+    write(folder);
+  } else {
+    writeAside(folder, write);
+  }
 }
 
 bool isRecordFile(std::string_view name, const GameInfo& game) {
@@ -161,21 +205,31 @@ void requireGameFolders(const fs::path& root) {
   for (const GameInfo* game : {&powerBall, &megaMillions}) requireRoomFor(root, game->folder);
 }
 
-void writeFolder(const fs::path& folder, const FolderContents& contents) {
-  requireGameFolders(folder);
-  requireRoomFor(folder, pictureFolder);
-  if (holdsRecords(folder)) {
-    throw std::runtime_error(folder.string() + " already contains draws or plays; nothing was changed");
+void writeFolder(const fs::path& folder, const FolderContents& contents, const Settings& settings) {
+  makeBook(folder, settings, [&](const fs::path& root) {
+    for (const FolderContents::Part& part : contents.games) {
+      FolderFiles files(root, infoOf(part.game).folder);
+      stageDraws(files, part);
+      addPlays(files, part);
+      files.commit();
+    }
+  });
+}
+
+std::vector<ExportAddress> exportAddresses(const Settings& settings) {
+  return {{Game::powerBall, settings.powerBallDraws}, {Game::megaMillions, settings.megaMillionsDraws}};
+}
+
+std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& clock,
+                                         const Settings& settings, const FetchSettings& limits,
+                                         TransferWatch* watch) {
+  requireGameFolders(folder.root());
+  FetchedDraws draws(folder, clock, exportAddresses(settings), limits, watch);
+  draws.tryInNewFolder();
+  if (draws.isComplete()) {
+    makeBook(folder.root(), settings, [&](const fs::path& root) { draws.takeInto(DataFolder(root)); });
   }
-  fs::create_directories(folder);
-  writePictures(folder);
-  writeRoot(folder);
-  for (const FolderContents::Part& part : contents.games) {
-    FolderFiles files(folder, infoOf(part.game).folder);
-    stageDraws(files, part);
-    addPlays(files, part);
-    files.commit();
-  }
+  return draws.results();
 }
 
 void replaceDraws(const fs::path& folder, const FolderContents::Part& part) {

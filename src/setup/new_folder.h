@@ -3,13 +3,16 @@
 #pragma once
 
 #include "core/games.h"
+#include "settings/settings.h"
 #include "setup/book.h"
+#include "update/public_exports.h"
 
 #include <array>
 #include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallywick::setup {
 
@@ -34,9 +37,21 @@ bool holdsRecords(const std::filesystem::path& folder);
 /// so that writing there would change what is not this data folder's.
 void requireGameFolders(const std::filesystem::path& root);
 
-/// Makes a whole data folder. Every file that exists already stays. std::runtime_error where the folder
-/// contains records, or where a file or a link has the name of one of its folders; then nothing is written.
-void writeFolder(const std::filesystem::path& folder, const FolderContents& contents);
+/// Makes a whole data folder; where there is no folder QzrNumbers yet, it appears with all that is in it or
+/// not at all. Every file that exists already stays. std::runtime_error where the folder contains records, or
+/// where a file or a link has the name of one of its folders; then nothing is written.
+void writeFolder(const std::filesystem::path& folder, const FolderContents& contents,
+                 const Settings& settings = {});
+
+/// Where the settings say that both games' exports are.
+std::vector<ExportAddress> exportAddresses(const Settings& settings);
+
+/// Fetches both games' exports by the addresses of `settings`, and makes a whole data folder with these
+/// draws, these settings and without plays. Where one of the two fails nothing is made, and the answer says
+/// why. std::runtime_error and RuntimeError where the folder cannot be made, TransferCancelled.
+std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& clock,
+                                         const Settings& settings = {}, const FetchSettings& limits = {},
+                                         TransferWatch* watch = nullptr);
 
 /// Replaces the draws and amounts of one game as a whole, marks it where they are made up, and leaves
 /// everything else alone.

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // tallywick-setup: makes a data folder or an update server's tree.
+#include "core/os.h"
 #include "core/program_run.h"
 #include "setup/setup_program.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
-  return tallywick::runToItsEnd("tallywick-setup",
-                                [&] { return tallywick::setup::runSetup(argc, argv, std::cout, std::cerr); });
+  return tallywick::runToItsEnd("tallywick-setup", [&] {
+    return tallywick::setup::runSetup(argc, argv,
+                                      {std::cout, std::cerr, tallywick::os::isTerminalBehindErrors()});
+  });
 }

@@ -8,18 +8,24 @@
 #include "core/text.h"
 #include "exports/folder_merge.h"
 #include "exports/import_report.h"
+#include "exports/typed_draws.h"
+#include "settings/settings.h"
 #include "setup/backup.h"
 #include "setup/new_folder.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
+#include "update/public_exports.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tallywick::setup {
@@ -46,6 +52,16 @@ struct Options {
   bool backsUp = false;
   std::string backup;
   std::string restoredFrom;
+  bool fetches = false;
+  /// Addresses in the place of the settings'; empty for these.
+  std::string powerBallSource;
+  std::string megaMillionsSource;
+  /// Game, date, white balls and extra ball.
+  std::vector<std::string> addedDraw;
+  exports::TypedDraw typed;
+  bool replacesDraw = false;
+  /// Game and date.
+  std::vector<std::string> removedDraw;
 };
 
 void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
@@ -54,6 +70,49 @@ void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
   app.add_option(name + "-amounts", files.amounts, "Their amounts: draw date, amount, mark count")
       ->type_name("CSV")
       ->needs(draws);
+}
+
+/// Raises a CLI::ValidationError for any other name.
+Game gameNamed(const std::string& option, const std::string& name) {
+  if (equalIgnoringCase(name, "powerball")) return Game::powerBall;
+  if (equalIgnoringCase(name, "mega-millions")) return Game::megaMillions;
+  throw CLI::ValidationError(option, join("\"", name, "\" is no game; it can be powerball or mega-millions"));
+}
+
+/// What brings real draws into DIR, one of them at a time.
+void describeDraws(CLI::App& app, CLI::Option* folder, Options& options) {
+  CLI::Option* fetch =
+      app.add_flag("--fetch", options.fetches,
+                   "Fetch both games' draws from the public exports; DIR is made where there is none");
+  for (const auto& [name, address] : {std::pair("--source-powerball", &options.powerBallSource),
+                                      std::pair("--source-mega-millions", &options.megaMillionsSource)}) {
+    app.add_option(name, *address, "Its address instead of the settings'")
+        ->type_name("ADDRESS")
+        ->needs(fetch);
+  }
+  CLI::Option* add = app.add_option("--add-draw", options.addedDraw,
+                                    "Type in a draw, for example: powerball 11-18-2026 \"5 14 23 41 60\" 7");
+  add->type_name("GAME DATE NUMBERS EXTRA")->expected(4);
+  const auto addPart = [&](const char* name, std::string& text, const char* type, const char* what) {
+    app.add_option(name, text, what)->type_name(type)->needs(add);
+  };
+  addPart("--multiplier", options.typed.multiplier, "NUMBER", "The draw's multiplier");
+  addPart("--double-play", options.typed.doublePlay, "NUMBERS",
+          "Its Double Play: five white balls and the extra ball");
+  addPart("--amount", options.typed.amount, "AMOUNT", "Its amount, as it is to be shown");
+  addPart("--marks", options.typed.marks, "COUNT", "How many tickets won the amount");
+  app.add_flag("--replace", options.replacesDraw, "Replace numbers or an amount that DIR has for the draw")
+      ->needs(add);
+  CLI::Option* remove = app.add_option("--remove-draw", options.removedDraw,
+                                       "Remove a draw that was typed in and that no export has");
+  remove->type_name("GAME DATE")->expected(2);
+  for (CLI::Option* action : {fetch, add, remove}) {
+    action->needs(folder);
+    for (const char* other : {"--fetch", "--add-draw", "--remove-draw", "--powerball", "--mega-millions",
+                              "--force-draws", "--backup", "--restore"}) {
+      if (action->get_name() != other) action->excludes(app.get_option(other));
+    }
+  }
 }
 
 void describe(CLI::App& app, Options& options) {
@@ -80,6 +139,7 @@ void describe(CLI::App& app, Options& options) {
                                          "Make DIR what a backup contains; what DIR was stays beside it");
   backup->type_name("[FILE]")->expected(0, 1)->needs(folder);
   restored->type_name("FILE")->needs(folder)->excludes(backup);
+  describeDraws(app, folder, options);
   app.final_callback([folder, tree, from, backup, &options] {
     options.backsUp = backup->count() > 0;
     if (folder->empty() && tree->empty()) throw CLI::RequiredError("DIR or --publish");
@@ -88,6 +148,8 @@ void describe(CLI::App& app, Options& options) {
         throw CLI::ValidationError(option->get_name(), "the name is empty");
       }
     }
+    if (!options.addedDraw.empty()) gameNamed("--add-draw", options.addedDraw.front());
+    if (!options.removedDraw.empty()) gameNamed("--remove-draw", options.removedDraw.front());
   });
 }
 
@@ -212,32 +274,140 @@ void restoreFolder(const Options& options, std::ostream& out) {
   if (!restored.earlier.empty()) out << "What was there before is in " << restored.earlier.string() << "\n";
 }
 
-void runOptions(const Options& options, std::ostream& out) {
-  if (!options.tree.empty()) return publish(options.tree, options.from, out);
-  if (!options.restoredFrom.empty()) return restoreFolder(options, out);
-  if (options.backsUp) return backUpFolder(options, out);
-  makeFolder(options, out);
+/// Writes how far a fetch is into one line of a terminal, which goes when the fetch ends.
+class ProgressLine : public TransferWatch {
+ public:
+  explicit ProgressLine(std::ostream& terminal) : terminal_(terminal) {}
+  ~ProgressLine() override {
+    if (!text_.empty()) terminal_ << "\r" << std::string(text_.size(), ' ') << "\r" << std::flush;
+  }
+  ProgressLine(const ProgressLine&) = delete;
+  ProgressLine& operator=(const ProgressLine&) = delete;
+
+  void progress(const TransferProgress& soFar) override {
+    std::string text = join("Fetching export ", std::to_string(soFar.files + 1), " of ",
+                            std::to_string(soFar.filesInAll), ": ", std::to_string(soFar.bytes), " bytes");
+    if (text == text_) return;
+    // What was longer before is painted over.
+    terminal_ << "\r" << text << std::string(text_.size() - std::min(text_.size(), text.size()), ' ')
+              << std::flush;
+    text_ = std::move(text);
+  }
+  bool cancelled() override { return false; }
+
+ private:
+  std::ostream& terminal_;
+  std::string text_;
+};
+
+/// The settings of the folder, with the addresses that were asked for.
+Settings fetchSettings(const Options& options) {
+  Settings settings = readSettings(DataFolder(options.folder));
+  if (!options.powerBallSource.empty()) settings.powerBallDraws = options.powerBallSource;
+  if (!options.megaMillionsSource.empty()) settings.megaMillionsDraws = options.megaMillionsSource;
+  return settings;
+}
+
+/// False where a game's draws did not come. A new folder is made only where both games' have.
+bool fetch(const Options& options, const Outputs& outputs) {
+  requireGameFolders(options.folder);
+  const DataFolder folder(options.folder);
+  const Settings settings = fetchSettings(options);
+  const Now now(options);
+  const StandingClock clock(now.date, now.time);
+  std::optional<ProgressLine> line;
+  if (outputs.isTerminal) line.emplace(outputs.errors);
+  TransferWatch* const watch = line ? &*line : nullptr;
+  const std::vector<GameFetch> fetches = holdsRecords(options.folder)
+                                             ? fetchDraws(folder, clock, exportAddresses(settings), {}, watch)
+                                             : makeFetchedFolder(folder, clock, settings, {}, watch);
+  line.reset();
+  for (const GameFetch& one : fetches) {
+    const std::string_view game = infoOf(one.game).name;
+    if (!one.error.empty()) {
+      outputs.errors << "tallywick-setup: " << game << ": " << one.error << "\n";
+    } else if (one.isUnchanged) {
+      outputs.out << game << ": nothing new at " << one.address << "\n";
+    } else {
+      outputs.out << game << ": " << one.report.draws << " draws fetched from " << one.address << "\n";
+      exports::print(one.report, one.game, outputs.out);
+    }
+  }
+  return std::ranges::all_of(fetches, &std::string::empty, &GameFetch::error);
+}
+
+void addDraw(const Options& options, std::ostream& out) {
+  requireGameFolders(options.folder);
+  exports::TypedDraw typed = options.typed;
+  const Game game = gameNamed("--add-draw", options.addedDraw[0]);
+  typed.date = options.addedDraw[1];
+  typed.numbers = options.addedDraw[2];
+  typed.extra = options.addedDraw[3];
+  const exports::CheckedDraw draw = exports::checkedDraw(game, typed, Now(options).today());
+  const auto known = options.replacesDraw ? exports::KnownDraw::isReplaced : exports::KnownDraw::stays;
+  exports::MergeReport report;
+  try {
+    report = exports::addDraw(DataFolder(options.folder), game, draw, known);
+  } catch (const exports::DrawIsKnown& error) {
+    throw std::runtime_error(join(error.what(), "; nothing was changed. --replace replaces what is known"));
+  }
+  out << infoOf(game).name << ": the draw of " << displayDate(draw.draw.day)
+      << (!report.changesFiles  ? " is known already; nothing was changed"
+          : report.newDraws > 0 ? " was added"
+                                : " was changed")
+      << "\n";
+}
+
+void removeDraw(const Options& options, std::ostream& out) {
+  requireGameFolders(options.folder);
+  const Game game = gameNamed("--remove-draw", options.removedDraw[0]);
+  const std::optional<Day> day = parseDay(options.removedDraw[1]);
+  if (!day) throw std::runtime_error(join("\"", options.removedDraw[1], "\" is no date (MM-DD-YYYY)"));
+  exports::removeDraw(DataFolder(options.folder), game, *day);
+  out << infoOf(game).name << ": the draw of " << displayDate(*day) << " was removed\n";
+}
+
+/// False where something failed that has been reported.
+bool runOptions(const Options& options, const Outputs& outputs) {
+  if (options.fetches) return fetch(options, outputs);
+  std::ostream& out = outputs.out;
+  if (!options.tree.empty()) {
+    publish(options.tree, options.from, out);
+  } else if (!options.restoredFrom.empty()) {
+    restoreFolder(options, out);
+  } else if (options.backsUp) {
+    backUpFolder(options, out);
+  } else if (!options.addedDraw.empty()) {
+    addDraw(options, out);
+  } else if (!options.removedDraw.empty()) {
+    removeDraw(options, out);
+  } else {
+    makeFolder(options, out);
+  }
+  return true;
 }
 
 }  // namespace
 
-int runSetup(int argc, const char* const* argv, std::ostream& out, std::ostream& errors) {
+int runSetup(int argc, const char* const* argv, const Outputs& outputs) {
   Options options;
   CLI::App app("Makes a data folder for Tallywick, or an update server's folder tree.", "tallywick-setup");
   describe(app, options);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error, out, errors) == 0 ? 0 : 2;
+    return app.exit(error, outputs.out, outputs.errors) == 0 ? 0 : 2;
   }
+  int exitCode = 1;
   try {
-    runOptions(options, out);
-    for (const std::string& notice : takeRecoveryNotices()) errors << "tallywick-setup: " << notice << "\n";
-    return 0;
+    if (runOptions(options, outputs)) exitCode = 0;
+    for (const std::string& notice : takeRecoveryNotices()) {
+      outputs.errors << "tallywick-setup: " << notice << "\n";
+    }
   } catch (const std::exception& error) {
-    errors << "tallywick-setup: " << error.what() << "\n";
-    return 1;
+    outputs.errors << "tallywick-setup: " << error.what() << "\n";
   }
+  return exitCode;
 }
 
 }  // namespace tallywick::setup

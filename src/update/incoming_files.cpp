@@ -50,12 +50,12 @@ namespace {
 
 /// Takes the mark of made-up draws away where a draw history has come without such a mark of its own.
 /// `names` are in small letters.
-void removeMarkOf(const std::set<std::string>& names, const DataFolder& book, const fs::path& folder) {
+void stageMarkRemoval(const std::set<std::string>& names, const DataFolder& book, FileCommit& change) {
   const bool broughtDraws = names.contains(lowered(drawsFile)) || names.contains(lowered(searchDrawsFile));
   if (!broughtDraws || names.contains(lowered(exports::madeUpMark))) return;
   for (const GameInfo* game : {&powerBall, &megaMillions}) {
-    const bool isItsFolder = book.resolve(game->folder) == folder;
-    if (isItsFolder && exports::isMadeUp(book, game->game)) exports::removeMadeUpMark(book, game->game);
+    const bool isItsFolder = book.resolve(game->folder) == change.folder();
+    if (isItsFolder) exports::stageMarkRemoval(book, game->game, change);
   }
 }
 
@@ -78,9 +78,9 @@ void takeIn(const std::vector<IncomingFile>& files, const DataFolder& book, cons
     if (isKept) copies.emplace_back(file.name, stageDatedCopy(change, file.name, clock, taken));
     change.stage(file.name, file.contents);
   }
+  // The next import would otherwise replace the draws as made-up ones.
+  stageMarkRemoval(taken, book, change);
   change.commit();
-  // Under the change's lock. The next import would otherwise replace the draws as made-up ones.
-  removeMarkOf(taken, book, folder);
   for (const auto& [name, copy] : copies) pruneDatedCopies(folder, name, copy);
 }
 

@@ -56,12 +56,6 @@ std::string textOf(const ExportNote& note) {
               note.validators.lastModified, "\n");
 }
 
-/// Empty where there is none.
-std::string noteText(const fs::path& folder) {
-  const fs::path file = entryInAnyCase(folder, exportNoteName);
-  return fs::exists(file) ? std::string(os::readFile(file).view()) : std::string();
-}
-
 /// None of them where the note is good for another address or other files, or where it is damaged.
 Validators validatorsIn(std::string_view note, const std::string& address, const std::string& files) {
   const std::string head = join(noteHead, "\n", address, "\n", files, "\n");
@@ -109,45 +103,19 @@ class Onlookers : public TransferWatch {
   std::string subject_;
 };
 
-/// Adds what was fetched before to what one fetch reports.
-class CountingWatch : public TransferWatch {
- public:
-  CountingWatch(TransferWatch* watch, const TransferProgress& before) : watch_(watch), before_(before) {}
-
-  void progress(const TransferProgress& soFar) override {
-    bytes_ = soFar.bytes;
-    if (watch_ == nullptr) return;
-    watch_->progress({before_.bytes + bytes_, before_.files, before_.filesInAll});
-  }
-  bool cancelled() override { return watch_ != nullptr && watch_->cancelled(); }
-  std::uint64_t bytes() const { return bytes_; }
-
- private:
-  TransferWatch* watch_;
-  TransferProgress before_;
-  std::uint64_t bytes_ = 0;
-};
-
-/// Gets a game's export: what is at the address, or the word that it is still what `known` names.
-using ExportFetch =
-    std::function<FetchedDocument(Game game, const std::string& address, const Validators& known,
-                                  const FetchSettings& settings, TransferWatch& watch)>;
-
-FetchedDocument fetchFromNet(Game /*game*/, const std::string& address, const Validators& known,
-                             const FetchSettings& settings, TransferWatch& watch) {
-  return fetchDocument(address, known, settings, &watch);
-}
-
 class PublicExports : public TransferComponent {
  public:
-  PublicExports(const DataFolder& folder, const Clock& clock, FetchSettings settings, TransferWatch* watch,
-                TransferWindow* window, ExportFetch fetch = fetchFromNet)
+  /// How the export of a game is come by.
+  using Getting = std::function<FetchedExport(Game game, const std::string& address,
+                                              const FetchSettings& settings, TransferWatch& watch)>;
+
+  PublicExports(const DataFolder& folder, Getting get, FetchSettings settings, TransferWatch* watch,
+                TransferWindow* window)
       : folder_(folder),
-        clock_(clock),
+        get_(std::move(get)),
         settings_(std::move(settings)),
         watch_(watch),
-        window_(window),
-        fetch_(std::move(fetch)) {}
+        window_(window) {}
 
   void prepare() override {
     address_.clear();
@@ -172,27 +140,19 @@ class PublicExports : public TransferComponent {
   bool directoryExists(std::string_view serverFolder) override { return gameOf(serverFolder).has_value(); }
   void createDirectory(std::string_view) override { refuseToSend(); }
 
-  /// The merge of a game's export, not yet made; null where the export is what it was.
-  std::unique_ptr<exports::FolderMerge> mergeOf(const GameInfo& game);
-
  private:
   [[noreturn]] static void refuseToSend() {
     throw transferError(TransferFault::protocol, "nothing can be sent to the public exports");
   }
-  Validators known(const GameInfo& game, const fs::path& local) const;
-  exports::Merge merged(const GameInfo& game, const FetchedDocument& document,
-                        const exports::ExportedDraws& draws, const exports::GameFiles& files,
-                        exports::Standing standing) const;
   void tell(std::string_view status) const {
     if (listener_ != nullptr) listener_->status(status);
   }
 
   const DataFolder& folder_;
-  const Clock& clock_;
+  Getting get_;
   FetchSettings settings_;
   TransferWatch* watch_;
   TransferWindow* window_;
-  ExportFetch fetch_;
   TransferListener* listener_ = nullptr;
   std::string address_;
   bool windowWanted_ = false;
@@ -211,49 +171,56 @@ void PublicExports::download(std::string_view serverFolder, std::string_view /*w
     throw RuntimeError(ErrorNumber::pathNotFound, folder_.resolve(localFolder).string());
   }
   tell(join("Asking for the draws of ", game.name));
-  if (const auto merge = mergeOf(game)) merge->commit();
+  Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
+  const FetchedExport fetched = get_(*asked, address_, settings_, onlookers);
+  if (onlookers.cancelled()) throw TransferCancelled();
+  takeInto(folder_, fetched);
   tell("");
 }
 
-std::unique_ptr<exports::FolderMerge> PublicExports::mergeOf(const GameInfo& game) {
-  Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
-  const Validators before = known(game, folder_.resolve(game.folder));
-  const FetchedDocument document = fetch_(game.game, address_, before, settings_, onlookers);
-  if (document.isUnchanged) return nullptr;
-  const exports::ExportedDraws draws =
-      drawsIn(document, address_, game.game, parseDay(clock_.date()).value());
-  if (onlookers.cancelled()) throw TransferCancelled();
-  return std::make_unique<exports::FolderMerge>(
-      folder_, game.game, [&](const exports::GameFiles& files, exports::Standing standing) {
-        return merged(game, document, draws, files, standing);
-      });
-}
-
 /// Made-up draws are replaced whatever the server says.
-Validators PublicExports::known(const GameInfo& game, const fs::path& local) const {
-  if (exports::isMadeUp(folder_, game.game)) return {};
-  return validatorsIn(noteText(local), address_, fingerprintOf(exports::readGameFiles(game, local)));
+Validators knownOf(const DataFolder& folder, const GameInfo& game, const std::string& address) {
+  if (exports::isMadeUp(folder, game.game)) return {};
+  const exports::GameFiles files = exports::readGameFiles(game, folder.resolve(game.folder));
+  return validatorsIn(files.exportNote, address, fingerprintOf(files));
 }
 
-/// The merge, with a new note among its files.
-exports::Merge PublicExports::merged(const GameInfo& game, const FetchedDocument& document,
-                                     const exports::ExportedDraws& draws, const exports::GameFiles& files,
-                                     exports::Standing standing) const {
-  exports::Merge merge;
+/// Adds what was fetched before to what one fetch reports, so that several are seen as one transfer.
+class CountingWatch : public TransferWatch {
+ public:
+  /// `soFar` has the count of all exports, and takes this one in when the watch goes.
+  CountingWatch(TransferWatch* watch, TransferProgress& soFar) : watch_(watch), soFar_(soFar) {}
+  ~CountingWatch() override {
+    soFar_.bytes += bytes_;
+    ++soFar_.files;
+  }
+  CountingWatch(const CountingWatch&) = delete;
+  CountingWatch& operator=(const CountingWatch&) = delete;
+
+  void progress(const TransferProgress& now) override {
+    bytes_ = now.bytes;
+    if (watch_ != nullptr) watch_->progress({soFar_.bytes + bytes_, soFar_.files, soFar_.filesInAll});
+  }
+  bool cancelled() override { return watch_ != nullptr && watch_->cancelled(); }
+
+ private:
+  TransferWatch* watch_;
+  TransferProgress& soFar_;
+  std::uint64_t bytes_ = 0;
+};
+
+/// What `action` raises becomes the fetch's error.
+template <typename Action>
+void orError(GameFetch& fetch, Action action) {
   try {
-    merge = exports::mergeExport(game.game, draws, {}, files, standing);
-  } catch (const std::runtime_error& error) {
-    throw transferError(TransferFault::exportContents,
-                        join(inQuotes(address_), " cannot be used: ", error.what()), printable(address_));
+    action();
+  } catch (const TransferCancelled&) {
+    throw;
+  } catch (const RuntimeError& error) {
+    fetch.error = error.description();
+  } catch (const std::exception& error) {
+    fetch.error = error.what();
   }
-  // A row that is refused today may be good tomorrow.
-  if (document.validators == Validators{} || draws.refused.count > 0) return merge;
-  const std::string now = fingerprintOf(exports::withChanges(game, files, merge.files));
-  std::string note = textOf({address_, now, document.validators});
-  if (note != noteText(folder_.resolve(game.folder))) {
-    merge.files.insert(merge.files.begin(), {exportNoteName, std::move(note)});
-  }
-  return merge;
 }
 
 }  // namespace
@@ -276,10 +243,104 @@ exports::ExportedDraws drawsIn(const FetchedDocument& document, const std::strin
   return draws;
 }
 
+FetchedExport fetchExport(const DataFolder& folder, const Clock& clock, Game game, const std::string& address,
+                          const FetchSettings& settings, TransferWatch* watch) {
+  FetchedExport fetched{game, address,
+                        fetchDocument(address, knownOf(folder, infoOf(game), address), settings, watch)};
+  if (!fetched.document.isUnchanged) {
+    fetched.draws = drawsIn(fetched.document, address, game, parseDay(clock.date()).value());
+  }
+  return fetched;
+}
+
+exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& files,
+                       exports::Standing standing) {
+  if (fetched.document.isUnchanged) return {};
+  const GameInfo& game = infoOf(fetched.game);
+  exports::Merge merge;
+  try {
+    merge = exports::mergeExport(fetched.game, fetched.draws, {}, files, standing);
+  } catch (const std::runtime_error& error) {
+    throw transferError(TransferFault::exportContents,
+                        join(inQuotes(fetched.address), " cannot be used: ", error.what()),
+                        printable(fetched.address));
+  }
+  // A row that is refused today may be good tomorrow.
+  if (fetched.document.validators == Validators{} || fetched.draws.refused.count > 0) return merge;
+  exports::GameFiles now = exports::withChanges(game, files, merge.files);
+  now.exportNote = textOf({fetched.address, fingerprintOf(now), fetched.document.validators});
+  merge.files = exports::changedFiles(game, files, std::move(now));
+  return merge;
+}
+
+exports::MergeReport takeInto(const DataFolder& folder, const FetchedExport& fetched) {
+  if (fetched.document.isUnchanged) return {};
+  exports::FolderMerge change(folder, fetched.game,
+                              [&](const exports::GameFiles& files, exports::Standing standing) {
+                                return mergeOf(fetched, files, standing);
+                              });
+  change.commit();
+  return change.report();
+}
+
+FetchedDraws::FetchedDraws(const DataFolder& folder, const Clock& clock,
+                           const std::vector<ExportAddress>& addresses, const FetchSettings& settings,
+                           TransferWatch* watch) {
+  TransferProgress soFar;
+  soFar.filesInAll = addresses.size();
+  for (const auto& [game, address] : addresses) {
+    GameFetch& result = results_.emplace_back(GameFetch{game, address});
+    std::optional<FetchedExport>& fetched = fetched_.emplace_back();
+    CountingWatch counting(watch, soFar);
+    orError(result, [&] {
+      fetched = fetchExport(folder, clock, result.game, result.address, settings, &counting);
+      result.isUnchanged = fetched->document.isUnchanged;
+    });
+  }
+  if (watch != nullptr && watch->cancelled()) throw TransferCancelled();
+}
+
+bool FetchedDraws::isComplete() const {
+  return std::ranges::all_of(results_, &std::string::empty, &GameFetch::error);
+}
+
+template <typename Action>
+void FetchedDraws::forEachFetched(Action action) {
+  for (std::size_t i = 0; i < results_.size(); ++i) {
+    if (!fetched_[i] || !results_[i].error.empty()) continue;
+    orError(results_[i], [&] { action(*fetched_[i], results_[i]); });
+  }
+}
+
+void FetchedDraws::tryInNewFolder() {
+  forEachFetched(
+      [](const FetchedExport& fetched, GameFetch&) { mergeOf(fetched, {}, exports::Standing::real); });
+}
+
+void FetchedDraws::takeInto(const DataFolder& folder) {
+  forEachFetched([&](const FetchedExport& fetched, GameFetch& result) {
+    result.report = tallywick::takeInto(folder, fetched);
+  });
+}
+
+std::vector<GameFetch> fetchDraws(const DataFolder& folder, const Clock& clock,
+                                  const std::vector<ExportAddress>& addresses, const FetchSettings& settings,
+                                  TransferWatch* watch) {
+  FetchedDraws draws(folder, clock, addresses, settings, watch);
+  draws.takeInto(folder);
+  return draws.results();
+}
+
 std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, const Clock& clock,
                                                     FetchSettings settings, TransferWatch* watch,
                                                     TransferWindow* window) {
-  return std::make_unique<PublicExports>(folder, clock, std::move(settings), watch, window);
+  return std::make_unique<PublicExports>(
+      folder,
+      [&folder, &clock](Game game, const std::string& address, const FetchSettings& fetchSettings,
+                        TransferWatch& onlookers) {
+        return fetchExport(folder, clock, game, address, fetchSettings, &onlookers);
+      },
+      std::move(settings), watch, window);
 }
 
 FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, TransferWatch* watch,
@@ -289,40 +350,36 @@ FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, Tra
 }
 
 void FetchedExports::fetch(Game game, const std::string& address) {
-  Fetched& fetched = (*documents_)[game];
-  fetched.address = address;
-  CountingWatch watch(watch_, soFar_);
-  PublicExports component(folder_, clock_, {}, &watch, nullptr,
-                          [&](Game asked, const std::string& from, const Validators& known,
-                              const FetchSettings& settings, TransferWatch& onlooker) {
-                            fetched.document = fetchFromNet(asked, from, known, settings, onlooker);
-                            return fetched.document;
-                          });
-  component.setHost(address);
-  const auto merge = component.mergeOf(infoOf(game));
+  CountingWatch counting(watch_, soFar_);
+  const FetchedExport& fetched =
+      fetched_->emplace_back(fetchExport(folder_, clock_, game, address, {}, &counting));
+  const GameInfo& info = infoOf(game);
+  const exports::Standing standing =
+      exports::isMadeUp(folder_, game) ? exports::Standing::madeUp : exports::Standing::real;
+  const exports::GameFiles files = exports::readGameFiles(info, folder_.resolve(info.folder));
   const auto isOfDraws = [](const exports::NewFile& file) { return !isOwnName(file.name); };
-  if (merge && std::ranges::any_of(merge->files(), isOfDraws)) bringDraws_ = true;
-  soFar_.bytes += watch.bytes();
-  ++soFar_.files;
+  if (std::ranges::any_of(mergeOf(fetched, files, standing).files, isOfDraws)) bringDraws_ = true;
 }
 
 TransferFactory FetchedExports::components() const {
-  return [&folder = folder_, &clock = clock_, documents = documents_] {
+  return [&folder = folder_, fetched = fetched_]() -> std::unique_ptr<TransferComponent> {
     return std::make_unique<PublicExports>(
-        folder, clock, FetchSettings(), nullptr, nullptr,
-        [documents](Game game, const std::string&, const Validators&, const FetchSettings&, TransferWatch&) {
-          return documents->at(game).document;
-        });
+        folder,
+        [fetched](Game game, const std::string& address, const FetchSettings&, TransferWatch&) {
+          const auto found = std::ranges::find(*fetched, game, &FetchedExport::game);
+          if (found == fetched->end()) {
+            throw transferError(TransferFault::nothingThere,
+                                join("the draws of ", infoOf(game).name, " have not been fetched"),
+                                printable(address));
+          }
+          return *found;
+        },
+        FetchSettings{}, nullptr, nullptr);
   };
 }
 
 void FetchedExports::merge() const {
-  for (const auto& [game, fetched] : *documents_) {
-    PublicExports component(folder_, clock_, {}, nullptr, nullptr,
-                            [&document = fetched.document](auto&&...) { return document; });
-    component.setHost(fetched.address);
-    if (const auto merge = component.mergeOf(infoOf(game))) merge->commit();
-  }
+  for (const FetchedExport& fetched : *fetched_) takeInto(folder_, fetched);
 }
 
 }  // namespace tallywick

@@ -27,7 +27,7 @@ std::string run(std::vector<std::string> arguments, int expected = 0) {
   for (const std::string& argument : arguments) words.push_back(argument.c_str());
   std::ostringstream out;
   std::ostringstream errors;
-  EXPECT_EQ(runSetup(static_cast<int>(words.size()), words.data(), out, errors), expected) << errors.str();
+  EXPECT_EQ(runSetup(static_cast<int>(words.size()), words.data(), {out, errors}), expected) << errors.str();
   return out.str() + errors.str();
 }
 
