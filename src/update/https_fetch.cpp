@@ -9,7 +9,10 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
+#include <new>
 #include <string_view>
+#include <zlib.h>
 
 namespace tallywick {
 
@@ -74,8 +77,8 @@ class WebOperation : public CurlOperation {
     // What this computer serves takes no way round.
     if (address.isOnThisComputer) set(CURLOPT_PROXY, "");
     set(CURLOPT_USERAGENT, "Tallywick");
-    // Whatever the library can unpack.
-    set(CURLOPT_ACCEPT_ENCODING, "");
+    // Unpacked here: the library takes what is cut short for whole.
+    append(CURLOPT_HTTPHEADER, "Accept-Encoding: gzip");
     if (isHeaderText(known.entityTag)) append(CURLOPT_HTTPHEADER, join("If-None-Match: ", known.entityTag));
     if (isHeaderText(known.lastModified)) {
       append(CURLOPT_HTTPHEADER, join("If-Modified-Since: ", known.lastModified));
@@ -84,6 +87,14 @@ class WebOperation : public CurlOperation {
   }
 
   const Validators& validators() const { return validators_; }
+  /// How the contents are packed; empty where they are not.
+  const std::string& packing() const { return packing_; }
+  /// Whether the library has seen that nothing is missing at the end.
+  bool hasEnd() const {
+    long version = 0;
+    curl_easy_getinfo(handle(), CURLINFO_HTTP_VERSION, &version);
+    return announcedLength() >= 0 || isInPieces_ || version > CURL_HTTP_VERSION_1_1;
+  }
 
   /// Empty where the server does not lead elsewhere.
   std::string redirect() const {
@@ -95,7 +106,11 @@ class WebOperation : public CurlOperation {
  private:
   void takeHeader(std::string_view line) {
     // Each answer begins with one; an interim one may come before the last.
-    if (line.starts_with("HTTP/")) validators_ = {};
+    if (line.starts_with("HTTP/")) {
+      validators_ = {};
+      packing_.clear();
+      isInPieces_ = false;
+    }
     const std::size_t colon = line.find(':');
     if (colon == std::string_view::npos) return;
     const std::string_view name = line.substr(0, colon);
@@ -103,9 +118,13 @@ class WebOperation : public CurlOperation {
     while (line.ends_with('\n') || line.ends_with('\r')) line.remove_suffix(1);
     if (equalIgnoringCase(name, "ETag")) validators_.entityTag = trimmed(line);
     if (equalIgnoringCase(name, "Last-Modified")) validators_.lastModified = trimmed(line);
+    if (equalIgnoringCase(name, "Content-Encoding")) packing_ = lowered(trimmed(line));
+    if (equalIgnoringCase(name, "Transfer-Encoding")) isInPieces_ = lowered(trimmed(line)) == "chunked";
   }
 
   Validators validators_;
+  std::string packing_;
+  bool isInPieces_ = false;
 };
 
 [[noreturn]] void refuse(long status, const std::string& subject, const std::string& where) {
@@ -126,6 +145,66 @@ WebAddress redirected(const WebAddress& from, const std::string& to) {
   return next;
 }
 
+/// The bytes of zlib's own type, which it does not write to.
+Bytef* bytesOf(const char* text) {
+  return const_cast<Bytef*>(reinterpret_cast<const Bytef*>(text));
+}
+
+enum class Unpacked { whole, cut, damaged, tooLarge };
+
+/// Unpacks what gzip has packed, one piece or several, up to the checksum behind each.
+Unpacked unpack(std::string_view packed, std::uint64_t largest, std::string& contents) {
+  constexpr int onlyGzip = 16 + MAX_WBITS;
+  z_stream stream{};
+  if (inflateInit2(&stream, onlyGzip) != Z_OK) throw std::bad_alloc();
+  const std::unique_ptr<z_stream, int (*)(z_stream*)> end(&stream, inflateEnd);
+  stream.next_in = bytesOf(packed.data());
+  stream.avail_in = static_cast<uInt>(packed.size());
+  std::array<char, 65536> piece{};
+  while (true) {
+    stream.next_out = bytesOf(piece.data());
+    stream.avail_out = static_cast<uInt>(piece.size());
+    const int result = inflate(&stream, Z_NO_FLUSH);
+    const std::size_t size = piece.size() - stream.avail_out;
+    if (size > largest - contents.size()) return Unpacked::tooLarge;
+    contents.append(piece.data(), size);
+    if (result == Z_STREAM_END && stream.avail_in == 0) return Unpacked::whole;
+    if (result == Z_STREAM_END) {
+      inflateReset(&stream);
+    } else if (result == Z_BUF_ERROR || (result == Z_OK && size == 0 && stream.avail_in == 0)) {
+      return Unpacked::cut;
+    } else if (result != Z_OK) {
+      return Unpacked::damaged;
+    }
+  }
+}
+
+/// What the server has given; raises an error where it is not whole.
+FetchedDocument documentFrom(const WebOperation& operation, std::uint64_t largest, const std::string& subject,
+                             const std::string& where) {
+  FetchedDocument document{false, {}, operation.hasEnd(), operation.validators()};
+  if (operation.packing().empty() || operation.packing() == "identity") {
+    document.contents = operation.received();
+    return document;
+  }
+  if (operation.packing() != "gzip" && operation.packing() != "x-gzip") {
+    throw transferError(TransferFault::protocol,
+                        join("the server packs in a way that was not asked for ", subject), where);
+  }
+  document.isKnownWhole = true;
+  switch (unpack(operation.received(), largest, document.contents)) {
+    case Unpacked::whole:
+      return document;
+    case Unpacked::cut:
+      throw curlError(CURLE_PARTIAL_FILE, operation, subject, where, Asked::webServer);
+    case Unpacked::tooLarge:
+      throw transferError(TransferFault::limit, join("too large: ", subject), where);
+    case Unpacked::damaged:
+      break;
+  }
+  throw curlError(CURLE_BAD_CONTENT_ENCODING, operation, subject, where, Asked::webServer);
+}
+
 }  // namespace
 
 FetchedDocument fetchDocument(const std::string& address, const Validators& known,
@@ -139,10 +218,10 @@ FetchedDocument fetchDocument(const std::string& address, const Validators& know
     const std::string where = printable(from.text);
     WebOperation operation(from, known, settings);
     const CURLcode result = runner.run(operation, [&] { runner.progress().bytes = operation.bytesDone(); });
-    if (result != CURLE_OK) throw curlError(result, operation, subject, where);
+    if (result != CURLE_OK) throw curlError(result, operation, subject, where, Asked::webServer);
     const long status = operation.responseCode();
-    if (status == ok) return {false, operation.received(), operation.validators()};
-    if (status == notModified && known != Validators{}) return {true, {}, known};
+    if (status == ok) return documentFrom(operation, settings.largest, subject, where);
+    if (status == notModified && known != Validators{}) return {true, {}, true, known};
     const std::string next = operation.redirect();
     if (next.empty()) refuse(status, subject, where);
     from = redirected(from, next);

@@ -31,6 +31,8 @@ struct FetchedDocument {
   /// The server has nothing newer than what `known` names; the contents are empty.
   bool isUnchanged = false;
   std::string contents;
+  /// Whether the transfer had an end of its own: a length, pieces with a last one, or a checksum.
+  bool isKnownWhole = false;
   Validators validators;
 };
 

@@ -68,13 +68,14 @@ Validators validatorsIn(std::string_view note, const std::string& address, const
   return textOf({address, files, validators}) == join(head, note) ? validators : Validators{};
 }
 
-/// The transfer library takes compressed contents for whole wherever they end.
-bool isCutShort(std::string_view contents) {
+/// A last row without a line end is whole where the transfer is known to be.
+bool isCutShort(const FetchedDocument& document) {
+  const std::string_view contents = document.contents;
   exports::CsvReader rows(contents);
   exports::CsvReader::Row row;
   while (rows.next(row)) {
   }
-  return row.isCut || !(contents.ends_with('\n') || contents.ends_with('\r'));
+  return row.isCut || !(document.isKnownWhole || contents.ends_with('\n') || contents.ends_with('\r'));
 }
 
 /// Passes on what a transfer reports, to whoever looks on.
@@ -236,7 +237,7 @@ exports::ExportedDraws drawsIn(const FetchedDocument& document, const std::strin
     throw transferError(TransferFault::exportContents,
                         join(subject, " is no export of draws: ", error.what()), printable(address));
   }
-  if (isCutShort(document.contents)) {
+  if (isCutShort(document)) {
     throw transferError(TransferFault::exportContents,
                         join(subject, " is cut short: its last row has no end"), printable(address));
   }

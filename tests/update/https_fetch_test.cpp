@@ -86,6 +86,11 @@ TEST_F(Web, IsNotBelievedWithoutItsOwnCertificate) {
   EXPECT_EQ(textOf(file("log")), "");
 }
 
+TEST_F(Web, ThatIsNotThereIsNamed) {
+  EXPECT_EQ(errorOf([&] { fetchDocument("https://127.0.0.1:1/x", {}, settings); }),
+            "The transfer failed: connection refused by the server of \"https://127.0.0.1:1/x\"");
+}
+
 TEST_F(Web, IsLeftByWhoeverCancels) {
   watch.cancelAt = 3;
   EXPECT_THROW(fetch("silent"), TransferCancelled);

@@ -126,6 +126,15 @@ TEST_F(Exports, ARowThatIsRefusedTodayIsAskedForAgain) {
   EXPECT_THAT(draws(), testing::StartsWith(R"("11","22","2026")"));
 }
 
+TEST_F(Exports, WithoutALastLineEndAreTakenWhereTheTransferIsWhole) {
+  for (const char* path : {"file/pwr.csv", "plain/pwr.csv/length"}) {
+    put("pwr.csv", exported(Game::powerBall, 120).substr(0, exported(Game::powerBall, 120).size() - 1));
+    scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", "");
+    get(path);
+    EXPECT_EQ(std::ranges::count(draws(), '\n'), 120) << path;
+  }
+}
+
 struct Misbehaviour {
   std::string name;
   std::string path;
@@ -159,12 +168,11 @@ INSTANTIATE_TEST_SUITE_P(
         Misbehaviour{"page", "200", "\"ADDRESS\" is no export of draws: there is no column \"Draw Date\"",
                      ""},
         Misbehaviour{"empty", "file/pwr.csv", "\"ADDRESS\" cannot be used: there is no draw in it", pwrHead},
-        Misbehaviour{"cutInARow", "file/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
+        Misbehaviour{"cutInARow", "plain/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
                      whole.substr(0, whole.size() - 5)},
         Misbehaviour{"cutInAQuotedField", "file/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
                      whole + "\"01/02/2020\",\"\n"},
-        Misbehaviour{"cutWhilePacked", "cut/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
-                     whole},
+        Misbehaviour{"cutBehindItsLastRow", "cut/pwr.csv", "interrupted in the middle of \"ADDRESS\"", whole},
         Misbehaviour{"short", "short", "interrupted in the middle of \"ADDRESS\"", ""},
         Misbehaviour{
             "few", "file/pwr.csv",
