@@ -59,7 +59,7 @@ enum class PlaySlot : char {
   played = '2',        ///< the play history
   stillPending = '3',  ///< work file of the maintenance
   justPlayed = '4',    ///< work file of the maintenance
-  multiDraw = '5',     ///< work file of Done
+  multiDraw = '5',     ///< work file of several draws; Done needs none and removes one
   current = '7',       ///< selected since the selection window opened
 };
 

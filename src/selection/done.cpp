@@ -168,7 +168,7 @@ std::vector<std::string> itemsOf(const PlayFile& file) {
 }  // namespace
 
 bool finishEarlierChange(const SelectionForm& form) {
-  return entered(form, [&] { recoverFolder(gameFolder(form)); });
+  return tryToEnter(form, [&] { recoverFolder(gameFolder(form)); });
 }
 
 bool showsCurrentPlays(const SelectionForm& form) {
@@ -197,7 +197,7 @@ std::size_t playsThatWouldGo(const SelectionForm& form) {
 void Command5_Click(SelectionForm& form) {
   std::optional<Committed> committed;
   const int draws = drawCountOf(form.Label1.caption());
-  if (!entered(form, [&] { committed.emplace(commit(form, draws)); })) return;
+  if (!tryToEnter(form, [&] { committed.emplace(commit(form, draws)); })) return;
   form.closeForPlays();
   showHistory(form, committed->history);
   showCommitted(form.StatusBar1, committed->counts);

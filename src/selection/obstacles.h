@@ -10,10 +10,11 @@
 
 namespace tallywick {
 
-/// Runs `enter`. False where it meets a gap in the calendar, or what another program has done or is doing to
-/// the play files; the player has been shown a message then. Every other failure is raised.
+/// Runs `enter`, which changes play files. False where it meets a gap in the calendar, or what another
+/// program has done or is doing to the play files; the player has been shown a message then. Every other
+/// failure is raised.
 template <typename Enter>
-bool entered(const SelectionForm& form, Enter enter) {
+bool tryToEnter(const SelectionForm& form, Enter enter) {
   std::string obstacle;
   try {
     enter();

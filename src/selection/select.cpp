@@ -144,7 +144,7 @@ void Command59_Click(SelectionForm& form) {
     form.unmarkAll();
     return;
   }
-  if (!entered(form, [&] { append(form, date(form, play).view()); })) return;
+  if (!tryToEnter(form, [&] { append(form, date(form, play).view()); })) return;
   form.Command1.setEnabled(true);
   form.unmarkAll();
 }

@@ -50,7 +50,7 @@ void Command1_Click(SelectionForm& form);
 /// Steps the draw count, from one to ten and back to one.
 void Command4_Click(SelectionForm& form);
 
-/// Shows the draw count where it is hidden.
+/// Shows the draw count where it is hidden. Nothing shows this button.
 void Command7_Click(SelectionForm& form);
 
 }  // namespace tallywick

@@ -9,7 +9,10 @@
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
+#include <pthread.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tallywick {
 namespace {
@@ -77,6 +80,22 @@ TEST(RuntimeError, TheSystemsErrorsHaveTheRuntimesNumbers) {
   EXPECT_THROW(replaceFile(pipe, "text"), RuntimeError) << "somebody waits at that pipe";
   EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::no_space_on_device), "f").number(), 61);
   EXPECT_EQ(runtimeErrorFrom(std::make_error_code(std::errc::read_only_file_system), "f").number(), 70);
+}
+
+// The program is started by a child's child: in every child of this test no second fork succeeds.
+TEST(StartedProgram, AChildThatCannotForkReportsIt) {
+  static bool forbids = false;
+  ::pthread_atfork(nullptr, nullptr, [] {
+    const rlimit none = {0, 0};
+    if (forbids) ::setrlimit(RLIMIT_NPROC, &none);
+    // The limit is none for root.
+    if (forbids && ::getuid() == 0 && ::setuid(65534) != 0) ::_exit(0);
+  });
+  forbids = true;
+  const test::Raised raised = test::raisedBy([] { os::startProgram("/bin/true", {}, "/"); });
+  forbids = false;
+  EXPECT_EQ(raised.number, 53);
+  EXPECT_EQ(raised.where, "/bin/true cannot be started (Resource temporarily unavailable)");
 }
 
 TEST(RuntimeError, TheBoxTellsNumberAndText) {

@@ -6,11 +6,11 @@
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/program/options.h"
-#include "ui/qt/program/program_icon.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/program/screenshot.h"
 #include "ui/qt/windows/transfer_window.h"
 
+#include <QIcon>
 #include <QTimer>
 #include <iostream>
 
@@ -36,6 +36,13 @@ class ToolkitArguments {
   std::vector<char*> pointers_;
   int count_ = 0;
 };
+
+/// That of the desktop's theme where the program is installed, else its own.
+QIcon programIcon() {
+  QIcon own;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) own.addFile(u":/icons/tallywick-%1.png"_s.arg(size));
+  return QIcon::fromTheme(u"org.tallywick.Tallywick"_s, own);
+}
 
 bool takesPicture(const Options& options) {
   return !options.screenshot.empty();
