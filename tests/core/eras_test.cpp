@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The games' numbers, prizes and draw days as they are published.
+// The games' numbers and draw days as they are published.
 #include "core/eras.h"
 
 #include <gtest/gtest.h>
@@ -32,33 +32,6 @@ TEST(Eras, BeginOnTheirFirstDay) {
     EXPECT_TRUE(isDrawDay(row.game, row.first) && (!isFirst || firstDrawDay(row.game) == row.first));
     before = &row;
   }
-}
-
-// White balls alone 3, 4, 5, then with the extra ball 0 to 4; a dash where no amount is published.
-TEST(Eras, HaveTheirPublishedPrizes) {
-  const auto prizes = [](Game game, Day day) {
-    std::string text;
-    for (const auto& [whites, extra] : {std::pair(3, false),
-                                        {4, false},
-                                        {5, false},
-                                        {0, true},
-                                        {1, true},
-                                        {2, true},
-                                        {3, true},
-                                        {4, true},
-                                        {5, true},
-                                        {2, false}}) {
-      const auto prize = publishedPrize(game, day, static_cast<std::size_t>(whites), extra);
-      text += prize ? std::to_string(*prize) + " " : "- ";
-    }
-    return text;
-  };
-  EXPECT_EQ(prizes(Game::powerBall, dayOf(2012, 1, 17)), "- - - - - - - - - - ");
-  EXPECT_EQ(prizes(Game::powerBall, dayOf(2015, 10, 3)), "7 100 1000000 4 4 7 100 10000 - - ");
-  EXPECT_EQ(prizes(Game::powerBall, dayOf(2015, 10, 7)), "7 100 1000000 4 4 7 100 50000 - - ");
-  EXPECT_EQ(prizes(Game::megaMillions, dayOf(2017, 10, 30)), "- - - - - - - - - - ");
-  EXPECT_EQ(prizes(Game::megaMillions, dayOf(2025, 4, 4)), "10 500 1000000 2 4 10 200 10000 - - ");
-  EXPECT_EQ(prizes(Game::megaMillions, dayOf(2025, 4, 8)), "10 500 1000000 5 7 10 200 10000 - - ");
 }
 
 TEST(DrawDays, AreThoseOfTheWeekAndTheYear) {

@@ -4,6 +4,7 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "display/draws_page.h"
+#include "display/judging.h"
 #include "display/summary.h"
 #include "display/winning_tickets.h"
 #include "support/fakes.h"
@@ -96,6 +97,13 @@ TEST_F(Displays, TheLeftoverGameIsCheckedLikeTheOthers) {
   checkAgainstLatestDraw(page, folder.folder(), hoosierTicketFiles());
   EXPECT_THAT(itemsOf(page.Combo10), ElementsAre(" 01-28-2026   01 02 03 34 35   36"));
   EXPECT_THAT(itemsOf(page.List10), IsEmpty());
+}
+
+TEST(Judging, AJackpotHasTheAmountOfItsDraw) {
+  const std::string play = records({"01-02-2016,10,20,30,40,50,06,x"});
+  const std::string drawn = records({"01,02,2016,10,20,30,40,50,06,2"});
+  const std::string amounts = records({"01,02,2016, 300 ,0", "12,30,2015,250,0"});
+  EXPECT_EQ(judge(powerBall, {{}, play, drawn, {}, amounts}).plays.at(0).jackpotAmount, "300");
 }
 
 }  // namespace

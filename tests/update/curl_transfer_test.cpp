@@ -40,7 +40,7 @@ class RealServer : public TransferTest {
     EXPECT_EQ(scratch.snapshot().size(), before.size() + 2) << "a file too many or twice";
   }
 
-  TreeFolder tree;
+  ScratchFolder tree;
   const std::string draws = std::string(300'000, 'd') + "\r\nend";
 };
 

@@ -34,7 +34,7 @@ class ServerProcess {
  public:
   /// Starts the script and waits until it reports its port.
   ServerProcess(const std::string& script, const std::vector<std::string>& arguments) {
-    static const std::string python = pythonWithServer();
+    const std::string python = script == "good_server.py" ? pythonWithServer() : "python3";
     std::vector<std::string> words = {python, std::string(TALLYWICK_TEST_SERVERS) + "/" + script};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
@@ -105,26 +105,5 @@ inline void makeCertificate(const std::string& file, const std::string& owner = 
       " -keyout " + file + ".key 2>/dev/null && cat " + file + ".key >> " + file;
   if (std::system(make.c_str()) != 0) throw std::runtime_error("the openssl command makes no certificate");
 }
-
-/// A folder of the test's own, removed at the end.
-class TreeFolder {
- public:
-  TreeFolder() {
-    std::string form = (std::filesystem::temp_directory_path() / "tallywick-server-XXXXXX").string();
-    if (::mkdtemp(form.data()) == nullptr) throw std::runtime_error("no folder for the test's server");
-    root_ = form;
-  }
-  ~TreeFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(root_, ignored);
-  }
-  TreeFolder(const TreeFolder&) = delete;
-  TreeFolder& operator=(const TreeFolder&) = delete;
-
-  const std::filesystem::path& root() const { return root_; }
-
- private:
-  std::filesystem::path root_;
-};
 
 }  // namespace tallywick::test

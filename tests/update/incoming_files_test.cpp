@@ -6,7 +6,6 @@
 #include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/runtime_error.h"
-#include "support/killed_run.h"
 #include "support/raised.h"
 #include "support/scratch_folder.h"
 
@@ -95,26 +94,6 @@ TEST_F(Incoming, KeepThePlayersOldPlaysAsDatedCopies) {
   EXPECT_EQ(get("qzr6pwr1 2026-11-21 181500.PLY"), "mine") << "a copy was overwritten";
   EXPECT_EQ(get("qzr6pwr1 2026-11-21 181500 2.PLY"), "theirs");
   EXPECT_EQ(scratch.snapshot().size(), 7U) << "only what differs is kept";
-}
-
-TEST_F(Incoming, KilledAnywhereAreAllOldOrAllNew) {
-  int call = 1;
-  int allNew = 0;
-  for (RunEnd end = RunEnd::killed; end == RunEnd::killed; ++call) {
-    for (const auto& file : scratch.snapshot()) std::filesystem::remove(scratch.root() / file.first);
-    put("QZRNUM6.Dat", "old");
-    put("QZR6PWR1.Ply", "mine");
-    end = runKilledAt(call, [&] { receive({{"QZRNUM6.Dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}); });
-    if (end == RunEnd::untraced) GTEST_SKIP() << "this system does not let a test trace its own child";
-    recoverFolder(pwr());
-    const bool isNew = get("QZRNUM6.Dat") == "new";
-    allNew += isNew ? 1 : 0;
-    ASSERT_EQ(get("QZRNUM6.Dat"), isNew ? "new" : "old") << "call " << call;
-    ASSERT_EQ(get("QZR6PWR1.Ply"), isNew ? "theirs" : "mine") << "call " << call;
-    ASSERT_EQ(get("QZR6PWR1 2026-11-21 181500.Ply"), isNew ? "mine" : "") << "call " << call;
-    ASSERT_EQ(scratch.snapshot().size(), isNew ? 3U : 2U) << "left behind at call " << call;
-  }
-  EXPECT_TRUE(allNew > 5 && allNew < call - 5) << allNew << " of " << call;
 }
 
 TEST_F(Incoming, DoNotReplaceAFolder) {

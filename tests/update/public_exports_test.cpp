@@ -66,7 +66,7 @@ class Exports : public testing::Test {
   }
   std::string draws() const { return scratch.read("QzrNumbers/QZR6PWR/QZRNUM6.Dat"); }
 
-  TreeFolder web;
+  ScratchFolder web;
   ScratchFolder scratch;
   StandingClock clock{"11-21-2026", "18:15:00"};
   CountingWatch watch;
@@ -135,58 +135,31 @@ TEST_F(Exports, WithoutALastLineEndAreTakenWhereTheTransferIsWhole) {
   }
 }
 
-struct Misbehaviour {
-  std::string name;
-  std::string path;
-  std::string error;
-  std::string csv;
-};
-
-void PrintTo(const Misbehaviour& way, std::ostream* out) {
-  *out << way.name;
-}
-
-class MisbehavingExports : public Exports, public testing::WithParamInterface<Misbehaviour> {};
-
-TEST_P(MisbehavingExports, ChangeNothing) {
+TEST_F(Exports, ThatCannotBeUsedChangeNothing) {
   get("file/pwr.csv");
   const auto before = scratch.snapshot();
-  if (!GetParam().csv.empty()) put("pwr.csv", GetParam().csv);
-  if (GetParam().name == "stranger") {
-    settings.certificates = file("stranger");
-    makeCertificate(settings.certificates);
-  }
-  EXPECT_EQ(errorOf(GetParam().path), "The transfer failed: " + GetParam().error);
-  EXPECT_EQ(scratch.snapshot(), before);
-}
-
-const std::string whole = exported(Game::powerBall, 121, newest + 1);
-
-INSTANTIATE_TEST_SUITE_P(
-    Ways, MisbehavingExports,
-    testing::Values(
-        Misbehaviour{"page", "200", "\"ADDRESS\" is no export of draws: there is no column \"Draw Date\"",
-                     ""},
-        Misbehaviour{"empty", "file/pwr.csv", "\"ADDRESS\" cannot be used: there is no draw in it", pwrHead},
-        Misbehaviour{"cutInARow", "plain/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
-                     whole.substr(0, whole.size() - 5)},
-        Misbehaviour{"cutInAQuotedField", "file/pwr.csv", "\"ADDRESS\" is cut short: its last row has no end",
-                     whole + "\"01/02/2020\",\"\n"},
-        Misbehaviour{"cutBehindItsLastRow", "cut/pwr.csv", "interrupted in the middle of \"ADDRESS\"", whole},
-        Misbehaviour{"short", "short", "interrupted in the middle of \"ADDRESS\"", ""},
-        Misbehaviour{
-            "few", "file/pwr.csv",
+  const std::string whole = exported(Game::powerBall, 121, newest + 1);
+  const char* const cut = "\"ADDRESS\" is cut short: its last row has no end";
+  struct Row {
+    std::string csv;
+    const char* error;
+    const char* path = "file/pwr.csv";
+  };
+  for (const Row& row : std::initializer_list<Row>{
+           {"", "\"ADDRESS\" is no export of draws: there is no column \"Draw Date\"", "200"},
+           {"", "the server does not have \"ADDRESS\" (404)", "404"},
+           {pwrHead, "\"ADDRESS\" cannot be used: there is no draw in it"},
+           {whole.substr(0, whole.size() - 5), cut, "plain/pwr.csv"},
+           {whole + "\"01/02/2020\",\"\n", cut},
+           {whole, "interrupted in the middle of \"ADDRESS\"", "cut/pwr.csv"},
+           {exported(Game::powerBall, 114, newest + 1),
             "\"ADDRESS\" cannot be used: it has 114 draws, fewer than half of the 230 that are known "
-            "already",
-            exported(Game::powerBall, 114, newest + 1)},
-        Misbehaviour{"refused", "403", "the server refuses access to \"ADDRESS\" (403)", ""},
-        Misbehaviour{"missing", "404", "the server does not have \"ADDRESS\" (404)", ""},
-        Misbehaviour{"tooMany", "429",
-                     "too many requests, try again later: the server puts off \"ADDRESS\" (429)", ""},
-        Misbehaviour{"overloaded", "503",
-                     "the server is overloaded or being repaired, try again later for \"ADDRESS\" (503)", ""},
-        Misbehaviour{"stranger", "file/pwr.csv", "the server's certificate is not trusted", whole}),
-    [](const auto& tested) { return tested.param.name; });
+            "already"}}) {
+    put("pwr.csv", row.csv);
+    EXPECT_EQ(errorOf(row.path), join("The transfer failed: ", row.error));
+    EXPECT_EQ(scratch.snapshot(), before) << row.error;
+  }
+}
 
 }  // namespace
 }  // namespace tallywick::test

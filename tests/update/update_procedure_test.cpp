@@ -156,7 +156,7 @@ TEST_F(Update, TellsFileAndBytesInTheStatusBar) {
 
 // The whole way: older draws become newer ones, plays move; where the second game fails the first stays.
 TEST_F(Update, BringsDrawsFromARealServerGameByGame) {
-  const TreeFolder tree;
+  const ScratchFolder tree;
   const std::string newDraws = records({"11,25,2026,1,2,3,4,5,6,x"});
   putText(tree.root() / "root/D:/QZR/Z1-Pwr/Qzr6/qzrnum6.dat", newDraws);
   const ServerProcess real("good_server.py",

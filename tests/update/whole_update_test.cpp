@@ -39,7 +39,7 @@ TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
   const std::string later = records({"12-02-2026,01,02,03,04,05,06,5000000"});
   book.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", later + drawn + next);
 
-  const TreeFolder tree;
+  const ScratchFolder tree;
   std::ostringstream out;
   setup::publish(tree.root() / "root", newer.root(), out);
   const ServerProcess server("good_server.py",
@@ -70,7 +70,7 @@ TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
 }
 
 TEST(WholeUpdate, BringsExportedDrawsOnceAndMovesDrawnPlays) {
-  const TreeFolder web;
+  const ScratchFolder web;
   const auto file = [&](const char* name) { return (web.root() / name).string(); };
   makeCertificate(file("authority"));
   makeCertificate(file("certificate"), "IP:127.0.0.1", file("authority"));

@@ -1,9 +1,9 @@
-"""An FTP server that misbehaves as its arguments ask, or not at all, on a free port of the loopback.
+"""An FTP server that misbehaves as its folder says, or not at all, on a free port of the loopback.
 
-bad_server.py FOLDER FAULT
+bad_server.py FOLDER
 
-FOLDER contains the answer to LIST, the answer to MLSD where the server is to know it, the files, and a
-"certificate" where it is to know TLS; the commands that come in are written to its "log". Prints its port; ends
+FOLDER contains the name of the fault in "fault", read for each client, the answer to LIST, the answer to MLSD where
+the server is to know it, the files, and a "certificate" where it is to know TLS; the commands that come in are written to its "log". Prints its port; ends
 when its standard input does.
 """
 import os
@@ -13,7 +13,7 @@ import sys
 import threading
 import time
 
-folder, fault = sys.argv[1:]
+folder = sys.argv[1]
 
 
 def contents(name):
@@ -27,6 +27,7 @@ def contents(name):
 class Session:
     def __init__(self, control):
         self.control = control
+        self.fault = (contents("fault") or b"none").decode()
         self.tls = None
         self.log = open(os.path.join(folder, "log"), "a", buffering=1, errors="surrogateescape")
 
@@ -59,72 +60,72 @@ class Session:
         self.say("150 Here it comes")
         with self.open_data() as data:
             data.sendall(body)
-        time.sleep(60 if fault == "no end" and body == contents("QZRNUM6.Dat") else 0)
+        time.sleep(60 if self.fault == "no end" and body == contents("QZRNUM6.Dat") else 0)
         self.say(end)
 
     def send_file(self, body):
         half = body[: len(body) // 2]
-        if fault == "short":
+        if self.fault == "short":
             self.send(half)
-        elif fault in ("drop", "stall"):
+        elif self.fault in ("drop", "stall"):
             self.say("150 Here it comes")
             data = self.open_data()
             data.sendall(half)
-            if fault == "stall":
+            if self.fault == "stall":
                 time.sleep(60)
             self.control.close()
-        elif fault == "long":
+        elif self.fault == "long":
             self.send(body + b"!!")
-        elif fault == "drip":
+        elif self.fault == "drip":
             self.say("150 Here it comes")
             with self.open_data() as data:
                 for letter in body:
                     data.sendall(bytes([letter]))
                     time.sleep(0.05)
-        elif fault == "endless":
+        elif self.fault == "endless":
             self.say("150 Here it comes")
             with self.open_data() as data:
                 while True:
                     data.sendall(b"0123456789" * 100)
-        elif fault == "no answer":
+        elif self.fault == "no answer":
             time.sleep(60)
         else:
             self.send(body)
 
     def answer(self, command, argument):
-        if fault == "slow" and command in ("USER", "PASS", "PWD"):
+        if self.fault == "slow" and command in ("USER", "PASS", "PWD"):
             time.sleep(0.4)
-        if fault == "crawl" and command == "RETR":
+        if self.fault == "crawl" and command == "RETR":
             time.sleep(0.2)
         if command == "AUTH" and contents("certificate") is not None:
             self.start_tls()
         elif command == "USER":
             self.say("331 Password, please")
-        elif command == "PASS" and fault == "deny":
+        elif command == "PASS" and self.fault == "deny":
             self.say("530 No entry for player one with se/cr:e@t")
         elif command == "PASS":
             self.say("230 Welcome")
         elif command == "PWD":
             self.say('257 "/"')
-        elif command == "CWD" and fault == "closing":
+        elif command == "CWD" and self.fault == "closing":
             self.say("421 Come back later")
-        elif command == "CWD" and fault == "no folder":
+        elif command == "CWD" and self.fault == "no folder":
             self.say("550 No such folder")
-        elif command == "EPSV" and fault != "no epsv":
+        elif command == "EPSV" and self.fault != "no epsv":
             self.wait("229 Here (|||{port}|)")
         elif command == "PASV":
             self.wait("227 Here (127,0,0,1,{high},{low})")
         elif command in ("LIST", "MLSD") and contents(command) is not None:
-            cut = fault == "broken list"
+            cut = self.fault == "broken list"
             self.send(contents(command), "426 Broken off" if cut else "226 Done")
-        elif command == "SIZE" and fault != "endless" and contents(argument) is not None:
+        elif command == "SIZE" and self.fault != "endless" and contents(argument) is not None:
             self.say(f"213 {len(contents(argument))}")
         elif command == "RETR" and contents(argument) is not None:
             self.send_file(contents(argument))
         elif command == "RETR":
             self.say("550 No such file")
         elif command == "QUIT":
-            time.sleep(60 if fault == "no farewell" else 0)
+            time.sleep(60 if self.fault == "no farewell" else 0)
             self.say("221 Bye")
         elif command in ("CWD", "TYPE", "PBSZ", "PROT"):
             self.say("200 Yes")
@@ -132,9 +133,9 @@ class Session:
             self.say("502 No")
 
     def run(self):
-        if fault == "silent":
+        if self.fault == "silent":
             time.sleep(60)
-        if fault == "full":
+        if self.fault == "full":
             self.say("421 Too many users")
         self.say("220 Ready")
         while line := self.read_line():
@@ -172,7 +173,7 @@ def be_silent_at(address):
 
 listener = socket.create_server(("127.0.0.1", 0))
 port = listener.getsockname()[1]
-silent = be_silent_at(("127.0.0.2", port)) if fault == "silent address" else None
+silent = be_silent_at(("127.0.0.2", port))
 print(port, flush=True)
 threading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()
 while True:

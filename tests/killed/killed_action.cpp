@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// killed_action FOLDER ACTION: one action that changes files of a data folder, for the test that kills it. A
+// runtime error is reported by its number on standard output and exit code 1.
+#include "core/file_commit.h"
+#include "core/runtime_error.h"
+#include "plays/play_changes.h"
+#include "selection/selection_form.h"
+#include "selection/selection_handlers.h"
+#include "setup/publish.h"
+#include "support/fakes.h"
+#include "update/incoming_files.h"
+#include "update/maintenance.h"
+
+#include <iostream>
+#include <sstream>
+
+using namespace tallywick;
+
+namespace {
+
+void done(SelectionForm& form, std::string_view drawCount) {
+  form.Label1.setCaption(drawCount);
+  Command5_Click(form);
+}
+
+void select(SelectionForm& form) {
+  for (int number : {5, 11, 23, 42, 60}) setMark(form.button(number), Mark::main);
+  setMark(form.button(7), Mark::extra);
+  Command59_Click(form);
+}
+
+void changePlays(const DataFolder& folder, const Clock& clock, std::string_view change) {
+  const PlayChanges changes(powerBall, folder, clock);
+  const PlayTexts shown = readPlayTexts(powerBall, folder);
+  if (change == "remove") changes.remove(shown, std::vector<PlayPlace>{{PlaySlot::committed, 1}});
+  if (change == "move") changes.moveToPlayed(shown, std::vector<std::size_t>{1, 2});
+  if (change == "keep") changes.add(PlaySlot::played, shown.committed);
+  if (change == "bring-back") changes.bringBack(shown, "QZR6PWR2 2026-11-01 120000.Ply");
+  if (change == "undo") changes.undo({"", {shown.played, shown.committed}, shown, "copy", {}});
+}
+
+void run(const DataFolder& folder, std::string_view action) {
+  const StandingClock clock("11-21-2026", "12:00:00");
+  const std::filesystem::path game = folder.resolve(powerBall.folder);
+  MixingGenerator random(1);
+  test::RecordingBoxes boxes;
+  test::RecordingStarter starter;
+  std::ostringstream out;
+  SelectionForm form(powerBall, {folder, clock, random, boxes});
+  if (action == "open") form.load();
+  if (action == "select") select(form);
+  if (action == "done-1") done(form, "    ");
+  if (action == "done-10") done(form, "  10");
+  if (action == "maintain") Command1_Click(folder, starter);
+  if (action == "receive") takeIn({{"qzrnum6.dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}, folder, game, clock);
+  if (action == "publish") setup::publish(folder.resolve("tree"), folder.resolve(""), out);
+  if (action.starts_with("by-hand-")) changePlays(folder, clock, action.substr(8));
+  if (action == "recover") recoverFolder(game);
+  for (const MessageBox& box : boxes.shown) std::cout << box.text << "\n";
+}
+
+}  // namespace
+
+int main(int, char** arguments) {
+  try {
+    run(DataFolder(arguments[1]), arguments[2]);
+  } catch (const std::exception&) {
+    std::cout << currentRuntimeError().number() << "\n";
+    return 1;
+  }
+  return 0;
+}
