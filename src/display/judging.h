@@ -32,6 +32,7 @@ struct Match {
 
   /// Three white balls or the extra one.
   bool wins() const { return extra || whites.size() >= 3; }
+  bool operator==(const Match&) const = default;
 };
 
 struct JudgedPlay {
@@ -56,6 +57,8 @@ struct JudgedPlay {
   std::string jackpotAmount;
   /// Against the Double Play numbers of the date, where they are known.
   std::optional<Match> doublePlay;
+
+  bool operator==(const JudgedPlay&) const = default;
 };
 
 struct Judgement {
@@ -63,6 +66,8 @@ struct Judgement {
   std::vector<JudgedPlay> plays;
   /// For each file that ends in a cut record: its name and what is missing. What comes before is judged.
   std::vector<std::string> torn;
+
+  bool operator==(const Judgement&) const = default;
 };
 
 /// The contents of a game's files.

@@ -56,15 +56,38 @@ class Desktop : public testing::Test {
     return *found;
   }
 
+  /// One of the window's own widgets, by its name for screen readers.
+  template <typename Widget>
+  Widget& named(std::string_view windowName, const QString& name) {
+    for (auto* each : window(windowName).findChildren<Widget*>()) {
+      if (each->accessibleName() == name) return *each;
+    }
+    throw std::logic_error("no widget " + name.toStdString());
+  }
+
   /// Looks at the message box that the next action shows, and presses one of its buttons.
   void answerNextBox(QMessageBox::StandardButton answer) {
-    QTimer::singleShot(0, [this, answer] {
+    answerNextBox([answer](const QMessageBox& box) { return box.button(answer); });
+  }
+  /// The same by the button's text, without its mnemonic.
+  void answerNextBox(const QString& text) {
+    answerNextBox([text](const QMessageBox& box) -> QAbstractButton* {
+      for (QAbstractButton* button : box.buttons()) {
+        if (button->text().remove(u'&') == text) return button;
+      }
+      return nullptr;
+    });
+  }
+  void answerNextBox(const std::function<QAbstractButton*(const QMessageBox&)>& buttonOf) {
+    QTimer::singleShot(0, [this, buttonOf] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       ASSERT_NE(box, nullptr);
       boxTitle = box->windowTitle();
       boxText = box->text();
       boxIcon = box->icon();
-      box->button(answer)->click();
+      QAbstractButton* button = buttonOf(*box);
+      ASSERT_NE(button, nullptr);
+      button->click();
     });
   }
 

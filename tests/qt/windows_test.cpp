@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Windows, message boxes and errors: what the program does on the desktop.
+#include "app/main_form.h"
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"
+#include "support/record_book.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/windows/layout_memory.h"
 
+#include <QDateEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabWidget>
+#include <QTableView>
 #include <QToolButton>
 #include <algorithm>
 #include <new>
@@ -183,6 +189,66 @@ TEST_F(Windows, DoneAsksWhereTheFileIsNotWhatTheWindowShows) {
   }
 }
 
+TEST_F(Windows, DoneAsksBeforeWaitingPlaysGo) {
+  const std::string file = "QzrNumbers/QZR6PWR/QZR6PWR1.Ply";
+  const std::string waiting = records({"11-23-2026,01,02,03,04,05,06,5000000"});
+  const std::string selected = records({"11-21-2026,05,11,23,42,60,07,1110101"});
+  scratch.write(file, waiting);
+  open("Form3");
+  auto& form = static_cast<SelectionForm&>(*application.find("Form3"));
+  for (const int number : {5, 11, 23, 42, 60, 7, 7}) click(form.button(number));
+  widget<QPushButton>("Form3", "Command59").click();
+  const auto done = [&](const QString& answer) {
+    answerNextBox(answer);
+    widget<QPushButton>("Form3", "Command5").click();
+    EXPECT_TRUE(boxText.contains(QStringLiteral("One play that waits")));
+    return scratch.read(file);
+  };
+  EXPECT_EQ(done(QStringLiteral("Cancel")), waiting);
+  EXPECT_EQ(done(QStringLiteral("Keep Both")), selected + waiting);
+}
+
+TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
+  writeRecordBook(scratch);
+  const std::string committed = "QzrNumbers/QZR6PWR/QZR6PWR1.Ply";
+  const std::string waiting = scratch.read(committed);
+  const std::string drawn = records({"12-26-2026,01,02,03,50,51,20,3000020"});
+  scratch.write(committed, drawn + waiting);
+  FormWindow& main = open("Form1");
+  main.findChild<QTabWidget*>(QStringLiteral("SSTab1"))->setCurrentIndex(2);
+  auto& winnings = widget<QTabWidget>("Form1", "SSTab3");
+  winnings.setCurrentIndex(2);
+  EXPECT_EQ(static_cast<MainForm&>(main.form()).bar.SSTab3.tab(), 0) << "the tab is the window's own";
+  auto& table = named<QTableView>("Form1", QStringLiteral("My plays"));
+  const auto press = [&](int row, const char* button) {
+    table.selectRow(row);
+    for (auto* each : main.findChildren<QPushButton*>()) {
+      if (each->text().remove(u'&') == QLatin1String(button)) each->click();
+    }
+    return scratch.read(committed);
+  };
+  ASSERT_EQ(table.model()->rowCount(), 4);
+  EXPECT_EQ(press(1, "Remove"), drawn + waiting) << "a drawn play is not removed";
+  EXPECT_EQ(press(0, "Remove"), drawn);
+  EXPECT_EQ(press(0, "Undo"), drawn + waiting);
+  EXPECT_EQ(press(3, "Move to Played"), waiting);
+  EXPECT_EQ(itemsOf(static_cast<MainForm&>(main.form()).winnings.List14).size(), 3U);
+
+  winnings.setCurrentIndex(3);
+  named<QLineEdit>("Form1", QStringLiteral("Numbers")).setText(QStringLiteral("1 2 3 4 5"));
+  named<QLineEdit>("Form1", QStringLiteral("PowerBall")).setText(QStringLiteral("6"));
+  named<QDateEdit>("Form1", QStringLiteral("Date of the draw")).setDate(QDate(2026, 12, 31));
+  press(0, "Judge");
+  EXPECT_EQ(press(0, "Keep It"), waiting + records({"12-31-2026,01,02,03,04,05,06,5000000"}));
+  winnings.setCurrentIndex(2);
+  EXPECT_EQ(press(0, "Undo"), waiting);
+  scratch.write(committed, "");
+  QApplication::setActiveWindow(&main);
+  answerNextBox(QMessageBox::Ok);
+  press(0, "Remove");
+  EXPECT_TRUE(boxText.startsWith(QStringLiteral("The play files have changed"))) << boxText.toStdString();
+}
+
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {
   QTest::keyClick(&open("frmSplash"), Qt::Key_A);
   EXPECT_TRUE(application.windows().empty());
@@ -230,26 +296,17 @@ TEST_F(Windows, TheCompiledHelpOpensWhereThereIsAViewer) {
 
 TEST_F(Windows, AFirstStartOffersTheLastFolderOrToMakeOne) {
   const std::filesystem::path missing = scratch.root() / "nowhere";
-  const auto answer = [&](const char* button) {
-    QTimer::singleShot(0, [this, button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      boxText = box->text();
-      for (QAbstractButton* each : box->buttons()) {
-        if (each->text() == QString::fromLatin1(button)) each->click();
-      }
-    });
-  };
+  const auto answer = [&](const char* button) { answerNextBox(QString::fromLatin1(button)); };
   // Opened once, the folder is the last one.
   EXPECT_EQ(findDataFolder(scratch.root().string(), Offer::yes), scratch.root());
-  answer("Open the &Last One");
+  answer("Open the Last One");
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), scratch.root());
   EXPECT_TRUE(boxText.contains(QString::fromStdString(missing.string())));
-  answer("&Quit");
+  answer("Quit");
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), std::nullopt);
   EXPECT_EQ(findDataFolder(missing.string(), Offer::no), std::nullopt);
   EXPECT_FALSE(std::filesystem::exists(missing));
-  answer("&Make One with Samples");
+  answer("Make One with Samples");
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), missing);
   EXPECT_TRUE(DataFolder(missing).exists(R"(QzrNumbers\QZR6MEG\QZRNUM6.Dat)"));
 }

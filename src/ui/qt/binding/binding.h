@@ -45,6 +45,7 @@ class Binding : public QObject {
   void bind(ComboBox& combo, Picker& widget);
   void bind(ComboBox& combo, ChoiceList& widget);
   void bind(Frame& frame, QWidget& widget);
+  /// The widget may have more tabs behind the strip's; the model does not know of them.
   void bind(TabStrip& strip, QTabWidget& widget);
   void bind(Chart& chart, ChartView& widget);
   void bind(Image& image, BallPicture& widget);

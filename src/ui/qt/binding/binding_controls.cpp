@@ -144,8 +144,10 @@ void Binding::bind(Frame& frame, QWidget& widget) {
 }
 
 void Binding::bind(TabStrip& strip, QTabWidget& widget) {
-  connect(&widget, &QTabWidget::currentChanged, this,
-          [this, &strip](int tab) { take([&strip, tab] { strip.setTab(tab); }); });
+  connect(&widget, &QTabWidget::currentChanged, this, [this, &strip](int tab) {
+    // Tabs beyond the model's are the window's own.
+    if (tab < strip.tabs()) take([&strip, tab] { strip.setTab(tab); });
+  });
   enter(strip, widget, [&strip, &widget] {
     const QSignalBlocker quiet(&widget);
     widget.setCurrentIndex(strip.tab());

@@ -2,11 +2,18 @@
 #include "ui/qt/pages/winnings_view.h"
 
 #include "app/main_form.h"
+#include "core/runtime_error.h"
+#include "display/judging.h"
+#include "plays/check_explained.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/pages/my_plays_view.h"
+#include "ui/qt/pages/ticket_view.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
+#include "ui/qt/windows/form_window.h"
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
@@ -56,11 +63,27 @@ void showEmphasisedLines(LineList& lines, const ListBox& list) {
 
 }  // namespace
 
-WinningsView::WinningsView(MainForm& form, Binding& binding) {
+WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, window) {
+  Binding& binding = window.binding();
   setDocumentMode(true);
   addTab(plays(form, binding), u"Pla&ys"_s);
   addTab(check(form, binding), u"Chec&k"_s);
   binding.bind(form.bar.SSTab3, *this);
+  myPlays_ = new MyPlaysView(actions_, this);
+  ticket_ = new TicketView(actions_, this);
+  addTab(myPlays_, u"My P&lays"_s);
+  addTab(ticket_, u"Check a T&icket"_s);
+  explainCheck(form);
+  // The model may have the check in front already, while the window shows a tab of its own.
+  form.menu.mnuWinnings.onClick = [this, go = form.menu.mnuWinnings.onClick, &strip = form.bar.SSTab3] {
+    go();
+    setCurrentIndex(strip.tab());
+  };
+}
+
+void WinningsView::showChanges() {
+  myPlays_->refresh();
+  ticket_->refresh();
 }
 
 QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
@@ -100,24 +123,51 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
 
   auto* verdict = new Picker(winnings.Combo10.items(), page);
   verdict->setResultsOnly();
-  auto* verdictLabel = heading(page, u"V&erdict"_s);
+  auto* verdictLabel = heading(page, u"&Verdict"_s);
   verdictLabel->setBuddy(verdict);
   verdict->setAccessibleName(u"Verdict"_s);
+  explained_ = new QLabel(u"What each play's own draw says is shown here after a check."_s, page);
+  explained_->setTextFormat(Qt::PlainText);
+  explained_->setWordWrap(true);
   auto* lists = splitter(Qt::Horizontal, u"check"_s);
   showWinningLines(*titledList(*lists, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
-  showWinningLines(*titledList(*lists, u"&Their Numbers and Double Play"_s, winnings.List10, {}, binding));
+  showWinningLines(*titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding));
 
   auto* column = columnIn(page, theme::pageMargin);
   column->addLayout(choice);
   column->addWidget(verdictLabel);
   column->addWidget(verdict);
+  column->addWidget(explained_);
   column->addWidget(lists, 1);
-  binding.bind(winnings.Option1, *latest, withMnemonic('L'));
+  binding.bind(winnings.Option1, *latest, withMnemonic('E'));
   binding.bind(winnings.Option2, *byDate, withMnemonic('A'));
-  binding.bind(winnings.Command47, *run, withMnemonic('I'));
+  binding.bind(winnings.Command47, *run, withMnemonic('T'));
   binding.bind(winnings.Combo10, *verdict);
   binding.announceChangesOf(winnings.Combo10);
   return page;
+}
+
+void WinningsView::explainCheck(MainForm& form) {
+  form.winnings.Command47.onClick = [this, check = form.winnings.Command47.onClick, &form] {
+    check();
+    showExplanation(form);
+  };
+}
+
+void WinningsView::showExplanation(const MainForm& form) {
+  QStringList sentences;
+  try {
+    const GameInfo& game = actions_.game();
+    for (const std::string& sentence :
+         checkExplained(form.winnings, game, judgePlays(game, actions_.folder()))) {
+      sentences += toQString(sentence);
+    }
+  } catch (const RuntimeError& error) {
+    sentences += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
+  }
+  explained_->setText(sentences.join(u'\n'));
+  QAccessibleEvent alert(explained_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 }  // namespace tallywick

@@ -1,21 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The winnings pages: the player's plays, and the check for winning tickets.
+// The winnings pages: the player's plays and the check for winning tickets, which the model has; then My
+// Plays and a ticket that is typed in, which are the window's own.
 #pragma once
 
+#include "ui/qt/pages/play_actions.h"
+
 #include <QTabWidget>
+
+class QLabel;
 
 namespace tallywick {
 
 class Binding;
+class FormWindow;
 class MainForm;
+class MyPlaysView;
+class TicketView;
 
 class WinningsView : public QTabWidget {
  public:
-  WinningsView(MainForm& form, Binding& binding);
+  WinningsView(MainForm& form, FormWindow& window);
+
+  /// To be called after every change of the model.
+  void showChanges();
 
  private:
   QWidget* plays(MainForm& form, Binding& binding);
   QWidget* check(MainForm& form, Binding& binding);
+  /// Says beside each check what the judging says, and why the two differ.
+  void explainCheck(MainForm& form);
+  void showExplanation(const MainForm& form);
+
+  PlayActions actions_;
+  QLabel* explained_ = nullptr;
+  MyPlaysView* myPlays_ = nullptr;
+  TicketView* ticket_ = nullptr;
 };
 
 }  // namespace tallywick

@@ -67,6 +67,10 @@ void connectDesk(Application& application, QtPlatform& platform) {
   platform.onPress = [&application, &platform](Control& control) { press(application, platform, control); };
   platform.onUpdateNote = [&application] { return application.noteOfUpdate(); };
   platform.onUpdateAgain = [&application] { application.updateAgain(); };
+  platform.onPriceOfPlay = [&application](Game game) {
+    const Settings& settings = application.settings();
+    return game == Game::powerBall ? settings.powerBallPrice : settings.megaMillionsPrice;
+  };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {

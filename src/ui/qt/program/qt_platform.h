@@ -28,6 +28,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void(Control& control)> onPress;
   std::function<std::string()> onUpdateNote;
   std::function<void()> onUpdateAgain;
+  std::function<std::optional<std::int64_t>(Game)> onPriceOfPlay;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

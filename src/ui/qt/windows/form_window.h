@@ -2,11 +2,13 @@
 // A window on the screen: a model's form, its widgets and the binding between them.
 #pragma once
 
+#include "core/games.h"
 #include "ui/qt/binding/binding.h"
 
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tallywick {
 
@@ -26,6 +28,8 @@ struct Desk {
   std::function<std::string()> updateNote = {};
   /// Updates once more after an update.
   std::function<void()> updateAgain = {};
+  /// What a play costs by the settings, in cents.
+  std::function<std::optional<std::int64_t>(Game)> priceOf = {};
 };
 
 class TransferPanel;

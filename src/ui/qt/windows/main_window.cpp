@@ -39,14 +39,18 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   addPages();
   addMenusAndStatus();
   addKeys();
-  binding().afterChanges = [this] { bar_->showGame(); };
+  binding().afterChanges = [this] {
+    bar_->showGame();
+    winnings_->showChanges();
+  };
   restoreLayout(*this, usualSize);
 }
 
 void MainWindow::addPages() {
   pages_->addTab(new SummaryView(main_, binding()), u"Summa&ry"_s);
   pages_->addTab(new SearchView(main_, binding()), u"Sear&ches"_s);
-  pages_->addTab(new WinningsView(main_, binding()), u"&Winnings"_s);
+  winnings_ = new WinningsView(main_, *this);
+  pages_->addTab(winnings_, u"&Winnings"_s);
   pages_->addTab(new DrawsView(main_.draws, binding()), u"&Draws"_s);
   pages_->setCornerWidget(gameShown());
   binding().bind(main_.bar.SSTab1, *pages_);

@@ -10,6 +10,7 @@ namespace tallywick {
 
 class MainForm;
 class NavigationBarView;
+class WinningsView;
 
 class MainWindow : public FormWindow {
  public:
@@ -28,6 +29,7 @@ class MainWindow : public FormWindow {
   MainForm& main_;
   NavigationBarView* bar_;
   QTabWidget* pages_;
+  WinningsView* winnings_ = nullptr;
 };
 
 }  // namespace tallywick

@@ -87,8 +87,10 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   binding.bind(form.update.Command2, *update, withMnemonic('U'));
   binding.bind(form.update.ProgressBar1, *progress);
   binding.bind(form.bar.Command8, *next, withMnemonic('N'));
-  connect(settings, &QToolButton::clicked, &window,
-          [&window] { window.desk().runner.attempt([&window] { window.desk().editSettings(); }); });
+  connect(settings, &QToolButton::clicked, &window, [&window] {
+    window.desk().runner.attempt([&window] { window.desk().editSettings(); });
+    window.binding().showChanges();
+  });
   showGame();
 }
 

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/pages/my_plays_view.h"
+
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "ui/qt/pages/play_actions.h"
+#include "ui/qt/pages/play_table_model.h"
+#include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/wording.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QTableWidget>
+#include <algorithm>
+#include <utility>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int leastRows = 3;
+
+/// Tables whose cells are read, not edited: the Tab key leaves them.
+void makeReadable(QTableView& table) {
+  table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setTabKeyNavigation(false);
+  table.setWordWrap(false);
+  table.setCornerButtonEnabled(false);
+  table.verticalHeader()->hide();
+  table.horizontalHeader()->setHighlightSections(false);
+  table.setMinimumHeight((leastRows + 1) * (table.fontMetrics().height() + theme::gap));
+}
+
+QPushButton* button(QBoxLayout& row, const QString& text, const QString& tip) {
+  auto* made = new QPushButton(text);
+  made->setToolTip(tip);
+  row.addWidget(made);
+  return made;
+}
+
+QString sumText(const YearSums& sums, int column) {
+  const auto count = [](std::size_t number) { return QString::number(number); };
+  switch (column) {
+    case 1:
+      return count(sums.plays);
+    case 2:
+      return count(sums.waiting);
+    case 3:
+      return count(sums.wins);
+    case 4:
+      return toQString(moneyText(sums.dollars * 100)) +
+             (sums.winsWithoutPrize > 0 ? u" and %1 without a published prize"_s.arg(sums.winsWithoutPrize)
+                                        : QString());
+    case 5:
+      return sums.costInCents ? toQString(moneyText(*sums.costInCents)) : u"no price set"_s;
+    default:
+      return count(sums.doublePlayWins);
+  }
+}
+
+}  // namespace
+
+MyPlaysView::MyPlaysView(PlayActions& actions, QWidget* parent) : QWidget(parent), actions_(actions) {
+  auto* column = columnIn(this, theme::pageMargin);
+  addFilter(*column);
+  addTable(*column);
+  addButtons(*column);
+}
+
+void MyPlaysView::addFilter(QBoxLayout& column) {
+  filter_ = new QComboBox(this);
+  for (const auto& text : {u"All plays"_s, u"Waiting for their draw"_s, u"Drawn"_s, u"Won"_s})
+    filter_->addItem(text);
+  connect(filter_, &QComboBox::currentIndexChanged, this, &MyPlaysView::showPlays);
+  auto* label = new QLabel(u"Filt&er:"_s, this);
+  label->setBuddy(filter_);
+  filter_->setAccessibleName(u"Filter"_s);
+  notices_ = new QLabel(this);
+  notices_->setTextFormat(Qt::PlainText);
+  notices_->setWordWrap(true);
+  auto* line = row();
+  line->addWidget(label);
+  line->addWidget(filter_);
+  line->addSpacing(theme::gap);
+  line->addWidget(notices_, 1);
+  column.addLayout(line);
+}
+
+void MyPlaysView::addTable(QBoxLayout& column) {
+  model_ = new PlayTableModel(this);
+  sorted_ = new QSortFilterProxyModel(this);
+  sorted_->setSourceModel(model_);
+  sorted_->setSortRole(PlayTableModel::SortRole);
+  table_ = new QTableView(this);
+  table_->setAccessibleName(u"My plays"_s);
+  table_->setModel(sorted_);
+  table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  auto* balls = new BallsDelegate(table_);
+  table_->setItemDelegateForColumn(PlayTableModel::NumbersColumn, balls);
+  table_->setItemDelegateForColumn(PlayTableModel::ExtraColumn, balls);
+  makeReadable(*table_);
+  table_->verticalHeader()->setDefaultSectionSize(BallsDelegate::sideOf(table_->fontMetrics()) +
+                                                  theme::halfGap);
+  table_->setSortingEnabled(true);
+  table_->sortByColumn(PlayTableModel::DateColumn, Qt::DescendingOrder);
+  table_->horizontalHeader()->setStretchLastSection(true);
+  connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &MyPlaysView::enableActions);
+  sums_ = new QTableWidget(this);
+  sums_->setAccessibleName(u"Sums by year"_s);
+  sums_->setSelectionMode(QAbstractItemView::SingleSelection);
+  makeReadable(*sums_);
+  sums_->horizontalHeader()->setStretchLastSection(true);
+
+  auto* plays = new QWidget;
+  auto* playsColumn = columnIn(plays);
+  auto* title = heading(plays, u"Your Pl&ays"_s);
+  title->setBuddy(table_);
+  playsColumn->addWidget(title);
+  playsColumn->addWidget(table_, 1);
+  auto* years = new QWidget;
+  auto* yearsColumn = columnIn(years);
+  yearsColumn->addWidget(heading(years, u"By Year, Before Any Multiplier"_s));
+  yearsColumn->addWidget(sums_, 1);
+  auto* parts = splitter(Qt::Vertical, u"myPlays"_s);
+  parts->addWidget(plays);
+  parts->addWidget(years);
+  parts->setStretchFactor(0, 3);
+  parts->setStretchFactor(1, 1);
+  column.addWidget(parts, 1);
+}
+
+void MyPlaysView::addButtons(QBoxLayout& column) {
+  auto* line = row();
+  remove_ = button(*line, u"Remo&ve"_s, u"Takes the selected plays away; Undo brings them back (Delete)"_s);
+  move_ = button(*line, u"Move &to Played"_s,
+                 u"Moves drawn plays that are among the next plays to the played ones"_s);
+  bringBack_ = button(*line, u"&Bring Back…"_s, u"Adds the plays of a dated copy that are not among yours"_s);
+  undo_ = button(*line, u"Undo"_s, u"Undoes the last change (Ctrl+Z)"_s);
+  undo_->setShortcut(QKeySequence::Undo);
+  done_ = new QLabel(this);
+  done_->setTextFormat(Qt::PlainText);
+  line->addWidget(done_, 1);
+  column.addLayout(line);
+  connect(remove_, &QPushButton::clicked, this, &MyPlaysView::remove);
+  connect(move_, &QPushButton::clicked, this, &MyPlaysView::move);
+  connect(bringBack_, &QPushButton::clicked, this, &MyPlaysView::bringBack);
+  connect(undo_, &QPushButton::clicked, this, [this] { actions_.undo(); });
+  auto* removeKey = new QAction(table_);
+  removeKey->setShortcut(QKeySequence::Delete);
+  removeKey->setShortcutContext(Qt::WidgetShortcut);
+  table_->addAction(removeKey);
+  connect(removeKey, &QAction::triggered, remove_, &QPushButton::click);
+}
+
+void MyPlaysView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  refresh();
+}
+
+void MyPlaysView::refresh() {
+  if (!isVisible()) return;
+  if (read()) showPlays();
+  showSums();
+  const QString done = actions_.lastDone();
+  done_->setText(done.isEmpty() ? QString() : u"Done: %1."_s.arg(done));
+  enableActions();
+}
+
+bool MyPlaysView::read() {
+  const GameInfo* const shownGame = std::exchange(game_, &actions_.game());
+  Judgement judgement;
+  failure_.clear();
+  try {
+    shown_ = readPlayTexts(*game_, actions_.folder());
+    judgement = judgePlays(*game_, actions_.folder(), shown_.played, shown_.committed);
+    showNotices(noticesOn(judgement));
+  } catch (const RuntimeError& error) {
+    failure_ = join("The plays cannot be judged: ", error.what());
+    showNotices({failure_});
+  }
+  const bool isNew = shownGame != game_ || judgement != judgement_;
+  judgement_ = std::move(judgement);
+  return isNew;
+}
+
+void MyPlaysView::showNotices(const std::vector<std::string>& notices) {
+  QStringList lines;
+  for (const std::string& notice : notices) lines += toQString(notice);
+  notices_->setText(lines.join(u'\n'));
+  notices_->setVisible(!lines.isEmpty());
+}
+
+void MyPlaysView::showPlays() {
+  if (game_ == nullptr) return;
+  const int row = table_->currentIndex().row();
+  model_->show(*game_, playsIn(judgement_, static_cast<PlayFilter>(filter_->currentIndex())));
+  table_->resizeColumnsToContents();
+  // The arrow keys go on from where they were.
+  const QModelIndex current = sorted_->index(std::clamp(row, 0, std::max(0, sorted_->rowCount() - 1)), 0);
+  table_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+}
+
+void MyPlaysView::showSums() {
+  std::vector<YearSums> rows = sumsByYear(judgement_, actions_.price());
+  rows.push_back(totalOf(rows));
+  QStringList columns = {u"Year"_s, u"Plays"_s, u"Waiting"_s, u"Won"_s, u"Prizes"_s, u"Cost"_s};
+  if (game_->game == Game::powerBall) columns += u"Won with Double Play"_s;
+  sums_->setColumnCount(static_cast<int>(columns.size()));
+  sums_->setHorizontalHeaderLabels(columns);
+  sums_->setRowCount(static_cast<int>(rows.size()));
+  for (int line = 0; line < sums_->rowCount(); ++line) {
+    const YearSums& sums = rows[static_cast<std::size_t>(line)];
+    const bool isTotal = line + 1 == sums_->rowCount();
+    for (int column = 0; column < sums_->columnCount(); ++column) {
+      QString text = sumText(sums, column);
+      if (column == 0) text = sums.year ? QString::number(*sums.year) : isTotal ? u"All"_s : u"no such day"_s;
+      auto* item = new QTableWidgetItem(text);
+      if (column > 0) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      if (isTotal) item->setFont(theme::headingFont(font()));
+      sums_->setItem(line, column, item);
+    }
+  }
+  sums_->resizeColumnsToContents();
+  sums_->resizeRowsToContents();
+}
+
+std::vector<JudgedPlay> MyPlaysView::selected() const {
+  std::vector<JudgedPlay> plays;
+  for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
+    plays.push_back(model_->playAt(sorted_->mapToSource(index).row()));
+  }
+  return plays;
+}
+
+void MyPlaysView::enableActions() {
+  const std::vector<JudgedPlay> plays = selected();
+  const auto isLeftBehind = [](const JudgedPlay& play) { return misplacedOf(play) == Misplaced::leftBehind; };
+  remove_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isRemovable));
+  move_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isLeftBehind));
+  bringBack_->setEnabled(failure_.empty());
+  undo_->setEnabled(actions_.canUndo());
+}
+
+void MyPlaysView::remove() {
+  std::vector<PlayPlace> places;
+  for (const JudgedPlay& play : selected()) places.push_back({play.file, play.record});
+  actions_.make([&](const PlayChanges& changes) { return changes.remove(shown_, places); });
+}
+
+void MyPlaysView::move() {
+  std::vector<std::size_t> records;
+  for (const JudgedPlay& play : selected()) records.push_back(play.record);
+  std::ranges::sort(records);
+  actions_.make([&](const PlayChanges& changes) { return changes.moveToPlayed(shown_, records); });
+}
+
+void MyPlaysView::bringBack() {
+  actions_.make([this](const PlayChanges& changes) -> std::optional<PlayChange> {
+    std::vector<PlayCopy> copies = changes.copies();
+    std::erase_if(copies, [](const PlayCopy& copy) { return copy.missing == 0; });
+    if (copies.empty()) throw std::runtime_error("No dated copy contains a play that is not among yours.");
+    QStringList lines;
+    for (const PlayCopy& copy : copies) {
+      lines += u"%1: %2 of %3 plays are not among yours"_s.arg(toQString(copy.name))
+                   .arg(copy.missing)
+                   .arg(copy.plays);
+    }
+    bool isChosen = false;
+    const QString line =
+        QInputDialog::getItem(this, u"Bring Back"_s, u"Add the plays that are not among yours from &copy:"_s,
+                              lines, 0, false, &isChosen);
+    if (!isChosen) return std::nullopt;
+    return changes.bringBack(shown_, copies.at(static_cast<std::size_t>(lines.indexOf(line))).name);
+  });
+}
+
+}  // namespace tallywick

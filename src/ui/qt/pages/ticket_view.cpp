@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/pages/ticket_view.h"
+
+#include "core/eras.h"
+#include "plays/play_table.h"
+#include "plays/ticket.h"
+#include "ui/qt/pages/play_actions.h"
+#include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/wording.h"
+
+#include <QAccessible>
+#include <QDateEdit>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace tallywick {
+
+using namespace Qt::StringLiterals;
+
+TicketView::TicketView(PlayActions& actions, QWidget* parent)
+    : QWidget(parent),
+      actions_(actions),
+      numbers_(new QLineEdit(this)),
+      extra_(new QLineEdit(this)),
+      date_(new QDateEdit(QDate::currentDate(), this)),
+      extraLabel_(new QLabel(this)),
+      verdict_(new QLabel(this)),
+      keep_(new QPushButton(u"K&eep It"_s, this)) {
+  auto* column = columnIn(this, theme::pageMargin);
+  column->addWidget(heading(this, u"A ticket is judged by the draw of its date, and not kept."_s));
+  auto* form = new QFormLayout;
+  form->setHorizontalSpacing(theme::gap);
+  form->setVerticalSpacing(theme::gap);
+  numbers_->setPlaceholderText(u"five numbers, as 5 11 23 42 60"_s);
+  numbers_->setMaximumWidth(40 * theme::gap);
+  extra_->setMaximumWidth(8 * theme::gap);
+  date_->setDisplayFormat(u"MM-dd-yyyy"_s);
+  date_->setCalendarPopup(true);
+  date_->setMaximumWidth(20 * theme::gap);
+  form->addRow(u"Num&bers:"_s, numbers_);
+  extraLabel_->setBuddy(extra_);
+  form->addRow(extraLabel_, extra_);
+  form->addRow(u"Da&te of the draw:"_s, date_);
+  column->addLayout(form);
+  auto* judgeButton = new QPushButton(u"&Judge"_s, this);
+  auto* line = row();
+  line->addWidget(judgeButton);
+  line->addWidget(keep_);
+  line->addStretch();
+  column->addLayout(line);
+  verdict_->setTextFormat(Qt::PlainText);
+  verdict_->setWordWrap(true);
+  verdict_->setFont(theme::headingFont(verdict_->font()));
+  column->addWidget(verdict_);
+  column->addStretch();
+  keep_->setEnabled(false);
+  keep_->setToolTip(
+      u"Adds the ticket to your played plays, or to the next plays where its draw is to come"_s);
+  connect(judgeButton, &QPushButton::clicked, this, &TicketView::judge);
+  for (const QLineEdit* edit : {numbers_, extra_}) {
+    connect(edit, &QLineEdit::returnPressed, this, &TicketView::judge);
+    connect(edit, &QLineEdit::textEdited, this, &TicketView::forget);
+  }
+  connect(date_, &QDateEdit::dateChanged, this, &TicketView::forget);
+  connect(keep_, &QPushButton::clicked, this, &TicketView::keep);
+  numbers_->setAccessibleName(u"Numbers"_s);
+  date_->setAccessibleName(u"Date of the draw"_s);
+  refresh();
+}
+
+void TicketView::refresh() {
+  const QString name = toQString(extraBallName(actions_.game().game));
+  const QString label = QString(name).replace(u"all"_s, u"&all:"_s);
+  if (extraLabel_->text() == label) return;
+  extraLabel_->setText(label);
+  extra_->setAccessibleName(name);
+  forget();
+}
+
+void TicketView::judge() {
+  forget();
+  try {
+    const GameInfo& game = actions_.game();
+    const std::string numbers = toText(numbers_->text());
+    const std::string extra = toText(extra_->text());
+    const std::string date = toText(date_->date().toString(u"MM-dd-yyyy"_s));
+    record_ = ticketRecord(game, {numbers, extra, date});
+    const JudgedPlay ticket = judgeTicket(game, actions_.folder(), record_);
+    const bool isKept = isAmongPlays(judgePlays(game, actions_.folder()), ticket);
+    keep_->setEnabled(canBeKept(ticket));
+    say(toQString(ticketVerdict(game, ticket)) +
+        (isKept ? u" It is among your plays already."_s : QString()));
+  } catch (const std::exception& error) {
+    forget();
+    say(QString::fromUtf8(error.what()));
+  }
+}
+
+void TicketView::keep() {
+  const JudgedPlay ticket = judgeTicket(actions_.game(), actions_.folder(), record_);
+  const PlaySlot file = fileForTicket(ticket);
+  const std::string record = record_;
+  if (!actions_.make([&](const PlayChanges& changes) { return changes.add(file, record); })) return;
+  forget();
+  say(file == PlaySlot::played ? u"Kept among your played plays. My Plays can undo it."_s
+                               : u"Kept among your next plays. My Plays can undo it."_s);
+}
+
+void TicketView::say(const QString& text) {
+  verdict_->setText(text);
+  QAccessibleEvent alert(verdict_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void TicketView::forget() {
+  record_.clear();
+  keep_->setEnabled(false);
+  verdict_->clear();
+}
+
+}  // namespace tallywick
