@@ -132,7 +132,7 @@ class Portal : public Desktop {
   }
 
   const Day newest = dayOf(2026, 11, 18);
-  TreeFolder web;
+  ScratchFolder web;
   std::unique_ptr<ServerProcess> server;
   QTimer answering;
   QMessageBox::StandardButton answer = QMessageBox::Ok;
