@@ -160,7 +160,10 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   const auto note = [this] { return application.noteOfUpdate(); };
   EXPECT_EQ(note(), "Next draw: Saturday, 11-21-2026");
 
-  auto& again = *window("Form1").findChild<QPushButton*>(QStringLiteral("fetchAgain"));
+  const QList<QPushButton*> buttons = window("Form1").findChildren<QPushButton*>();
+  auto& again = **std::ranges::find_if(buttons, [](const QPushButton* button) {
+    return button->text().remove(u'&') == QLatin1String("Fetch Again");
+  });
   const auto updated = scratch.snapshot();
   again.click();
   EXPECT_EQ(boxText,
@@ -174,8 +177,9 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
 }
 
 TEST_F(Portal, AFailureOfTheUpdateItselfEndsNothing) {
+  scratch.write("QzrNumbers/QZR6MEG/QZR6MEG1.Ply", "\"11-28-2026\",\"01\"\r\n");
   update();
-  EXPECT_EQ(boxes.back(), "The update could not be completed.") << "there are no plays to be moved";
+  EXPECT_EQ(boxes.back(), "The update could not be completed.") << "the plays cannot be read";
   EXPECT_FALSE(platform.ended());
   EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
   EXPECT_TRUE(newestLine().starts_with(" 11-18-2026")) << newestLine();

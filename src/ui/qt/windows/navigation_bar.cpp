@@ -99,7 +99,6 @@ QWidget* NavigationBarView::updateNote() {
   note_->setTextFormat(Qt::PlainText);
   note_->setWordWrap(true);
   note_->setMinimumWidth(20 * theme::gap);
-  again_->setObjectName(u"fetchAgain"_s);
   again_->setToolTip(u"Asks once more for the draws of both games"_s);
   auto* line = new QHBoxLayout(box);
   line->setContentsMargins(0, 0, 0, 0);
