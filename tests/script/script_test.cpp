@@ -53,7 +53,7 @@ TEST(Script, ALineThatCannotBeUnderstoodIsNumbered) {
            {"choose SSTab2 4", "there is no such tab"},
            {"choose SSTab3 2", "there is no such tab"},
            {"choose Combo4 x", "choose takes a name and an index from 0"},
-           {"windows please", "windows stands alone"},
+           {"windows please", "windows takes no argument"},
            {"now 02-30-2026 12:00:00", "now takes MM-DD-YYYY HH:MM:SS"},
            {"now 1-1-2026 12:00:00", "now takes MM-DD-YYYY HH:MM:SS"},
            {"answer maybe", "answer takes yes or no"},

@@ -76,7 +76,7 @@ void ScriptRun::runLine(std::string_view line) {
   } else if (verb == "close") {
     close(trimmed(rest));
   } else if (verb == "windows") {
-    if (!trimmed(rest).empty()) throw BadLine("windows stands alone");
+    if (!trimmed(rest).empty()) throw BadLine("windows takes no argument");
     listWindows();
   } else if (verb == "plays") {
     judgePlays(trimmed(rest));

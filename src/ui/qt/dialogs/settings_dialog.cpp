@@ -53,7 +53,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   source_->addItem(u"An update server"_s);
   source_->setCurrentIndex(settings.source == Settings::Source::server ? 1 : 0);
   addField(*form, u"Updates &come from:"_s, *source_,
-           u"So far an update always needs a server; with public exports it uses the one below."_s);
+           u"Public exports need the two addresses below; an update server needs the fields after them."_s);
   powerBallDraws_ = addText(*form, u"&PowerBall draws:"_s, settings.powerBallDraws, exportExplanation);
   megaMillionsDraws_ =
       addText(*form, u"&Mega Millions draws:"_s, settings.megaMillionsDraws, exportExplanation);

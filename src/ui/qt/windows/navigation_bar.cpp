@@ -39,7 +39,7 @@ void showSide(QPushButton& button, bool on) {
 QToolButton* settingsButton(QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setText(u"Settings…"_s);
-  button->setToolTip(u"The update server and the web pages (Ctrl+,)"_s);
+  button->setToolTip(u"Where updates come from, web pages and prices (Ctrl+,)"_s);
   button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
   button->setFocusPolicy(Qt::TabFocus);
   return button;
