@@ -105,7 +105,7 @@ Day drawDayAfter(Game game, Day day) {
 
 Day lastDrawnDay(std::string_view date, std::string_view time) {
   const std::optional<Day> today = parseDay(date);
-  if (!today) throw std::invalid_argument(join("\"", date, "\" is no date; expected MM-DD-YYYY"));
+  if (!today) throw std::invalid_argument(join("\"", date, "\" is not a date; expected MM-DD-YYYY"));
   return time > "23:00:00" ? *today : *today - 1;
 }
 

@@ -66,7 +66,7 @@ std::vector<Day> drawDays(Game game, Day first, Day last);
 Day drawDayAfter(Game game, Day day);
 
 /// The last day whose draw has taken place at `date` (MM-DD-YYYY) and `time` (HH:MM:SS): today's is drawn at
-/// eleven in the evening. std::invalid_argument where it is no date.
+/// eleven in the evening. std::invalid_argument where it is not a date.
 Day lastDrawnDay(std::string_view date, std::string_view time);
 
 }  // namespace tallywick

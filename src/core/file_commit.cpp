@@ -257,7 +257,7 @@ void setAside(const fs::path& folder, bool isReadable) {
 void requireStageable(const fs::path& folder, std::string_view name) {
   if (canBeStaged(name)) return;
   throw RuntimeError(ErrorNumber::pathFileAccess,
-                     join(textOf(folder), ": \"", name, "\" is no plain file name"));
+                     join(textOf(folder), ": \"", name, "\" is not a plain file name"));
 }
 
 /// Finishes a change that was cut short after its journal was in place, and removes what an uncommitted one

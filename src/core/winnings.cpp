@@ -23,7 +23,7 @@ bool isMarked(std::string_view markCount, const SequentialReader& reader) {
   if (!isDecimal || error != std::errc() || end != text.data() + text.size()) {
     throw RuntimeError(ErrorNumber::typeMismatch,
                        join(reader.name(), ", record ", std::to_string(reader.recordNumber()),
-                            ": mark count \"", markCount, "\" is no number"));
+                            ": mark count \"", markCount, "\" is not a number"));
   }
   return value >= 1;
 }

@@ -20,8 +20,8 @@ inline constexpr std::size_t winningsFields = 5;
 
 /// One line a record for the amounts list: a blank, the display date, four blanks, the amount without outer
 /// blanks, and the mark "   * " after two blanks where the mark count is 1 or more. The file's last record is
-/// not listed. Error 13 where a mark count is no number, 62 where the file is empty; the lines before it have
-/// been given to `add`.
+/// not listed. Error 13 where a mark count is not a number, 62 where the file is empty; the lines before it
+/// have been given to `add`.
 void listAmounts(const DataFolder& folder, const GameInfo& game,
                  const std::function<void(std::string_view)>& add);
 

@@ -47,14 +47,14 @@ std::string visible(std::string_view text, std::size_t most) {
 
 Day checkedDay(std::string_view text, Day today) {
   const std::optional<Day> day = parseDay(text);
-  if (!day) refuse(quoted(text), " is no date (MM/DD/YYYY)");
+  if (!day) refuse(quoted(text), " is not a date (MM/DD/YYYY)");
   if (*day > today) refuse(displayDate(*day), " is later than today, ", displayDate(today));
   return *day;
 }
 
 int checkedNumber(std::string_view text) {
   const auto number = wholeNumber<int>(text);
-  if (!number) refuse(quoted(text), " is no number");
+  if (!number) refuse(quoted(text), " is not a number");
   return *number;
 }
 

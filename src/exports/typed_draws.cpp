@@ -56,7 +56,7 @@ auto inField(TypedField field, Check check) {
 Day checkedDrawDay(Game game, std::string_view text, Day today) {
   const Day day = checkedDay(trimmed(text), today);
   if (day < firstDrawDay(game)) fail("the game was not drawn yet on ", displayDate(day));
-  if (!isDrawDay(game, day)) fail(displayDate(day), " is no draw day of ", infoOf(game).name);
+  if (!isDrawDay(game, day)) fail(displayDate(day), " is not a draw day of ", infoOf(game).name);
   return day;
 }
 

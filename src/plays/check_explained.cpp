@@ -83,11 +83,11 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
     if (count > 0) sentences.push_back(join(what, ": ", plays(count), ". ", why));
   };
   if (isByDate && !listed.empty() && page.Combo10.items().empty()) {
-    sentences.emplace_back("The verdict line is that of a play which lost; the lists have those that won.");
+    sentences.emplace_back("The verdict line is from a losing play; the lists have those that won.");
   }
   say("Listed, and not won", counts.listedButNotWon,
       isByDate ? "The check counts blank and repeated numbers too."
-               : "The check sets every play against the newest draw; a ticket counts in the draw of its own "
+               : "The check compares every play with the newest draw; a ticket counts in the draw of its own "
                  "date.");
   say("Won, and not listed", counts.wonButNotListed,
       isByDate ? "The check compares dates as they are written."

@@ -34,7 +34,7 @@ std::vector<std::string_view> wordsIn(std::string_view text) {
 int numberUpTo(int last, std::string_view word, std::string_view what) {
   const std::optional<int> number = wholeNumber<int>(word);
   if (!number || *number < 1 || *number > last) {
-    refuse(join(what, " is \"", word, "\"; it can be a number from 1 to ", std::to_string(last), "."));
+    refuse(join(what, " is \"", word, "\"; it must be a number from 1 to ", std::to_string(last), "."));
   }
   return *number;
 }
@@ -59,7 +59,7 @@ std::string describe(const GameInfo& game, const JudgedPlay& ticket) {
 
 std::string ticketRecord(const GameInfo& game, const TypedTicket& typed) {
   const std::optional<Day> day = parseDay(trimmed(typed.date));
-  if (!day) refuse(join("The date is \"", trimmed(typed.date), "\"; it can be a day as MM-DD-YYYY."));
+  if (!day) refuse(join("The date is \"", trimmed(typed.date), "\"; it must be a day as MM-DD-YYYY."));
   const std::optional<Matrix> matrix = matrixOn(game.game, *day);
   if (!matrix) refuse(join(game.name, " was first drawn on ", displayDate(firstDrawDay(game.game)), "."));
   const std::vector<std::string_view> words = wordsIn(typed.numbers);

@@ -37,14 +37,14 @@ bool isComment(std::string_view text) {
 Settings::Tls tlsNamed(std::string_view word) {
   if (equalIgnoringCase(word, "off")) return Settings::Tls::off;
   if (equalIgnoringCase(word, "required")) return Settings::Tls::required;
-  refuse(join("tls is \"", word, "\"; it can be off or required"));
+  refuse(join("tls is \"", word, "\"; it must be off or required"));
 }
 
 /// An export's address; the built-in one for an empty text.
 std::string exportAddress(std::string_view key, std::string_view value, std::string_view builtIn) {
   if (value.empty()) return std::string(builtIn);
   if (!value.starts_with("https://") && !value.starts_with("http://"))
-    refuse(join(key, " is \"", value, "\"; it can be an address that begins with https://"));
+    refuse(join(key, " is \"", value, "\"; it must be an address that begins with https://"));
   return std::string(value);
 }
 
@@ -85,7 +85,7 @@ std::string_view valueIn(std::string_view key, std::string_view text) {
   const std::size_t rest = std::min(end, text.size() - 1) + 1;
   const std::string_view behind = withoutBlanks(text.substr(rest));
   if (!behind.empty() && !isComment(behind)) {
-    if (isQuoted) refuse(join("there is more behind the closing quote of ", key));
+    if (isQuoted) refuse(join("text follows the closing quote of ", key));
     refuse(join(key, " has a value with blanks; put it between double quotes"));
   }
   if (isQuoted) return text.substr(1, end - 1);
@@ -117,7 +117,7 @@ std::string inQuotes(std::string_view value) {
 Settings::Source sourceNamed(std::string_view word) {
   if (equalIgnoringCase(word, "public")) return Settings::Source::publicExports;
   if (equalIgnoringCase(word, "server")) return Settings::Source::server;
-  refuse(join("source is \"", word, "\"; it can be public or server"));
+  refuse(join("source is \"", word, "\"; it must be public or server"));
 }
 
 std::optional<std::int64_t> priceFrom(std::string_view text) {
@@ -131,7 +131,7 @@ std::optional<std::int64_t> priceFrom(std::string_view text) {
   };
   const std::optional<std::int64_t> whole = wholeNumber<std::int64_t>(dollars);
   if (!isDigits(dollars) || !isDigits(cents) || cents.size() != 2 || !whole || *whole > most)
-    refuse(join("the price of a play is \"", text, "\"; it can be dollars and cents, such as 2 or 2.50"));
+    refuse(join("the price of a play is \"", text, "\"; it must be dollars and cents, such as 2 or 2.50"));
   return *whole * 100 + *wholeNumber<std::int64_t>(cents);
 }
 

@@ -166,7 +166,7 @@ Contents readArchive(const fs::path& file) {
     if (zip_stat_index(archive.get(), i, ZIP_FL_ENC_RAW, &entry) != 0)
       fail(file, zip_strerror(archive.get()));
     const std::string name = entry.name;
-    if (!isSafe(name)) fail(file, "\"", name, "\" is no file of a record book");
+    if (!isSafe(name)) fail(file, "\"", name, "\" is not a file of a record book");
     if (entry.size > mostBytes || (size += entry.size) > mostBytes) fail(file, "it is too large");
     const std::string bytes = name.ends_with('/') ? "" : readEntry(file, archive.get(), i, entry);
     if (!contents.emplace(name, bytes).second) fail(file, "it has \"", name, "\" twice");

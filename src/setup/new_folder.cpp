@@ -128,7 +128,7 @@ void requireFolder(const fs::path& folder) {
     throw std::runtime_error(folder.string() + " is in the way: it is a link. Nothing was changed");
   }
   if (!fs::is_directory(folder)) {
-    throw std::runtime_error(folder.string() + " is in the way: it is no folder. Nothing was changed");
+    throw std::runtime_error(folder.string() + " is in the way: it is not a folder. Nothing was changed");
   }
 }
 
@@ -215,7 +215,7 @@ bool holdsRecords(const fs::path& folder) {
 
 void requireGameFolders(const fs::path& root) {
   if (isThere(root) && !fs::is_directory(root)) {
-    throw std::runtime_error(root.string() + " is in the way: it is no folder. Nothing was changed");
+    throw std::runtime_error(root.string() + " is in the way: it is not a folder. Nothing was changed");
   }
   for (const GameInfo* game : {&powerBall, &megaMillions}) requireRoomFor(root, game->folder);
 }

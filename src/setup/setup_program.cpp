@@ -76,7 +76,8 @@ void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
 Game gameNamed(const std::string& option, const std::string& name) {
   if (equalIgnoringCase(name, "powerball")) return Game::powerBall;
   if (equalIgnoringCase(name, "mega-millions")) return Game::megaMillions;
-  throw CLI::ValidationError(option, join("\"", name, "\" is no game; it can be powerball or mega-millions"));
+  throw CLI::ValidationError(option,
+                             join("\"", name, "\" is not a game; it must be powerball or mega-millions"));
 }
 
 /// What brings real draws into DIR, one of them at a time.
@@ -362,7 +363,7 @@ void removeDraw(const Options& options, std::ostream& out) {
   requireGameFolders(options.folder);
   const Game game = gameNamed("--remove-draw", options.removedDraw[0]);
   const std::optional<Day> day = parseDay(options.removedDraw[1]);
-  if (!day) throw std::runtime_error(join("\"", options.removedDraw[1], "\" is no date (MM-DD-YYYY)"));
+  if (!day) throw std::runtime_error(join("\"", options.removedDraw[1], "\" is not a date (MM-DD-YYYY)"));
   exports::removeDraw(DataFolder(options.folder), game, *day);
   out << infoOf(game).name << ": the draw of " << displayDate(*day) << " was removed\n";
 }

@@ -24,7 +24,7 @@ struct Meaning {
 };
 
 constexpr std::array meanings = {
-    Meaning{CURLE_URL_MALFORMAT, TransferFault::address, "the update server's address is none", false,
+    Meaning{CURLE_URL_MALFORMAT, TransferFault::address, "the update server's address is not valid", false,
             "no web address: "},
     Meaning{CURLE_COULDNT_RESOLVE_HOST, TransferFault::address, "the update server's address is not known",
             false, "not connected to the internet, or no such server: "},
@@ -40,26 +40,26 @@ constexpr std::array meanings = {
     Meaning{CURLE_SSL_CACERT_BADFILE, TransferFault::tls, "the file of trusted certificates cannot be read"},
     Meaning{CURLE_REMOTE_ACCESS_DENIED, TransferFault::serverFolder, "the server does not open the folder ",
             true},
-    Meaning{CURLE_REMOTE_FILE_NOT_FOUND, TransferFault::serverFile, "the server does not give ", true},
-    Meaning{CURLE_FTP_COULDNT_RETR_FILE, TransferFault::serverFile, "the server does not give ", true},
+    Meaning{CURLE_REMOTE_FILE_NOT_FOUND, TransferFault::serverFile, "the server did not send ", true},
+    Meaning{CURLE_FTP_COULDNT_RETR_FILE, TransferFault::serverFile, "the server did not send ", true},
     Meaning{CURLE_QUOTE_ERROR, TransferFault::serverFolder, "the server refuses ", true},
-    Meaning{CURLE_UPLOAD_FAILED, TransferFault::serverFile, "the server does not take ", true},
+    Meaning{CURLE_UPLOAD_FAILED, TransferFault::serverFile, "the server rejected ", true},
     Meaning{CURLE_PARTIAL_FILE, TransferFault::interrupted, "interrupted in the middle of ", true},
     Meaning{CURLE_BAD_CONTENT_ENCODING, TransferFault::interrupted, "damaged on its way: ", true},
-    Meaning{CURLE_RECV_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
-    Meaning{CURLE_SEND_ERROR, TransferFault::interrupted, "connection lost, in hand was ", true},
-    Meaning{CURLE_GOT_NOTHING, TransferFault::interrupted, "connection lost, in hand was ", true},
+    Meaning{CURLE_RECV_ERROR, TransferFault::interrupted, "connection lost during ", true},
+    Meaning{CURLE_SEND_ERROR, TransferFault::interrupted, "connection lost during ", true},
+    Meaning{CURLE_GOT_NOTHING, TransferFault::interrupted, "connection lost during ", true},
 };
 
 constexpr long serviceClosing = 421;
 
 std::string_view timedOutAt(const CurlOperation& operation, Asked asked) {
-  if (operation.passedLimit() == PassedLimit::rate) return "timed out, too slow was ";
+  if (operation.passedLimit() == PassedLimit::rate) return "timed out, too slow: ";
   if (operation.passedLimit() == PassedLimit::folder)
     return asked == Asked::webServer ? "timed out, it takes too long: "
-                                     : "timed out, the folder takes too long, in hand was ";
+                                     : "timed out, the folder takes too long: ";
   if (!operation.isConnected()) return "timed out while connecting";
-  return operation.bytesDone() == 0 ? "timed out while waiting for an answer, in hand was "
+  return operation.bytesDone() == 0 ? "timed out while waiting for an answer to "
                                     : "timed out, the transfer stalled in the middle of ";
 }
 

@@ -34,7 +34,7 @@ void checkOption(CURLoption option, CURLcode result) {
   if (result == CURLE_OK) return;
   if (result == CURLE_OUT_OF_MEMORY) throw std::bad_alloc();
   const curl_easyoption* known = curl_easy_option_by_id(option);
-  throw transferError(TransferFault::protocol, join("the transfer library does not take the setting ",
+  throw transferError(TransferFault::protocol, join("the transfer library rejects the setting ",
                                                     known != nullptr ? known->name : "asked for"));
 }
 

@@ -186,7 +186,7 @@ bool CurlTransfer::directoryExists(std::string_view serverFolder) {
 void CurlTransfer::createDirectory(std::string_view serverFolder) {
   const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' '; };
   if (std::ranges::any_of(serverFolder, isControl)) {
-    throw transferError(TransferFault::name, join(inQuotes(serverFolder), " is no folder's name"));
+    throw transferError(TransferFault::name, join(inQuotes(serverFolder), " is not a folder's name"));
   }
   runner_.begin(session_.times);
   FtpOperation operation(session_, "");
@@ -284,7 +284,7 @@ std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile&
   const std::uint64_t got = operation.received().size();
   if (got != length.value_or(got)) {
     throw transferError(TransferFault::length,
-                        join(inQuotes(file.name), " came down with another length than the server announced"),
+                        join(inQuotes(file.name), " has another length than the server announced"),
                         whereIs(path));
   }
   return operation.received();

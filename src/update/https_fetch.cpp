@@ -31,7 +31,7 @@ struct Refusal {
 constexpr std::array refusals = {
     Refusal{403, "the server refuses access to "},
     Refusal{404, "the server does not have "},
-    Refusal{429, "too many requests, try again later: the server puts off "},
+    Refusal{429, "too many requests, try again later: the server deferred "},
     Refusal{503, "the server is overloaded or being repaired, try again later for "},
 };
 
@@ -52,7 +52,8 @@ WebAddress webAddress(const std::string& text) {
   const std::string scheme = parts.part(CURLUPART_SCHEME);
   if (!parts.isValid() || (scheme != "https" && scheme != "http") || parts.has(CURLUPART_USER) ||
       parts.has(CURLUPART_PASSWORD)) {
-    throw transferError(TransferFault::address, join(inQuotes(text), " is no web address"), printable(text));
+    throw transferError(TransferFault::address, join(inQuotes(text), " is not a web address"),
+                        printable(text));
   }
   WebAddress address{text, scheme == "https", isLoopback(parts.part(CURLUPART_HOST))};
   if (!address.isEncrypted && !address.isOnThisComputer) {
@@ -226,7 +227,7 @@ FetchedDocument fetchDocument(const std::string& address, const Validators& know
     if (next.empty()) refuse(status, subject, where);
     from = redirected(from, next);
   }
-  throw transferError(TransferFault::redirect, join(subject, " leads to more than five other addresses"),
+  throw transferError(TransferFault::redirect, join(subject, " redirects more than five times"),
                       printable(from.text));
 }
 

@@ -28,10 +28,10 @@ void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& l
   for (const ListedFile& file : files) {
     const std::string lists = join("the server lists ", inQuotes(file.name));
     if (!isPlainFileName(file.name)) {
-      throw transferError(TransferFault::name, join(lists, ", which is no plain file name"));
+      throw transferError(TransferFault::name, join(lists, ", which is not a plain file name"));
     }
     if (isOwnName(file.name)) {
-      throw transferError(TransferFault::name, join(lists, ", a name that this program keeps for itself"));
+      throw transferError(TransferFault::name, join(lists, ", a name that this program reserves"));
     }
     if (!names.insert(lowered(file.name)).second) {
       throw transferError(TransferFault::name, join(lists, " twice"));

@@ -14,7 +14,7 @@ namespace tallywick {
 class Clock;
 class DataFolder;
 
-/// Raises an error where a file has no plain name, a name that the program keeps for itself or the name of
+/// Raises an error where a file has no plain name, a name that the program reserves or the name of
 /// another in another letter case, where one is too large or there are too many, and where there is none: an
 /// update that brings nothing is a failure.
 void checkIncoming(const std::vector<ListedFile>& files, const IncomingLimits& limits);

@@ -235,7 +235,7 @@ exports::ExportedDraws drawsIn(const FetchedDocument& document, const std::strin
     draws = exports::readDraws(game, rows, today);
   } catch (const std::runtime_error& error) {
     throw transferError(TransferFault::exportContents,
-                        join(subject, " is no export of draws: ", error.what()), printable(address));
+                        join(subject, " is not an export of draws: ", error.what()), printable(address));
   }
   if (isCutShort(document)) {
     throw transferError(TransferFault::exportContents,

@@ -91,7 +91,7 @@ bool isUnixMode(std::string_view word) {
 }
 
 /// "Nov 21 10:35", "Nov 21 2026" or, with `words` 2 long, "2026-11-21 10:35", behind the size at `at`. The
-/// number of the date's words; 0 where there is no date.
+/// number of the date's words; 0 where there is not a date.
 std::size_t dateLengthBehind(const std::vector<Word>& words, std::size_t at) {
   const auto word = [&](std::size_t i) {
     return at + i < words.size() ? words[at + i].text : std::string_view();

@@ -61,17 +61,17 @@ TEST(Settings, ComeFromTheServerOnlyWhereOneIsSet) {
 TEST(Settings, ALineThatCannotBeUnderstoodIsNamedRatherThanIgnored) {
   const ScratchFolder scratch;
   for (const auto& [text, complaint] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"tls=requird", "1: tls is \"requird\"; it can be off or required"},
-           {"\nsource=ftp", "2: source is \"ftp\"; it can be public or server"},
+           {"tls=requird", "1: tls is \"requird\"; it must be off or required"},
+           {"\nsource=ftp", "2: source is \"ftp\"; it must be public or server"},
            {"mega-millions-draws=file:///x",
-            "1: mega-millions-draws is \"file:///x\"; it can be an address that begins with https://"},
+            "1: mega-millions-draws is \"file:///x\"; it must be an address that begins with https://"},
            {"web-site=http://x/?a=1,2",
             "1: web-site has a value with a comma, a semicolon or a quote; put it between double quotes"},
            {"powerball-price=2.5",
-            "1: the price of a play is \"2.5\"; it can be dollars and cents, such as 2 or 2.50"},
+            "1: the price of a play is \"2.5\"; it must be dollars and cents, such as 2 or 2.50"},
            {"server=a b", "1: server has a value with blanks; put it between double quotes"},
            {"server=\"a", "1: the value of server has no closing quote"},
-           {"server=\"a\"b\"", "1: there is more behind the closing quote of server"},
+           {"server=\"a\"b\"", "1: text follows the closing quote of server"},
            {"tls=off\nserver", "2: server has no value"},
            {"server= ; none\n", "1: server has no value"},
            {"servr=host", "1: there is no setting \"servr\""},

@@ -47,18 +47,18 @@ TEST(Import, TheFormsOfAnExportMakeNoDifference) {
 TEST(Import, RowsThatHoldNoDrawAreRefusedWithLineAndReason) {
   const std::string good = "06/10/2026,01 02 03 04 05 06,2,11 12 13 14 15 16\n";
   for (const auto& [row, refused] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"06/31/2026,01 02 03 04 05 06,2,", "!3 \"06/31/2026\" is no date (MM/DD/YYYY)"},
-           {"257/01/2026,01 02 03 04 05 06,2,", "!3 \"257/01/2026\" is no date (MM/DD/YYYY)"},
+           {"06/31/2026,01 02 03 04 05 06,2,", "!3 \"06/31/2026\" is not a date (MM/DD/YYYY)"},
+           {"257/01/2026,01 02 03 04 05 06,2,", "!3 \"257/01/2026\" is not a date (MM/DD/YYYY)"},
            {"06/13/2026,01 02 03 04 05,2,", "!3 5 numbers instead of 6"},
            {"06/13/2026,01 02 03 04 100 06,2,", "!3 the white ball 100 is not from 1 to 99"},
            {"01/04/2012,01 02 03 04 60 06,2,", "!3 the white ball 60 is not from 1 to 59"},
            {"11/28/2026,01 02 03 04 05 06,2,", "!3 11-28-2026 is later than today, 11-21-2026"},
            {"\"06/13/2026,01 02 03 04 05 06",
-            "!3 \"06/13/2026,01 02 03 04 05 06\\x0A\" is no date (MM/DD/YYYY)"},
+            "!3 \"06/13/2026,01 02 03 04 05 06\\x0A\" is not a date (MM/DD/YYYY)"},
            {"06/13/2026,\"01 02 03 04 05 06", "!3 the row has an opening quote and no closing one"},
-           {"06/13/2026,01 02 \x1B[31m 04 05 06,2,", "!3 \"\\x1B[31m\" is no number"},
+           {"06/13/2026,01 02 \x1B[31m 04 05 06,2,", "!3 \"\\x1B[31m\" is not a number"},
            {"06/13/2026,01 02 03 04 04 06,2,", "!3 the white ball 4 occurs twice"},
-           {"06/13/2026,01 02 x 04 05 06,2,", "!3 \"x\" is no number"},
+           {"06/13/2026,01 02 x 04 05 06,2,", "!3 \"x\" is not a number"},
            {"06/13/2026,01 02 03 04 05 06,2,1 2 3", "!3 3 numbers instead of 6"},
            {"06/10/2026,11 12 13 14 15 06,2,", "!3 a second row for 06-10-2026"},
            {"06/10/1990,01 02 03 04 05 06,2,", "!3 the game was not drawn yet on 06-10-1990"}}) {

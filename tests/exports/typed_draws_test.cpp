@@ -31,17 +31,17 @@ TEST(TypedDraw, SaysInWhichFieldWhatIsWrong) {
   const Game meg = Game::megaMillions;
   const std::string day = "12-30-2026";
   for (const auto& [game, typed, error] : std::initializer_list<Case>{
-           {pwr, {"12-32-2026"}, "date: \"12-32-2026\" is no date (MM/DD/YYYY)"},
+           {pwr, {"12-32-2026"}, "date: \"12-32-2026\" is not a date (MM/DD/YYYY)"},
            {pwr, {"01/02/2027"}, "date: 01-02-2027 is later than today, 12-31-2026"},
-           {pwr, {"12-29-2026"}, "date: 12-29-2026 is no draw day of PowerBall"},
-           {meg, {"12-25-2009"}, "date: 12-25-2009 is no draw day of Mega Millions"},
+           {pwr, {"12-29-2026"}, "date: 12-29-2026 is not a draw day of PowerBall"},
+           {meg, {"12-25-2009"}, "date: 12-25-2009 is not a draw day of Mega Millions"},
            {meg, {"05-14-2002"}, "date: the game was not drawn yet on 05-14-2002"},
            {pwr, {day, "1 2 3 4", "5"}, "numbers: 4 numbers instead of 5"},
-           {pwr, {day, "1 2 3 4 x", "5"}, "numbers: \"x\" is no number"},
+           {pwr, {day, "1 2 3 4 x", "5"}, "numbers: \"x\" is not a number"},
            {pwr, {day, "1,2,3,4,4", "5"}, "numbers: the white ball 4 occurs twice"},
            {pwr, {day, "1 2 3 4 70", "5"}, "numbers: the white ball 70 is not from 1 to 69"},
            {pwr, {"09-30-2015", "1 2 3 4 60", "5"}, "numbers: the white ball 60 is not from 1 to 59"},
-           {pwr, {day, "1 2 3 4 5", ""}, "extra ball: \"\" is no number"},
+           {pwr, {day, "1 2 3 4 5", ""}, "extra ball: \"\" is not a number"},
            {meg, {"12-29-2026", "1 2 3 4 5", "25"}, "extra ball: the extra ball 25 is not from 1 to 24"},
            {pwr, {day, "1 2 3 4 5", "6", "11"}, "multiplier: the multiplier 11 is not from 1 to 10"},
            {pwr, {day, "1 2 3 4 5", "6", "2", "1 2 3"}, "Double Play: 3 numbers instead of 6"},

@@ -184,16 +184,17 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
       "multiplier.\n";
   write(leftBehind + waiting, records({"12-26-2025,10,20,30,34,35,01,x"}) + old + newest);
   const std::string left = "Won, and still among the next plays: 1 play. The check does not look there.\n";
-  EXPECT_EQ(explained(page.Option1), sum +
-                                         "Listed, and not won: 1 play. The check sets every play against the "
-                                         "newest draw; a ticket counts in "
-                                         "the draw of its own date.\nWon, and not listed: 1 play. The check "
-                                         "looks at the newest draw alone.\n" +
-                                         left +
-                                         "Won with Double Play: 1 play. The check sets the first play "
-                                         "against the newest Double Play draw.\n");
+  EXPECT_EQ(explained(page.Option1),
+            sum +
+                "Listed, and not won: 1 play. The check compares every play with the "
+                "newest draw; a ticket counts in "
+                "the draw of its own date.\nWon, and not listed: 1 play. The check "
+                "looks at the newest draw alone.\n" +
+                left +
+                "Won with Double Play: 1 play. The check sets the first play "
+                "against the newest Double Play draw.\n");
   EXPECT_EQ(explained(page.Option2),
-            sum + "The verdict line is that of a play which lost; the lists have those that won.\n" + left +
+            sum + "The verdict line is from a losing play; the lists have those that won.\n" + left +
                 "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
 }
 

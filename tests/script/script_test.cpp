@@ -44,7 +44,7 @@ TEST(Script, TextsThatAreNotUtf8AreShownAsWindows1252) {
 
 TEST(Script, ALineThatCannotBeUnderstoodIsNumbered) {
   for (const auto& [line, complaint] : std::initializer_list<std::pair<const char*, const char*>>{
-           {"jump", "\"jump\" is no command"},
+           {"jump", "\"jump\" is not a command"},
            {"click Command999", "Form1 has no control \"Command999\""},
            {"click Form3.07", "no window \"Form3\" is open"},
            {"click List1", "List1 cannot be clicked"},

@@ -88,7 +88,7 @@ TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {
   };
   for (const char* name : {"../out", "/out", "QzrNumbers/../../out", "a\\b", "C:out", "QzrNumbers/x.tw~"}) {
     const fs::path odd = archiveWith(name);
-    EXPECT_NE(complaintOf([&] { restore(odd, book, clock); }).find("is no file of a record book"),
+    EXPECT_NE(complaintOf([&] { restore(odd, book, clock); }).find("is not a file of a record book"),
               std::string::npos)
         << name;
   }

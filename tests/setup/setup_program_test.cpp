@@ -90,10 +90,11 @@ TEST(Setup, ANewFolderTakesNothingThatIsThereAlready) {
   fs::create_directories(scratch.root() / "f/QZRNUMBERS");
   fs::create_directories(scratch.root() / "f/qzrnumbers/qzr6pwr");
   const auto before = scratch.snapshot();
-  for (const Case& refused :
-       {Case{"a", "qzrnumbers is in the way: it is no folder"}, Case{"b", "already contains draws or plays"},
-        Case{"c", "QZR6PWR is in the way: it is a link", {"--force-draws"}},
-        Case{"d", "d is in the way: it is no folder"}, Case{"f", "f/qzrnumbers are in each other's way"}}) {
+  for (const Case& refused : {Case{"a", "qzrnumbers is in the way: it is not a folder"},
+                              Case{"b", "already contains draws or plays"},
+                              Case{"c", "QZR6PWR is in the way: it is a link", {"--force-draws"}},
+                              Case{"d", "d is in the way: it is not a folder"},
+                              Case{"f", "f/qzrnumbers are in each other's way"}}) {
     std::vector<std::string> words = refused.options;
     words.push_back((scratch.root() / refused.name).string());
     EXPECT_THAT(run(words, 1), HasSubstr(refused.says));

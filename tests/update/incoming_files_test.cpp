@@ -42,7 +42,7 @@ TEST(CheckIncoming, RefusesDoublesAndWhatIsTooMuchOrNothing) {
             "The transfer failed: the server's folder contains too many files");
   EXPECT_EQ(refusal({}), "The transfer failed: the server's folder contains no files");
   EXPECT_EQ(refusal({{"\x1b[31m/", 1}}),
-            "The transfer failed: the server lists \"?[31m/\", which is no plain file name");
+            "The transfer failed: the server lists \"?[31m/\", which is not a plain file name");
 }
 
 TEST(Wildcard, StarDotStarMeansEveryName) {

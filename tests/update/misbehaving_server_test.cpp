@@ -49,10 +49,10 @@ struct Misdeed {
 };
 
 TEST_F(BadServer, LeavesTheFolderAsItWas) {
-  const char* const otherLength = "\"QZRNUM6.Dat\" came down with another length than the server announced";
+  const char* const otherLength = "\"QZRNUM6.Dat\" has another length than the server announced";
   const char* const stalled = "timed out, the transfer stalled in the middle of \"QZRNUM6.Dat\"";
   for (const Misdeed& misdeed : std::initializer_list<Misdeed>{
-           {"silent", "", "timed out while waiting for an answer, in hand was the login"},
+           {"silent", "", "timed out while waiting for an answer to the login"},
            {"full", "", "the server is busy or closing down"},
            {"closing", "", "the server is busy or closing down"},
            {"deny", "", "login denied"},
@@ -61,17 +61,17 @@ TEST_F(BadServer, LeavesTheFolderAsItWas) {
             "the server's list of files is cut short or not understood"},
            {"broken list", first, "interrupted in the middle of \"/D:/QZR/\""},
            {"none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 ../../evil\r\n",
-            "the server lists \"../../evil\", which is no plain file name"},
+            "the server lists \"../../evil\", which is not a plain file name"},
            {"none", first + "-rw-r--r-- 1 o g 3 Nov 21 10:35 g\xFF\xFEne\r\n",
-            "the server does not give \"g??ne\""},
-           {"drop", draws, "connection lost, in hand was \"QZRNUM6.Dat\""},
+            "the server did not send \"g??ne\""},
+           {"drop", draws, "connection lost during \"QZRNUM6.Dat\""},
            {"short", draws, otherLength},
            {"none", first + "-rw-r--r-- 1 o g 19999 Nov 21 10:35 QZRNUM6.Dat\r\n", otherLength},
            {"long", draws, otherLength},
            {"stall", draws, stalled},
            {"no end", draws, stalled},
-           {"no answer", draws, "timed out while waiting for an answer, in hand was \"QZRNUM6.Dat\""},
-           {"drip", draws, "timed out, too slow was \"QZRNUM6.Dat\""},
+           {"no answer", draws, "timed out while waiting for an answer to \"QZRNUM6.Dat\""},
+           {"drip", draws, "timed out, too slow: \"QZRNUM6.Dat\""},
            {"endless", draws, "too large: \"QZRNUM6.Dat\""}}) {
     SCOPED_TRACE(misdeed.fault + (": " + misdeed.list));
     watch.looks = 0;
@@ -169,7 +169,8 @@ TEST_F(BadServer, OrNoneAtAllIsTold) {
   { address = ServerProcess("bad_server.py", {tree.root().string()}).address(); }
   EXPECT_EQ(errorOf([&] { connected(address); }), "The transfer failed: connection refused");
   for (const char* host : {"", "a b", "user:word@127.0.0.1", "127.0.0.1/x", "http://127.0.0.1", "::1::"}) {
-    EXPECT_EQ(errorOf([&] { connected(host); }), "The transfer failed: the update server's address is none")
+    EXPECT_EQ(errorOf([&] { connected(host); }),
+              "The transfer failed: the update server's address is not valid")
         << host;
   }
   EXPECT_EQ(scratch.snapshot(), before);

@@ -146,7 +146,7 @@ TEST_F(Exports, ThatCannotBeUsedChangeNothing) {
     const char* path = "file/pwr.csv";
   };
   for (const Row& row : std::initializer_list<Row>{
-           {"", "\"ADDRESS\" is no export of draws: there is no column \"Draw Date\"", "200"},
+           {"", "\"ADDRESS\" is not an export of draws: there is no column \"Draw Date\"", "200"},
            {"", "the server does not have \"ADDRESS\" (404)", "404"},
            {pwrHead, "\"ADDRESS\" cannot be used: there is no draw in it"},
            {whole.substr(0, whole.size() - 5), cut, "plain/pwr.csv"},

@@ -81,7 +81,7 @@ void ScriptRun::runLine(std::string_view line) {
   } else if (verb == "plays") {
     judgePlays(trimmed(rest));
   } else {
-    throw BadLine(join("\"", verb, "\" is no command"));
+    throw BadLine(join("\"", verb, "\" is not a command"));
   }
 }
 
@@ -112,7 +112,7 @@ void ScriptRun::choose(std::string_view rest) {
 void ScriptRun::type(std::string_view rest) {
   Control& target = control(takeWord(rest));
   auto* combo = dynamic_cast<ComboBox*>(&target);
-  if (combo == nullptr) throw BadLine(join(target.name(), " is no drop-down"));
+  if (combo == nullptr) throw BadLine(join(target.name(), " is not a drop-down"));
   combo->setText(rest);
 }
 

@@ -18,7 +18,7 @@ std::string isSize(const std::string& text) {
   const auto width = wholeNumber<int>(std::string_view(text).substr(0, cross));
   const auto height = wholeNumber<int>(std::string_view(text).substr(std::min(cross + 1, text.size())));
   const bool isOne = width && height && std::min(*width, *height) > 0 && std::max(*width, *height) <= largest;
-  return isOne ? "" : text + " is no size such as 1024x768";
+  return isOne ? "" : text + " is not a size such as 1024x768";
 }
 
 void declare(CLI::App& line, Options& options) {

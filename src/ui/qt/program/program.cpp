@@ -128,7 +128,7 @@ int runProgram(int argumentCount, char** arguments) {
   nameProgram(takesPicture(options));
   GuardedApplication qt(toolkit.count(), toolkit.pointers());
   if (toolkit.count() > 1) {
-    std::cerr << "tallywick: " << toolkit.pointers()[1] << " is no option; --help lists them\n";
+    std::cerr << "tallywick: " << toolkit.pointers()[1] << " is not an option; --help lists them\n";
     return 2;
   }
   QGuiApplication::setWindowIcon(programIcon());
