@@ -132,7 +132,7 @@ void forEachRecordView(SequentialReader& reader, Use use) {
   while (!reader.atEnd()) use(reader.recordView<Count>());
 }
 
-/// Gives every record but the last one to `use`: the displays read the first record, then, while the file is
+/// Kept slip: gives every record but the last one to `use`; the displays read the first record, then, while the file is
 /// not at its end, use the record in hand and read the next. An empty file is error 62.
 template <std::size_t Count, typename Use>
 void forEachRecordButLast(SequentialReader& reader, Use use) {

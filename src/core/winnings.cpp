@@ -54,6 +54,7 @@ void AmountLookup::read(const DataFolder& folder) {
 
 AmountLookup::Amount AmountLookup::of(const std::string& dateKey) const {
   const auto found = amounts_.find(dateKey);
+  // Kept slip: a draw without an amount of its own shows the first one.
   const std::string_view text = found == amounts_.end() ? firstAmount_ : found->second;
   return {text, text == game_.baseAmount ? " * " : "   "};
 }

@@ -31,7 +31,7 @@ constexpr Headings megaMillionsHeadings = {
     "Last 15 Mega Millions Draws and Winning Amts:", "Previous Mega Millions Draw",
     "Date:              Number Played         MM:", "for the last fifteen Mega Millions Draw"};
 
-/// The prizes of a leftover state game, in the amounts list of Mega Millions.
+/// Kept slip: the prizes of a leftover state game, in the amounts list of Mega Millions.
 constexpr std::array<std::string_view, 3> luckyFivePrizes = {" 5 of 5 Win:    $50,000",
                                                              " 4 of 5 Win:    $200.00", " 3 of 5 Win:    $3"};
 

@@ -18,7 +18,7 @@ HavePlayedPage::HavePlayedPage(Form& form)
     : Combo2(form, "Combo2"),
       Command22(form, "Command22", "Display"),
       numbers(form, {"Command15", "Command16", "Command17", "Command18", "Command19", "Command20"}),
-      Command21(form, "Command21", "Serach"),  // kept slip
+      Command21(form, "Command21", "Serach"),  // Kept slip.
       Combo5(form, "Combo5"),
       List6(form, "List6"),
       Label23(form, "Label23") {}

@@ -30,7 +30,7 @@ RuntimeError transferClassError(int code, std::string_view source) {
   const auto place = static_cast<std::size_t>(code - firstCode);
   std::string text = "An unrecognized error was encountered.";
   if (place < checkedProperties.size()) {
-    // "beeen" is what the message has always said.
+    // Kept slip: "beeen", and "Download" for an upload too.
     text = join("A Download ", checkedProperties[place], " property has not beeen specified.");
   }
   return RuntimeError(number, std::move(text), {}, std::string(source));
