@@ -132,8 +132,8 @@ void forEachRecordView(SequentialReader& reader, Use use) {
   while (!reader.atEnd()) use(reader.recordView<Count>());
 }
 
-/// Kept slip: gives every record but the last one to `use`; the displays read the first record, then, while the file is
-/// not at its end, use the record in hand and read the next. An empty file is error 62.
+/// Kept slip: gives every record but the last one to `use`; the displays read the first record, then, while
+/// the file is not at its end, use the record in hand and read the next. An empty file is error 62.
 template <std::size_t Count, typename Use>
 void forEachRecordButLast(SequentialReader& reader, Use use) {
   Fields<Count> inHand = reader.record<Count>();

@@ -84,7 +84,8 @@ TEST_F(RealServer, TakesFilesAndFolders) {
   EXPECT_EQ(textOf(tree.root() / "root/D:/new/qzrnum6.dat"), "old draws");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(tree.root() / "root/D:/new"), {}), 2);
   EXPECT_THAT(errorOf([&] { component->createDirectory("/D:/new"); }), testing::HasSubstr("refuses"));
-  EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }), testing::HasSubstr("not a folder"));
+  EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }),
+              testing::HasSubstr("not a folder"));
 }
 
 TEST_F(RealServer, FillsAProgressWindowWhereThatIsAskedFor) {
