@@ -190,7 +190,8 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
   const fs::path file = entryInAnyCase(folder, entry.name);
   if (entry.replaces.empty() || (!entry.isRemoval && !isThere(staged))) return;
   const std::string found = fingerprintOf(file);
-  if (found == noFile || found == entry.replaces || found == fingerprintOf(staged)) return;
+  if (found == noFile || found == entry.replaces) return;
+  if (!entry.isRemoval && found == fingerprintOf(staged)) return;
   const std::string name = nameOf(file);
   const std::vector<DatedCopy> copies = datedCopies(folder, name);
   // A recovery that was cut short itself has made the copy already.

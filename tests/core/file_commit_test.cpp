@@ -46,6 +46,8 @@ TEST_F(FileCommits, TakesOverAllFilesInWhateverCaseTheyStand) {
     FileCommit change(folder);
     change.stage("QZR6PWR1.Ply", "new");
     change.stage("Other", "made");
+    put("GOES", "");
+    for (const char* name : {"Goes", "Missing"}) change.stageRemoval(name);
     EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/qzr6pwr1.ply"), "old");
     change.commit();
   }
@@ -131,6 +133,8 @@ TEST_F(FileCommits, RecoveryFollowsAJournalOfPlainNamesAndSetsEveryOtherAside) {
                "A=new B=new B DATE=old "},
            Row{"B made since", join("tallywick-journal 2\n", isOld, " A\n- - B\n/\n"),
                "A=new B=new B DATE=old "},
+           Row{"A goes", join("tallywick-journal 3\n", isOld, " B\nremove ", isOld, " A\n/\n"), "B=new "},
+           Row{"A goes, changed since", "tallywick-journal 3\nremove 3 1f A\n/\n", "A DATE=old B=old "},
            Row{"torn", "tallywick-journal 1\nA\n", aside},
            Row{"torn inside a line", "tallywick-journal 2\nA\n/\n", aside},
            Row{"empty", "", aside},

@@ -3,6 +3,7 @@
 // runtime error is reported by its number on standard output and exit code 1.
 #include "core/file_commit.h"
 #include "core/runtime_error.h"
+#include "exports/typed_draws.h"
 #include "plays/play_changes.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
@@ -10,6 +11,7 @@
 #include "support/fakes.h"
 #include "update/incoming_files.h"
 #include "update/maintenance.h"
+#include "update/public_exports.h"
 
 #include <iostream>
 #include <sstream>
@@ -39,6 +41,30 @@ void changePlays(const DataFolder& folder, const Clock& clock, std::string_view 
   if (change == "undo") changes.undo({"", {shown.played, shown.committed}, shown, "copy", {}});
 }
 
+/// What an export brings once it has come.
+void takeExport(const DataFolder& folder) {
+  FetchedDocument document;
+  document.contents = "Draw Date,Winning Numbers,Multiplier\n";
+  for (Day day = dayOf(2026, 11, 1); day > dayOf(2026, 7, 1); day += -1) {
+    document.contents += displayDate(day) + ",1 2 3 4 5 6,2\n";
+  }
+  document.validators.entityTag = "\"1\"";
+  FetchedExport fetched{Game::powerBall, "https://127.0.0.1/x", document};
+  fetched.draws = drawsIn(document, fetched.address, fetched.game, dayOf(2026, 11, 21));
+  takeInto(folder, fetched);
+}
+
+void changeDraws(const DataFolder& folder, std::string_view action) {
+  const exports::TypedDraw typed{"11-16-2026", "1 2 3 4 5", "6", "2", "6 5 4 3 2 1", "150"};
+  if (action == "fetch") takeExport(folder);
+  if (action == "add-draw") {
+    exports::addDraw(folder, Game::powerBall,
+                     exports::checkedDraw(Game::powerBall, typed, dayOf(2026, 11, 21)),
+                     exports::KnownDraw::stays);
+  }
+  if (action == "remove-draw") exports::removeDraw(folder, Game::powerBall, dayOf(2026, 11, 18));
+}
+
 void run(const DataFolder& folder, std::string_view action) {
   const StandingClock clock("11-21-2026", "12:00:00");
   const std::filesystem::path game = folder.resolve(powerBall.folder);
@@ -55,6 +81,7 @@ void run(const DataFolder& folder, std::string_view action) {
   if (action == "receive") takeIn({{"qzrnum6.dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}, folder, game, clock);
   if (action == "publish") setup::publish(folder.resolve("tree"), folder.resolve(""), out);
   if (action.starts_with("by-hand-")) changePlays(folder, clock, action.substr(8));
+  changeDraws(folder, action);
   if (action == "recover") recoverFolder(game);
   for (const MessageBox& box : boxes.shown) std::cout << box.text << "\n";
 }

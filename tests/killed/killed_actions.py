@@ -19,7 +19,8 @@ import tempfile
 
 PROGRAM = sys.argv[1]
 ACTIONS = {"selection": ["open", "select", "done-1", "done-10"], "files": ["maintain", "receive", "publish"],
-           "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")]}[sys.argv[2]]
+           "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
+           "draws": ["fetch", "add-draw", "remove-draw"]}[sys.argv[2]]
 # What mends the traces of an action: the next start of the program, or the same command again.
 MENDING = collections.defaultdict(lambda: "recover", publish="publish")
 # A kill anywhere else leaves what one at the next of these does; an open changes something where it creates its file.
@@ -165,6 +166,10 @@ def test_action(action):
     if action == "publish":
         check(run("publish").returncode == 0, "nothing is published")
         (folder / PWR / "QZRNUM6.Dat").write_text(record("11", "21", "2026", *["08"] * 7), newline="")
+    notes = {"fetch": "SAMPLE.TXT", "remove-draw": "TALLYWICK.TYP"}
+    if action in notes:
+        text = (folder / PWR / "QZRNUM6.Dat").read_bytes() if action == "remove-draw" else b""
+        (folder / PWR / notes[action]).write_bytes(text)
     start, before = files_now(), state()
     check(run(action).returncode == 0, f"{action} fails undisturbed")
     after = state()
