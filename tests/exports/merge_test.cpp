@@ -3,6 +3,7 @@
 #include "exports/merge.h"
 
 #include "core/eras.h"
+#include "core/runtime_error.h"
 #include "core/text.h"
 #include "exports/folder_merge.h"
 #include "exports/made_up.h"
@@ -180,10 +181,26 @@ TEST_F(MergeOfAFolder, ChangesTheDrawsAloneOnceAndLeavesItWhereItFails) {
   }
   const auto longAgo = std::filesystem::file_time_type() + std::chrono::hours(1);
   const auto draws = scratch.folder().resolve("QzrNumbers/QZR6PWR/QZRNUM6.Dat");
-  std::filesystem::last_write_time(draws, longAgo);
+  for (const auto& entry : {draws, draws.parent_path()}) std::filesystem::last_write_time(entry, longAgo);
   merge(200);
   EXPECT_EQ(scratch.snapshot(), after);
   EXPECT_EQ(std::filesystem::last_write_time(draws), longAgo) << "nothing was written";
+  EXPECT_EQ(std::filesystem::last_write_time(draws.parent_path()), longAgo) << "there was no lock";
+}
+
+TEST_F(MergeOfAFolder, IsAtWorkAloneFollowsNoLinkAndMakesAMissingGame) {
+  merge(200);
+  {
+    const os::FileLock atWork = lockFolder(scratch.folder().resolve(powerBall.folder));
+    EXPECT_THROW(merge(200), LockedByAnother) << "it may be changing just that";
+  }
+  const auto numbers = scratch.root() / "QzrNumbers";
+  std::filesystem::rename(numbers / "QZR6PWR", scratch.root() / "elsewhere");
+  std::filesystem::create_directory_symlink(scratch.root() / "elsewhere", numbers / "QZR6PWR");
+  EXPECT_THROW(merge(201), RuntimeError);
+  std::filesystem::remove(numbers / "QZR6PWR");
+  merge(201);
+  EXPECT_TRUE(scratch.exists("QzrNumbers/QZR6PWR/QZR6PWR3.Ply")) << "a game that was missing";
 }
 
 TEST_F(MergeOfAFolder, ReplacesMadeUpDrawsAsAWholeAndTakesTheMarkAway) {

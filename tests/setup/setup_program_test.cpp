@@ -141,6 +141,33 @@ TEST(Setup, ASampleFolderIsRepeatableAndHasWhatTheDisplaysRead) {
               testing::EndsWith("\r\n\"12\",\"31\",\"2050\",\"Saturday\",\"365\",\"6\"\r\n"));
 }
 
+TEST(Setup, ADrawIsTypedInAndRemoved) {
+  const test::ScratchFolder scratch;
+  const std::string folder = (scratch.root() / "book").string();
+  const std::vector<std::string> add = {"--add-draw", "powerball", "11-21-2026", "5 14 23 41 60", "7"};
+  scratch.write("long.csv", dailyExport(150));
+  run({folder, "--now", "11-21-2026 12:00:00", "--powerball", (scratch.root() / "long.csv").string()});
+  const auto runOn = [&](std::vector<std::string> words, const std::vector<std::string>& more, int exitCode) {
+    words.insert(words.begin(), {folder, "--now", "11-21-2026 12:00:00"});
+    words.insert(words.end(), more.begin(), more.end());
+    return run(words, exitCode);
+  };
+  EXPECT_THAT(runOn(add, {"--marks", "x"}, 1), HasSubstr("winning tickets: \"x\" is no number"));
+  EXPECT_EQ(runOn(add, {}, 0), "PowerBall: the draw of 11-21-2026 was added\n");
+  EXPECT_EQ(runOn(add, {}, 0), "PowerBall: the draw of 11-21-2026 is known already; nothing was changed\n");
+  EXPECT_THAT(runOn(add, {"--multiplier", "3"}, 1), HasSubstr("another multiplier is known already: 1"));
+  EXPECT_EQ(runOn(add, {"--multiplier", "3", "--replace"}, 0),
+            "PowerBall: the draw of 11-21-2026 was changed\n");
+  for (const std::vector<std::string>& wrong :
+       {std::vector<std::string>{"--fetch"}, {"--seed", "x"}, {"--remove-draw", "powerball", "11-21-2026"}}) {
+    runOn(add, wrong, 2);
+  }
+  runOn({"--remove-draw", "lotto", "11-21-2026"}, {}, 2);
+  EXPECT_THAT(runOn({"--remove-draw", "powerball", "11-20-2026"}, {}, 1), HasSubstr("it stays"));
+  EXPECT_EQ(runOn({"--remove-draw", "powerball", "11-21-2026"}, {}, 0),
+            "PowerBall: the draw of 11-21-2026 was removed\n");
+}
+
 TEST(Import, TheRealExportsAreTakenWholeAndLackWhatTheyLack) {
   const test::ScratchFolder scratch;
   const std::string real = TALLYWICK_REAL_DRAWS;

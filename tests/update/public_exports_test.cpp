@@ -3,6 +3,7 @@
 #include "update/public_exports.h"
 
 #include "core/day.h"
+#include "setup/new_folder.h"
 #include "support/raised.h"
 #include "transfer_test.h"
 
@@ -133,6 +134,42 @@ TEST_F(Exports, WithoutALastLineEndAreTakenWhereTheTransferIsWhole) {
     get(path);
     EXPECT_EQ(std::ranges::count(draws(), '\n'), 120) << path;
   }
+}
+
+TEST_F(Exports, MakeANewBookAsAWholeOrNotAtAll) {
+  const DataFolder book(web.root() / "book");
+  Settings addresses;
+  addresses.powerBallDraws = addressOf("file/pwr.csv");
+  addresses.megaMillionsDraws = addressOf("503");
+  const auto make = [&] { return setup::makeFetchedFolder(book, clock, addresses, settings, &watch); };
+  EXPECT_THAT(make()[1].error, testing::HasSubstr("overloaded"));
+  EXPECT_FALSE(std::filesystem::exists(book.root())) << "nothing is made";
+
+  addresses.megaMillionsDraws = addressOf("file/meg.csv");
+  // A kill has left these behind.
+  std::filesystem::create_directories(book.root() / "QzrNumbers.tw~" / "QzrNumbers" / "QZR6PWR");
+  EXPECT_EQ(make()[0].report.newDraws, 230U);
+  EXPECT_FALSE(std::filesystem::exists(book.root() / "QzrNumbers.tw~"));
+  EXPECT_EQ(readSettings(book), addresses);
+  for (const char* name : {"QZR6MEG/QZRNUM62.Dat", "QZR6MEG/QZR6MEG1.Ply", "QZR6PWR/QZR6PWR9.Sel"}) {
+    EXPECT_TRUE(book.exists(join("QzrNumbers/", name))) << name;
+  }
+  EXPECT_THROW(make(), std::runtime_error) << "somebody's book";
+  for (const GameFetch& again : fetchDraws(book, clock, setup::exportAddresses(addresses), settings)) {
+    EXPECT_TRUE(again.isUnchanged && again.error.empty()) << again.error;
+  }
+}
+
+TEST_F(Exports, OfAGameThatFailsLeaveTheOtherAloneAndACancelLeavesBoth) {
+  const std::vector<ExportAddress> addresses = {{Game::powerBall, addressOf("404")},
+                                                {Game::megaMillions, addressOf("file/meg.csv")}};
+  const auto before = scratch.snapshot();
+  watch.cancelAt = 2;
+  EXPECT_THROW(fetchDraws(scratch.folder(), clock, addresses, settings, &watch), TransferCancelled);
+  EXPECT_EQ(scratch.snapshot(), before);
+  const std::vector<GameFetch> results = fetchDraws(scratch.folder(), clock, addresses, settings);
+  EXPECT_THAT(results[0].error, testing::HasSubstr("(404)"));
+  EXPECT_EQ(results[1].report.newDraws, 110U);
 }
 
 TEST_F(Exports, ThatCannotBeUsedChangeNothing) {
