@@ -10,8 +10,6 @@ namespace tallywick {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> weekdays = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
-
 bool passes(const JudgedPlay& play, PlayFilter filter) {
   switch (filter) {
     case PlayFilter::waiting:
@@ -91,13 +89,9 @@ std::vector<JudgedPlay> playsIn(const Judgement& judgement, PlayFilter filter) {
   return plays;
 }
 
-std::string_view extraBallName(Game game) {
-  return game == Game::powerBall ? "PowerBall" : "Mega Ball";
-}
-
 std::string dateText(const JudgedPlay& play) {
   if (!play.day) return play.date;
-  return join(weekdays.at(static_cast<std::size_t>(play.day->weekday()) - 1), " ", displayDate(*play.day));
+  return weekdayDate(*play.day);
 }
 
 std::string stateText(const JudgedPlay& play) {

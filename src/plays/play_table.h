@@ -3,6 +3,7 @@
 // only shows them.
 #pragma once
 
+#include "core/words.h"
 #include "display/judging.h"
 
 #include <array>
@@ -35,9 +36,6 @@ bool isRemovable(const JudgedPlay& play);
 /// The plays that the filter lets through, newest first; those of one day in the judgement's order, those
 /// without a day last.
 std::vector<JudgedPlay> playsIn(const Judgement& judgement, PlayFilter filter);
-
-/// "PowerBall" or "Mega Ball".
-std::string_view extraBallName(Game game);
 
 /// "Wed 12-30-2026"; as the record has it where it is no day.
 std::string dateText(const JudgedPlay& play);

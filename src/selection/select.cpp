@@ -5,6 +5,7 @@
 #include "core/plays.h"
 #include "core/text.h"
 #include "selection/draw_dates.h"
+#include "selection/marked_play.h"
 #include "selection/obstacles.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
@@ -17,70 +18,14 @@ namespace tallywick {
 
 namespace {
 
-/// The marks as a play: five main numbers and the extra ball.
-struct MarkedPlay {
-  /// 0 where a place is empty.
-  std::array<int, 6> places{};
-  int marked = 0;
-  int extras = 0;
-
-  void add(int number) {
-    if (marked < 6) places[static_cast<std::size_t>(marked)] = number;
-    ++marked;
-  }
-  bool isFull() const { return places.back() != 0; }
-  std::array<int, 5> main() const { return {places[0], places[1], places[2], places[3], places[4]}; }
-};
-
-bool isExtra(const SelectionForm& form, int number) {
-  return markOf(form.button(number)) == Mark::extra;
-}
-
-/// All marked numbers ascending, the extra ball among them; what is beyond six is only counted.
-MarkedPlay collectMarks(const SelectionForm& form) {
-  MarkedPlay play;
-  for (int number = 1; number <= form.game.lastNumber; ++number) {
-    if (markOf(form.button(number)) == Mark::none) continue;
-    play.add(number);
-    if (isExtra(form, number)) ++play.extras;
-  }
-  return play;
-}
-
-/// Puts the extra ball into the last place.
-/// Kept slip: beside four main numbers it is in two places and counts twice, so that such a play passes.
-void placeExtra(const SelectionForm& form, MarkedPlay& play) {
-  const auto extra = std::find_if(play.places.begin(), play.places.end(),
-                                  [&](int number) { return number != 0 && isExtra(form, number); });
-  if (play.isFull()) {
-    if (extra != play.places.end()) std::rotate(extra, extra + 1, play.places.end());
-    return;
-  }
-  for (int number = extrasThatFillUp.first; number <= extrasThatFillUp.last; ++number) {
-    if (!isExtra(form, number)) continue;
-    play.places.back() = number;
-    ++play.marked;
-  }
-}
-
 /// Takes the first refused extra mark off and shows a message.
 bool refuseExtra(SelectionForm& form) {
-  for (int number = refusedExtras.first; number <= refusedExtras.last; ++number) {
-    if (!isExtra(form, number)) continue;
-    form.surroundings.boxes.show({std::string(form.rules.invalidExtra),
-                                  std::string(form.rules.invalidExtraTitle), MessageBox::Icon::exclamation});
-    setMark(form.button(number), Mark::none);
-    return true;
-  }
-  return false;
-}
-
-/// What is wrong with the counts; empty where nothing is.
-std::string_view complaint(const SelectionRules& rules, const MarkedPlay& play) {
-  if (play.extras > 1) return rules.tooManyExtras;
-  if (play.extras != 1) return rules.noExtra;
-  if (play.marked != 6) return rules.notSixNumbers;
-  return {};
+  const int number = refusedExtra(form);
+  if (number == 0) return false;
+  form.surroundings.boxes.show({std::string(form.rules.invalidExtra),
+                                std::string(form.rules.invalidExtraTitle), MessageBox::Icon::exclamation});
+  setMark(form.button(number), Mark::none);
+  return true;
 }
 
 /// A play that owns its texts.
@@ -136,9 +81,8 @@ void append(SelectionForm& form, const Play& play) {
 }  // namespace
 
 void Command59_Click(SelectionForm& form) {
-  MarkedPlay play = collectMarks(form);
+  const MarkedPlay play = markedPlay(form);
   if (refuseExtra(form)) return;
-  placeExtra(form, play);
   if (const std::string_view text = complaint(form.rules, play); !text.empty()) {
     form.surroundings.boxes.show({std::string(text), std::string(form.rules.countTitle)});
     form.unmarkAll();

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sentences beside the slip: they promise what a press then does.
+#include "selection/hints.h"
+
+#include "selection/selection_fixture.h"
+
+namespace tallywick::test {
+namespace {
+
+using testing::HasSubstr;
+
+/// So many numbers beginning with `first`.
+std::string numbers(int first, int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += twoDigits(first + i) + " ";
+  return text;
+}
+
+TEST_F(Selection, TheHintPromisesAPlayWhereSelectEntersOneAndOnlyThere) {
+  for (const GameInfo& game : {powerBall, megaMillions}) {
+    for (int mains = 0; mains <= 7; ++mains) {
+      for (const char* extras : {"", "03", "03 07", "47", "03 47"}) {
+        SCOPED_TRACE(join(game.name, " ", std::to_string(mains), " and ", extras));
+        open(game);
+        mark(numbers(60, mains), Mark::main);
+        mark(extras, Mark::extra);
+        const MarksHint hint = marksHint(*form);
+        form->Command59.show();
+        press("Command59");
+        const bool entered = !form->Combo1.items().empty();
+        EXPECT_EQ(hint.text.find("Select will enter") != std::string::npos, entered) << hint.text;
+        EXPECT_EQ(hint.kind == MarksHint::Kind::ready, entered && mains == 5) << hint.text;
+      }
+    }
+  }
+}
+
+TEST_F(Selection, SaysInASentenceWhatSelectWillDo) {
+  const struct {
+    const char* mains;
+    const char* extras;
+    const char* text;
+  } cases[] = {
+      {"", "",
+       "Mark five numbers, and one of 01 to 25 twice for the Mega Ball. 71 to 79 and Mega Ball 25 are no "
+       "longer drawn."},
+      {"06 23 41", "14", "Two numbers are missing."},
+      {"06 23 41 58", "", "One number and the Mega Ball are missing."},
+      {"06 23 41 58", "14", "Four numbers and a Mega Ball: Select will enter 14 as number and Mega Ball."},
+      {"06 23 41 58 60", "", "The Mega Ball is missing: press one of 01 to 25 twice."},
+      {"06 23 41 58 60", "14", "Select will enter this play for the draw of Tue 11-24-2026."},
+      {"06 23 41 58 75", "25",
+       "Select will enter this play for the draw of Tue 11-24-2026. 75 and Mega Ball 25 are no longer "
+       "drawn."},
+      {"06 23 41 58 60 61", "14",
+       "Six numbers and a Mega Ball are marked: Select will refuse them and take all marks off."},
+      {"06", "14 15", "Two Mega Balls are marked: Select will refuse them and take all marks off."},
+      {"06", "47",
+       "47 cannot be the Mega Ball: Select will take this mark off and leave the others. Mega Ball 47 is no "
+       "longer drawn."},
+  };
+  for (const auto& each : cases) {
+    open(megaMillions);
+    mark(each.mains, Mark::main);
+    mark(each.extras, Mark::extra);
+    EXPECT_EQ(marksHint(*form).text, each.text);
+  }
+}
+
+TEST_F(Selection, AReplayAndALineSayWhatTheyCannotMark) {
+  scratch.write(path("2.Ply"), records({"11-18-2026,05,11,63,68,69,33,1100003"}));
+  open();
+  press("Command60");
+  EXPECT_EQ(replayHint(*form), "Replay does not mark 63, 68 and 69 and PowerBall 33; press what is missing.");
+  EXPECT_EQ(markLine(*form, " 05  63  68  69  75  26"), "The slip does not have 75.");
+  EXPECT_EQ(marks(), "05 [26] 63 68 69 ");
+  EXPECT_EQ(markLine(*form, form->Combo7.text()), "The slip does not have PowerBall 33.");
+  EXPECT_EQ(marks(), "05 11 63 68 69 ");
+}
+
+TEST_F(Selection, MarksThatARefusalTookOffComeBack) {
+  open();
+  RemovedMarks removed;
+  mark("05 11", Mark::main);
+  mark("07", Mark::extra);
+  form->Command59.show();
+  for (const char* action : {"Command84", "Command59"}) {
+    EXPECT_TRUE(removed.watch(*form, [&] { press(action); }));
+    EXPECT_EQ(marks(), "");
+    EXPECT_TRUE(removed.bringBack(*form));
+    EXPECT_EQ(marks(), "05 [07] 11 ");
+  }
+  mark("12 13 14", Mark::main);
+  EXPECT_FALSE(removed.watch(*form, [&] { press("Command59"); }))
+      << "a play that was entered is not brought back";
+  EXPECT_FALSE(removed.bringBack(*form));
+}
+
+TEST_F(Selection, SaysForWhichDrawsThePlaysAre) {
+  open();
+  EXPECT_EQ(drawCountHint(*form), "");
+  select("01 02 03 04 05", "06");
+  EXPECT_EQ(drawCountHint(*form), "one draw: Sat 11-21-2026");
+  for (const char* name : {"Command1", "Command4", "Command4"}) press(name);
+  EXPECT_EQ(drawCountHint(*form), "three draws, the last on Wed 11-25-2026");
+  EXPECT_TRUE(hasPlaysToLose(*form));
+  press("Command5");
+  EXPECT_FALSE(hasPlaysToLose(*form));
+  EXPECT_EQ(committedHint(*form),
+            "Saved: three plays, one for each of three draws from Sat 11-21-2026 to Wed 11-25-2026.");
+  scratch.write("QZRNUM22.DTE", records({"11,21,2026,day,n,6"}));
+  open();
+  select("01 02 03 04 05", "06");
+  form->Label1.setCaption("   2");
+  EXPECT_THAT(drawCountHint(*form), HasSubstr("does not reach so far"));
+}
+
+}  // namespace
+}  // namespace tallywick::test
