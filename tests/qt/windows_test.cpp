@@ -3,12 +3,14 @@
 #include "app/main_form.h"
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"
+#include "selection/hints.h"
 #include "support/record_book.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/windows/layout_memory.h"
 
+#include <QAbstractItemView>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -247,6 +249,41 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   answerNextBox(QMessageBox::Ok);
   press(0, "Remove");
   EXPECT_TRUE(boxText.startsWith(QStringLiteral("The play files have changed"))) << boxText.toStdString();
+}
+
+TEST_F(Windows, SelectedPlaysAreNotDroppedWithoutAQuestion) {
+  platform.onPlaysSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR9.Sel", "\"01  03  34  53  63  11\"\r\n");
+  open("Form1");
+  FormWindow& slip = open("Form3");
+  auto& form = static_cast<SelectionForm&>(*application.find("Form3"));
+  QApplication::setActiveWindow(&slip);
+  auto& saved = widget<QAbstractItemView>("Form3", "List1");
+  saved.setFocus();
+  saved.setCurrentIndex(saved.model()->index(0, 0));
+  QTest::keyClick(&saved, Qt::Key_Return);
+  EXPECT_EQ(marksHint(form).marks, "01 03 34 53 63   PowerBall 11");
+  widget<QPushButton>("Form3", "Command84").click();
+  QTest::keyClick(&slip, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(marksHint(form).marks, "01 03 34 53 63   PowerBall 11");
+  widget<QPushButton>("Form3", "Command59").click();
+  const std::function<void()> leave[] = {
+      [&] { QTest::keyClick(&slip, Qt::Key_Escape); },
+      [&] { window("Form1").close(); },
+      [&] { widget<QPushButton>("Form1", "Command48").click(); },
+      [&] { window("Form1").findChild<QAction*>(QStringLiteral("mnuExit"))->trigger(); },
+  };
+  for (const auto& way : leave) {
+    boxText.clear();
+    answerNextBox(QStringLiteral("Back to the Plays"));
+    way();
+    EXPECT_EQ(boxText, QStringLiteral("One selected play is not saved yet."));
+    ASSERT_EQ(application.find("Form3"), &form);
+  }
+  widget<QPushButton>("Form3", "Command5").click();
+  EXPECT_EQ(static_cast<ListBox&>(*application.find("Form1")->find("List17")).items().size(), 1U);
+  QTest::keyClick(&slip, Qt::Key_Escape);
+  EXPECT_EQ(application.find("Form3"), nullptr);
 }
 
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {

@@ -94,4 +94,17 @@ void press(Application& application, QtPlatform& platform, Control& control) {
   application.updateInWindow(control);
 }
 
+bool isSet(const Application& application, const Control& control) {
+  const Settings& settings = application.settings();
+  if (control.name() == "mnuQZRHelp") return !settings.webHelp.empty();
+  if (control.name() == "mnuGameInfo") return !settings.webSite.empty();
+  return true;
+}
+
+void showSavedPlays(const Application& application, const GameInfo& game) {
+  auto* main = static_cast<MainForm*>(application.find("Form1"));
+  if (main == nullptr || gameOnShow(main->frames) != &game) return;
+  fillCommittedPlays(main->winnings, application.surroundings().folder, game);
+}
+
 }  // namespace tallywick

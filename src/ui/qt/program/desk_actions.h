@@ -2,6 +2,7 @@
 // What the windows ask of the program: help, settings, and what a press needs.
 #pragma once
 
+#include "core/games.h"
 #include "settings/settings.h"
 
 class QString;
@@ -28,5 +29,11 @@ void editSettings(Application& application, QtPlatform& platform);
 /// Runs what a press of the control leads to. An update fetches what it needs first; a message says what it
 /// lacks.
 void press(Application& application, QtPlatform& platform, Control& control);
+
+/// Whether the settings have the address that the control opens; true for controls that open none.
+bool isSet(const Application& application, const Control& control);
+
+/// Shows the committed plays of the game in the main window anew, where it is on show there.
+void showSavedPlays(const Application& application, const GameInfo& game);
 
 }  // namespace tallywick

@@ -71,6 +71,8 @@ void connectDesk(Application& application, QtPlatform& platform) {
     const Settings& settings = application.settings();
     return game == Game::powerBall ? settings.powerBallPrice : settings.megaMillionsPrice;
   };
+  platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
+  platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {

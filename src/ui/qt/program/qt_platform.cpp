@@ -152,8 +152,8 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
 }
 
 void QtPlatform::openWindow(Form& form) {
-  const Desk desk = {*this,   folder_,      onClose,       onEditSettings, onHelp,
-                     onPress, onUpdateNote, onUpdateAgain, onPriceOfPlay};
+  const Desk desk = {*this,        folder_,       onClose,       onEditSettings, onHelp,    onPress,
+                     onUpdateNote, onUpdateAgain, onPriceOfPlay, onPlaysSaved,   onAskIfSet};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);
   window->move(centred(*window));

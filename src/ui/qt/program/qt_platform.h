@@ -29,6 +29,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<std::string()> onUpdateNote;
   std::function<void()> onUpdateAgain;
   std::function<std::optional<std::int64_t>(Game)> onPriceOfPlay;
+  std::function<void(const GameInfo& game)> onPlaysSaved;
+  std::function<bool(const Control& control)> onAskIfSet;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

@@ -51,7 +51,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   }
   // The model decides; it takes the window off the screen itself.
   event->ignore();
-  desk_.runner.run([this] { desk_.close(form_); });
+  if (mayClose()) desk_.runner.run([this] { desk_.close(form_); });
 }
 
 std::unique_ptr<FormWindow> makeWindow(Form& form, const Desk& desk) {

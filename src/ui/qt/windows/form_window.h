@@ -30,6 +30,10 @@ struct Desk {
   std::function<void()> updateAgain = {};
   /// What a play costs by the settings, in cents.
   std::function<std::optional<std::int64_t>(Game)> priceOf = {};
+  /// The committed plays of a game are others now: what the main window shows of them is to be read again.
+  std::function<void(const GameInfo&)> playsSaved = {};
+  /// Whether the settings have what a press of this control needs.
+  std::function<bool(const Control&)> isSet = {};
 };
 
 class TransferPanel;
@@ -46,6 +50,8 @@ class FormWindow : public QMainWindow {
   virtual QString helpPage() const = 0;
   /// Keeps sizes for the next time; called before the window goes.
   virtual void keepLayout() {}
+  /// Whether the window may go; asks the user where something would be lost with it.
+  virtual bool mayClose() { return true; }
   /// Where a transfer shows how far it is and can be cancelled; null where this window has no such place.
   virtual TransferPanel* transferPanel() const { return nullptr; }
 

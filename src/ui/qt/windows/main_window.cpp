@@ -12,6 +12,7 @@
 #include "ui/qt/windows/layout_memory.h"
 #include "ui/qt/windows/menu_bar.h"
 #include "ui/qt/windows/navigation_bar.h"
+#include "ui/qt/windows/selection_window.h"
 
 #include <QMenuBar>
 #include <QScrollArea>
@@ -42,6 +43,14 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   binding().afterChanges = [this] {
     bar_->showGame();
     winnings_->showChanges();
+  };
+  binding().onPress = [this, press = binding().onPress](Control& control) {
+    if (!mayPress(control)) return;
+    if (press) {
+      press(control);
+    } else {
+      click(control);
+    }
   };
   restoreLayout(*this, usualSize);
 }
@@ -114,6 +123,19 @@ TransferPanel* MainWindow::transferPanel() const {
 
 void MainWindow::keepLayout() {
   saveLayout(*this);
+}
+
+bool MainWindow::mayClose() {
+  return maySelectionsClose();
+}
+
+bool MainWindow::mayPress(const Control& control) {
+  if (&control == &main_.menu.mnuExit) return mayClose();
+  // Opening a selection window begins anew.
+  if (&control == &main_.menu.mnuPowerBall3) return maySelectionsClose(&powerBall);
+  if (&control == &main_.menu.mnuMegaMillions3) return maySelectionsClose(&megaMillions);
+  const GameInfo* const game = &control == &main_.bar.Command48 ? gameOnShow(main_.frames) : nullptr;
+  return game == nullptr || maySelectionsClose(game);
 }
 
 }  // namespace tallywick

@@ -18,6 +18,8 @@ class MainWindow : public FormWindow {
 
   QString helpPage() const override;
   void keepLayout() override;
+  /// The program ends with this window, and the selection windows go with it.
+  bool mayClose() override;
   TransferPanel* transferPanel() const override;
 
  private:
@@ -25,6 +27,8 @@ class MainWindow : public FormWindow {
   void addMenusAndStatus();
   void addKeys();
   QWidget* gameShown();
+  /// Whether a press takes no selected plays away, or the user wants it.
+  bool mayPress(const Control& control);
 
   MainForm& main_;
   NavigationBarView* bar_;

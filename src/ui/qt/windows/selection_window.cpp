@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/selection_window.h"
 
+#include "core/text.h"
+#include "core/words.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 #include "ui/qt/parts/choice_list.h"
+#include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/layout_memory.h"
 #include "ui/qt/windows/slip.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <array>
 
 namespace tallywick {
 
@@ -23,33 +30,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usualSize = {880, 720};
+constexpr QSize usualSize = {960, 760};
+/// The marks, what an action did and what Select will do.
+constexpr int hintLines = 4;
 /// An item's length: two blanks, the date, six blanks, six numbers with two blanks between.
 constexpr int itemColumns = 42;
 
 QPushButton* actionButton(QWidget* parent, QGridLayout& grid, int line, int column) {
   auto* button = new QPushButton(parent);
-  // A hidden action keeps its place, so that nothing moves when it comes back.
-  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  policy.setRetainSizeWhenHidden(true);
-  button->setSizePolicy(policy);
+  button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   grid.addWidget(button, line, column);
   return button;
 }
 
-QWidget* headedChoice(Label& label, char mnemonic, ComboBox& combo, Binding& binding) {
-  auto* box = new QWidget;
-  auto* column = columnIn(box);
-  column->setSpacing(theme::halfGap);
-  auto* title = heading(box);
-  auto* choice = new ChoiceList(combo.items(), box);
-  choice->list().setColumns(itemColumns);
-  title->setBuddy(&choice->list());
-  column->addWidget(title);
-  column->addWidget(choice, 1);
-  binding.bind(combo, *choice);
-  binding.bind(label, *title, asLabelOfControl(mnemonic));
-  return box;
+HintPanel::Kind kindOf(MarksHint::Kind kind) {
+  if (kind == MarksHint::Kind::ready) return HintPanel::Kind::ready;
+  return kind == MarksHint::Kind::warning ? HintPanel::Kind::warning : HintPanel::Kind::advice;
 }
 
 Wording orElse(const QString& captionless) {
@@ -76,9 +72,9 @@ SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
   setCentralWidget(scroller);
   addStatus();
   answerHelpKey();
-  askBeforeDone();
-  binding().afterChanges = [this] { showChosen(); };
-  showChosen();
+  surroundActions();
+  binding().afterChanges = [this] { showState(); };
+  showState();
   restoreLayout(*this, usualSize);
   slip_->setFocus();
 }
@@ -86,57 +82,112 @@ SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
 QWidget* SelectionWindow::slipSide() {
   auto* side = new QWidget;
   auto* column = columnIn(side);
-  const bool isPowerBall = selection_.game.game == Game::powerBall;
   column->addWidget(
-      heading(side, u"Mark five numbers and one %1"_s.arg(isPowerBall ? u"PowerBall"_s : u"Mega Ball"_s)));
+      heading(side, u"Mark five numbers and one %1"_s.arg(toQString(extraBallName(selection_.game.game)))));
   slip_ = new Slip(selection_, binding());
   column->addWidget(slip_, 0, Qt::AlignLeft);
-  chosen_ = new QLabel(side);
-  chosen_->setTextFormat(Qt::PlainText);
-  // However many numbers are marked, the slip keeps its width.
-  chosen_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  column->addWidget(chosen_);
+  hint_ = new HintPanel(hintLines, side);
+  column->addWidget(hint_);
   auto* actions = new QGridLayout;
   actions->setSpacing(theme::gap);
   addActions(*actions, side);
-  addDrawCount(*actions, side);
   column->addLayout(actions);
+  addDrawCount(*column, side);
+  addBringBack(*column, side);
   column->addStretch();
   return side;
 }
 
 void SelectionWindow::addActions(QGridLayout& grid, QWidget* parent) {
+  // In the place of Select until the model shows it, so that the row has no hole.
+  waitingSelect_ = actionButton(parent, grid, 0, 0);
+  waitingSelect_->setText(toQString(selection_.Command59.caption()));
+  waitingSelect_->setEnabled(false);
   auto* select = actionButton(parent, grid, 0, 0);
   auto* quickPick = actionButton(parent, grid, 0, 1);
   auto* replay = actionButton(parent, grid, 0, 2);
-  auto* done = actionButton(parent, grid, 1, 0);
-  auto* clear = actionButton(parent, grid, 1, 1);
+  auto* clear = actionButton(parent, grid, 1, 0);
+  auto* draw = actionButton(parent, grid, 1, 1);
+  auto* done = actionButton(parent, grid, 1, 2);
+  select->setFont(theme::headingFont(select->font()));
   binding().bind(selection_.Command59, *select, withMnemonic('S'));
   binding().bind(selection_.Command9, *quickPick, withMnemonic('Q'));
   binding().bind(selection_.Command60, *replay, withMnemonic('R'));
-  binding().bind(selection_.Command5, *done, withMnemonic('D'));
   binding().bind(selection_.Command84, *clear, withMnemonic('C'));
+  binding().bind(selection_.Command1, *draw, withMnemonic('W'));
+  binding().bind(selection_.Command5, *done, withMnemonic('D'));
 }
 
-void SelectionWindow::addDrawCount(QGridLayout& grid, QWidget* parent) {
-  auto* draw = actionButton(parent, grid, 2, 0);
+void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
+  auto* title = new QLabel(u"For how many draws:"_s, parent);
+  auto* step = new QPushButton(parent);
+  auto* showCount = new QPushButton(parent);
   auto* count = heading(parent);
   count->setFont(theme::listFont(count->font()));
-  grid.addWidget(count, 2, 1);
-  auto* step = actionButton(parent, grid, 2, 2);
-  auto* showCount = actionButton(parent, grid, 1, 2);
-  binding().bind(selection_.Command1, *draw, withMnemonic('W'));
+  auto* line = row();
+  line->addWidget(title);
+  line->addWidget(step);
+  line->addWidget(showCount);
+  line->addWidget(count);
+  line->addStretch();
+  drawCount_ = new QLabel(parent);
+  drawCount_->setTextFormat(Qt::PlainText);
+  drawCount_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  column.addLayout(line);
+  column.addWidget(drawCount_);
   binding().bind(selection_.Label1, *count);
   binding().announceChangesOf(selection_.Label1);
   binding().bind(selection_.Command4, *step, withMnemonic('P'));
   binding().bind(selection_.Command7, *showCount, orElse(u"Draw Count"_s));
 }
 
+void SelectionWindow::addBringBack(QBoxLayout& column, QWidget* parent) {
+  bringBack_ = new QPushButton(u"&Bring Marks Back"_s, parent);
+  bringBack_->setToolTip(u"Puts back the marks that an action took off without entering a play"_s);
+  connect(bringBack_, &QPushButton::clicked, this, [this] { bringBack(); });
+  auto* action = new QAction(this);
+  action->setShortcut(QKeySequence::Undo);
+  connect(action, &QAction::triggered, this, [this] { bringBack(); });
+  addAction(action);
+  auto* keys = new QLabel(u"Ctrl+Z"_s, parent);
+  auto* line = row();
+  line->addWidget(bringBack_);
+  line->addWidget(keys);
+  line->addStretch();
+  column.addLayout(line);
+}
+
 QWidget* SelectionWindow::listSide() {
+  auto* side = new QWidget;
+  auto* column = columnIn(side);
   auto* lists = splitter(Qt::Vertical, u"lists"_s);
-  lists->addWidget(headedChoice(selection_.Label3, 'U', selection_.Combo1, binding()));
-  lists->addWidget(headedChoice(selection_.Label28, 'H', selection_.Combo7, binding()));
-  lists->addWidget(headedChoice(selection_.Label29, 'N', selection_.Combo8, binding()));
+  lists->addWidget(headedChoice(selection_.Label3, 'U', selection_.Combo1));
+  lists->addWidget(headedChoice(selection_.Label28, 'H', selection_.Combo7));
+  lists->addWidget(headedChoice(selection_.Label29, 'N', selection_.Combo8));
+  lists->addWidget(savedTexts());
+  column->addWidget(lists, 1);
+  auto* how = new QLabel(u"Double-click a play, or press Enter on it, to mark it."_s, side);
+  column->addWidget(how);
+  return side;
+}
+
+QWidget* SelectionWindow::headedChoice(Label& label, char mnemonic, ComboBox& combo) {
+  auto* box = new QWidget;
+  auto* column = columnIn(box);
+  column->setSpacing(theme::halfGap);
+  auto* title = heading(box);
+  auto* choice = new ChoiceList(combo.items(), box);
+  choice->list().setColumns(itemColumns);
+  title->setBuddy(&choice->list());
+  column->addWidget(title);
+  column->addWidget(choice, 1);
+  binding().bind(combo, *choice);
+  binding().bind(label, *title, asLabelOfControl(mnemonic));
+  markFrom(choice->list(), combo.items());
+  return box;
+}
+
+QWidget* SelectionWindow::savedTexts() {
   auto* box = new QWidget;
   auto* column = columnIn(box);
   column->setSpacing(theme::halfGap);
@@ -148,25 +199,128 @@ QWidget* SelectionWindow::listSide() {
   column->addWidget(title);
   column->addWidget(saved, 1);
   binding().bind(selection_.List1, *saved);
-  lists->addWidget(box);
-  return lists;
+  markFrom(*saved, selection_.List1.items());
+  return box;
+}
+
+void SelectionWindow::markFrom(LineList& list, const TextLines& items) {
+  const auto mark = [this, &items](const QModelIndex& index) {
+    const auto line = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || binding().isReleased() || line >= items.size()) return;
+    desk().runner.run([this, &items, line] {
+      std::string left;
+      removed_.watch(selection_, [&] { left = markLine(selection_, items[line]); });
+      note(toQString(left));
+    });
+  };
+  connect(&list, &QAbstractItemView::doubleClicked, this, mark);
+  auto* action = new QAction(u"&Mark These Numbers"_s, &list);
+  action->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+  action->setShortcutContext(Qt::WidgetShortcut);
+  connect(action, &QAction::triggered, &list, [&list, mark] { mark(list.currentIndex()); });
+  list.addAction(action);
 }
 
 void SelectionWindow::addStatus() {
+  const std::array<QString, 3> names = {u"Earlier plays"_s, u"Plays selected:"_s, u"First draw:"_s};
   std::vector<QLabel*> panels;
   for (std::size_t i = 0; i < selection_.StatusBar1.panels().size(); ++i) {
+    auto* label = new QLabel(names.at(i));
     auto* panel = new QLabel;
     panel->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(label);
     statusBar()->addWidget(panel, 1);
+    statusLabels_.push_back(label);
     panels.push_back(panel);
   }
   binding().bind(selection_.StatusBar1, panels);
 }
 
-void SelectionWindow::askBeforeDone() {
-  selection_.Command5.onClick = [this, done = selection_.Command5.onClick] {
-    if (mayCommit()) done();
+void SelectionWindow::showStatusLabels() {
+  const std::vector<std::string>& panels = selection_.StatusBar1.panels();
+  for (std::size_t i = 0; i < panels.size(); ++i) {
+    // After Done the first panel names itself.
+    const bool named = i == 0 ? panels[i].starts_with(':') : !panels[i].empty();
+    statusLabels_[i]->setVisible(named);
+  }
+}
+
+void SelectionWindow::surroundActions() {
+  const auto watch = [this](Button& button, const std::function<QString(bool tookOff)>& says) {
+    button.onClick = [this, says, act = button.onClick] { note(says(removed_.watch(selection_, act))); };
   };
+  const auto bringsBack = [](const QString& name) {
+    return [name](bool tookOff) {
+      return tookOff ? u"%1 took marks off; Ctrl+Z brings them back."_s.arg(name) : QString();
+    };
+  };
+  watch(selection_.Command59, bringsBack(u"Select"_s));
+  watch(selection_.Command84, bringsBack(u"Clear"_s));
+  watch(selection_.Command9, [](bool) { return QString(); });
+  watch(selection_.Command60, [this](bool) { return toQString(replayHint(selection_)); });
+  selection_.Command5.onClick = [this, done = selection_.Command5.onClick] {
+    if (!mayCommit()) return;
+    done();
+    if (!selection_.Command5.enabled()) afterDone();
+  };
+}
+
+void SelectionWindow::afterDone() {
+  saved_ = true;
+  desk().runner.attempt([this] {
+    note(toQString(committedHint(selection_)));
+    if (desk().playsSaved) desk().playsSaved(selection_.game);
+  });
+}
+
+void SelectionWindow::bringBack() {
+  if (binding().isReleased() || !bringBack_->isEnabled()) return;
+  desk().runner.run([this] {
+    removed_.bringBack(selection_);
+    note({});
+  });
+}
+
+void SelectionWindow::note(const QString& text) {
+  note_ = text;
+  notedMarks_ = marksHint(selection_).marks;
+}
+
+void SelectionWindow::showState() {
+  const MarksHint hint = marksHint(selection_);
+  if (!saved_ && hint.marks != notedMarks_) note_.clear();
+  const bool open = selection_.Command84.enabled();
+  if (saved_) {
+    hint_->show(HintPanel::Kind::ready, note_, u"Open the play selection again to select more plays."_s);
+  } else if (!note_.isEmpty()) {
+    const QString marks = toQString(hint.marks);
+    hint_->show(HintPanel::Kind::warning, marks,
+                note_ + (marks.isEmpty() ? u""_s : u"\n"_s + toQString(hint.text)));
+  } else {
+    hint_->show(kindOf(hint.kind), toQString(hint.marks), toQString(hint.text));
+  }
+  waitingSelect_->setVisible(!selection_.Command59.visible());
+  bringBack_->setEnabled(open && !removed_.empty());
+  const QString draws = toQString(sentence(drawCountHint(selection_)));
+  drawCount_->setText(draws.isEmpty() && open ? u"Select a play first, then Draw."_s : draws);
+  showStatusLabels();
+}
+
+bool SelectionWindow::mayClose() {
+  if (binding().isReleased() || !hasPlaysToLose(selection_)) return true;
+  const std::size_t plays = selection_.Combo1.items().size();
+  QMessageBox box(QMessageBox::Question, toQString(programTitle),
+                  plays == 1 ? u"One selected play is not saved yet."_s
+                             : u"%1 selected plays are not saved yet."_s.arg(plays),
+                  QMessageBox::NoButton, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(u"Done saves them for their draws. Without it they are dropped."_s);
+  auto* drop = box.addButton(u"&Drop Them"_s, QMessageBox::DestructiveRole);
+  auto* back = box.addButton(u"&Back to the Plays"_s, QMessageBox::RejectRole);
+  box.setDefaultButton(back);
+  box.setEscapeButton(back);
+  box.exec();
+  return box.clickedButton() == drop;
 }
 
 bool SelectionWindow::mayCommit() {
@@ -204,13 +358,6 @@ bool SelectionWindow::mayReplace() {
   return box.clickedButton() == keep || box.clickedButton() == replace;
 }
 
-void SelectionWindow::showChosen() {
-  const QString words = chosenInWords(selection_);
-  if (chosen_->text() == words) return;
-  chosen_->setText(words);
-  chosen_->setToolTip(words);
-}
-
 QString SelectionWindow::helpPage() const {
   return u"plays.html"_s;
 }
@@ -220,12 +367,25 @@ void SelectionWindow::keepLayout() {
 }
 
 void SelectionWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+    close();
+    return;
+  }
   const int digit = event->key() - Qt::Key_0;
   if (event->modifiers() & ~Qt::KeypadModifier || digit < 0 || digit > 9) {
     FormWindow::keyPressEvent(event);
     return;
   }
   slip_->typeDigit(digit);
+}
+
+bool maySelectionsClose(const GameInfo* game) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    auto* window = dynamic_cast<SelectionWindow*>(widget);
+    if (window == nullptr || window->binding().isReleased()) continue;
+    if ((game == nullptr || &window->game() == game) && !window->mayClose()) return false;
+  }
+  return true;
 }
 
 }  // namespace tallywick

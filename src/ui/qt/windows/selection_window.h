@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The selection window of a game: the slip with its actions on the left, the lists of plays on the right.
+// What it says beside the model is computed in selection/hints.h.
 #pragma once
 
+#include "selection/hints.h"
 #include "ui/qt/windows/form_window.h"
 
+class QBoxLayout;
 class QGridLayout;
+class QPushButton;
 
 namespace tallywick {
 
-class SelectionForm;
+class HintPanel;
+class LineList;
 class Slip;
 
 class SelectionWindow : public FormWindow {
@@ -17,6 +22,10 @@ class SelectionWindow : public FormWindow {
 
   QString helpPage() const override;
   void keepLayout() override;
+  /// Asks where selected plays would be dropped.
+  bool mayClose() override;
+
+  const GameInfo& game() const { return selection_.game; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -24,21 +33,45 @@ class SelectionWindow : public FormWindow {
  private:
   QWidget* slipSide();
   QWidget* listSide();
+  QWidget* headedChoice(Label& label, char mnemonic, ComboBox& combo);
+  QWidget* savedTexts();
   void addActions(QGridLayout& grid, QWidget* parent);
-  void addDrawCount(QGridLayout& grid, QWidget* parent);
+  void addDrawCount(QBoxLayout& column, QWidget* parent);
+  void addBringBack(QBoxLayout& column, QWidget* parent);
   void addStatus();
+  /// Lets a double click, and the Enter key, mark the play of a line.
+  void markFrom(LineList& list, const TextLines& items);
   /// Asks what a Done would do beyond what the window shows. False where the player wants none of it.
   bool mayCommit();
   /// Asks where the file of the current plays is not what the window shows.
   bool mayCommitTheFile();
   /// Asks where committed plays would go: Replace, Keep Both, Cancel.
   bool mayReplace();
-  void askBeforeDone();
-  void showChosen();
+  /// Lets the actions ask before and say afterwards what they did.
+  void surroundActions();
+  void afterDone();
+  void bringBack();
+  /// Says `text` over the sentence about the marks until these change.
+  void note(const QString& text);
+  void showState();
+  void showStatusLabels();
 
   SelectionForm& selection_;
   Slip* slip_ = nullptr;
-  QLabel* chosen_ = nullptr;
+  HintPanel* hint_ = nullptr;
+  QPushButton* waitingSelect_ = nullptr;
+  QPushButton* bringBack_ = nullptr;
+  QLabel* drawCount_ = nullptr;
+  std::vector<QLabel*> statusLabels_;
+  RemovedMarks removed_;
+  QString note_;
+  /// The marks to which the note belongs.
+  std::string notedMarks_;
+  bool saved_ = false;
 };
+
+/// Whether the open selection windows, all or those of `game`, may go: each asks where plays would be
+/// dropped.
+bool maySelectionsClose(const GameInfo* game = nullptr);
 
 }  // namespace tallywick

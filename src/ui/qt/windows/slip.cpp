@@ -8,12 +8,9 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QStringList>
 #include <algorithm>
 
 namespace tallywick {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -91,20 +88,6 @@ int Slip::numberOf(const QObject* button) const {
 
 bool Slip::contains(int number) const {
   return number >= 1 && number <= static_cast<int>(buttons_.size());
-}
-
-QString chosenInWords(const SelectionForm& form) {
-  QStringList mains;
-  QStringList extras;
-  for (const auto& button : form.numbers) {
-    const BallMark mark = markOf(button->backColor());
-    if (mark == BallMark::main) mains += toQString(button->caption());
-    if (mark == BallMark::extra) extras += toQString(button->caption());
-  }
-  const QString extraName = form.game.game == Game::powerBall ? u"PowerBall"_s : u"Mega Ball"_s;
-  const QString none = u"none"_s;
-  return u"Numbers: %1\n%2: %3"_s.arg(mains.isEmpty() ? none : mains.join(u", "_s), extraName,
-                                      extras.isEmpty() ? none : extras.join(u", "_s));
 }
 
 }  // namespace tallywick

@@ -36,7 +36,4 @@ class Slip : public QWidget {
   QElapsedTimer sinceTyped_;
 };
 
-/// The marked numbers in words, for example "Numbers: 05, 12" and in a second line "PowerBall: 07".
-QString chosenInWords(const SelectionForm& form);
-
 }  // namespace tallywick
