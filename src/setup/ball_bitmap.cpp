@@ -57,7 +57,8 @@ double inkAt(int number, Point at) {
   double distance = size;
   for (const auto& [digit, shift] : {std::pair(number / 10, -1), std::pair(number % 10, 1)}) {
     const double left = at.x - shift * digitAdvance / 2;
-    if (std::abs(left) > digitHeight) continue;
+    // Beyond this no digit's stroke reaches.
+    if (std::abs(left) > 0.5 * digitHeight || std::abs(at.y) > 0.65 * digitHeight) continue;
     const Point inDigit = {left / digitHeight, at.y / digitHeight};
     distance = std::min(distance, distanceTo(digitGlyph(digit), inDigit) * digitHeight);
   }

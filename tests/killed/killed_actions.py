@@ -137,12 +137,15 @@ def fail_everywhere(action, start, outcomes):
     lay_out(start)
     before, failures = state(), 0
     errors = {call: itertools.cycle(each.items()) for call, each in FAILURES.items()}
-    repeated = collections.Counter()
+    repeated, written = collections.Counter(), set()
     for call, number, line in calls_of(action):
-        # A folder is searched in the same way again and again; every fifth of such calls is enough.
+        # A folder is searched in the same way again and again; every fifth of such calls is enough. What was only read
+        # may be closed as it likes.
         same = re.sub(r"\d+<", "<", line).partition(" = ")[0]
         repeated[same] += 1
-        if call not in errors or (call in REPEATED and repeated[same] % 5 != 1):
+        path = re.search(r'[<"](/[^>"]*)[>"]', line.replace(os.getcwd(), ""))[1]
+        written |= {path} if "O_CREAT" in line else set()
+        if call not in errors or (call in REPEATED and repeated[same] % 5 != 1) or (call == "close" and path not in written):
             continue
         error, reported = next(errors[call])
         lay_out(start)

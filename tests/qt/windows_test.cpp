@@ -28,27 +28,17 @@ namespace {
 
 class Windows : public Desktop {};
 
-TEST_F(Windows, AsksTheDoublePlayQuestionInItsOwnWords) {
-  open("Form1");
-  std::string draws;
-  for (int i = 0; i < 16; ++i) draws += records({"11,18,2026,01,02,03,04,05,06,1,x,11,12,13,14,15,16,x"});
-  scratch.write(R"(QzrNumbers\QZR6PWR\QZRNUM72.Dat)", draws);
-  answerNextBox(QMessageBox::Yes);
-  widget<QPushButton>("Form1", "Command7").click();
-  EXPECT_EQ(boxTitle, QStringLiteral("TALLYWICK SOFTWARE"));
-  EXPECT_EQ(boxText, QStringLiteral("Display PowerBall Double Play Information  ?"));
-  EXPECT_EQ(boxIcon, QMessageBox::Question);
-  EXPECT_FALSE(widget<QLabel>("Form1", "Frame6").isHidden());
-  EXPECT_TRUE(widget<QLabel>("Form1", "Frame4").isHidden());
-}
-
-TEST_F(Windows, KeepsTheBlanksOfTheHelpMessage) {
-  open("Form1");
-  answerNextBox(QMessageBox::Ok);
-  window("Form1").findChild<QAction*>(QStringLiteral("mnuHelp"))->trigger();
-  EXPECT_EQ(boxTitle, QStringLiteral(" Tallywick Software  "));
-  EXPECT_EQ(boxText, QStringLiteral(" Please...,   Press  'F1'  for Help\n"));
-  EXPECT_EQ(boxIcon, QMessageBox::Warning);
+TEST_F(Windows, ShowABoxAsItIsAndGiveItsAnswerBack) {
+  const MessageBox box = {" A text,\nwith  blanks\n", " Title  ", MessageBox::Icon::question,
+                          MessageBox::Buttons::yesNo};
+  for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+    answerNextBox(answer);
+    EXPECT_EQ(platform.show(box),
+              answer == QMessageBox::Yes ? MessageBox::Answer::yes : MessageBox::Answer::no);
+    EXPECT_EQ(boxTitle, QStringLiteral(" Title  "));
+    EXPECT_EQ(boxText, QStringLiteral(" A text,\nwith  blanks\n"));
+    EXPECT_EQ(boxIcon, QMessageBox::Question);
+  }
 }
 
 TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {

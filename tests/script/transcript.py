@@ -8,7 +8,7 @@ one only its first and last items. --accept writes it anew: read every changed l
 
 Lines that begin with #! are for this driver: `write FILE` writes the records that follow (separated by ` | `), `remove FILE`
 removes a file, `cat FILE` prints it as it is now. Those before the script's first line run before the program starts. A FILE
-with a folder is below QzrNumbers."""
+with a folder is below QzrNumbers; a + in its name is a blank."""
 import argparse, datetime, difflib, json, pathlib, re, subprocess, sys, tempfile
 
 NOW = '06-16-2026 12:00:00'  # a Tuesday
@@ -110,6 +110,7 @@ class Run:
 
     def direct(self, verb, rest):
         name, _, records = rest.partition(' ')
+        name = name.replace('+', ' ')
         if verb == 'write':
             self.path(name).parent.mkdir(parents=True, exist_ok=True)
             self.path(name).write_text(''.join(record + '\r\n' for record in records.split(' | ') if record), newline='')

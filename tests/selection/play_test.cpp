@@ -81,17 +81,6 @@ TEST_F(Selection, DoneTakesNoCommittedPlayAway) {
   }
 }
 
-TEST_F(Selection, TheTwentyNewestCopiesStay) {
-  for (int day = 1; day <= 20; ++day)
-    scratch.write(path(join("1 2026-10-", twoDigits(day), " 120000.Ply")), "");
-  scratch.write(path("1.Ply"), records({"11-18-2026,01,02,03,04,05,06,5000000"}));
-  open();
-  press("Command5");
-  EXPECT_FALSE(scratch.exists(path("1 2026-10-01 120000.Ply")));
-  EXPECT_TRUE(scratch.exists(path("1 2026-10-02 120000.Ply")));
-  EXPECT_TRUE(scratch.exists(path("1 2026-11-21 120000.Ply")));
-}
-
 TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   open();
   {
@@ -111,33 +100,6 @@ TEST_F(Selection, AnotherProgramAtTheFilesIsToldAndThePlayStays) {
   EXPECT_EQ(get("7.Ply"), play);
   EXPECT_EQ(boxes.shown.size(), 3U);
   EXPECT_FALSE(form->Command9.enabled() || form->Command5.enabled() || form->Command60.enabled());
-}
-
-TEST_F(Selection, DoneCommitsWhatTheFileContainsWhateverTheWindowShows) {
-  const std::string other = records({"11-23-2026,01,02,03,04,05,06,5000000"});
-  for (const std::string& current : {other, std::string()}) {
-    open();
-    scratch.write(path("1.Ply"), "committed");
-    select("05 11 23 42 59", "26");
-    EXPECT_TRUE(showsCurrentPlays(*form));
-    scratch.write(path("7.Ply"), current);
-    EXPECT_FALSE(showsCurrentPlays(*form));
-    press("Command5");
-    EXPECT_TRUE(boxes.shown.empty());
-    EXPECT_EQ(get("1.Ply"), current);
-  }
-}
-
-TEST_F(Selection, ARecordsEmptyLastFieldStays) {
-  const std::string plays = records({"11-21-2026,01,02,03,04,05,06,", "11-21-2026,07,08,09,10,11,12,"});
-  for (const char* count : {"    ", "   2"}) {
-    open();
-    scratch.write(path("7.Ply"), "11-21-2026,01,02,03,04,05,06,\r\n11-21-2026,07,08,09,10,11,12,");
-    form->Label1.setCaption(count);
-    press("Command5");
-    EXPECT_EQ(get("1.Sav").substr(0, plays.size()), plays) << count;
-    EXPECT_EQ(PlayFile(scratch.folder(), path("1.Ply")).plays().at(1).main[4], "11") << count;
-  }
 }
 
 TEST_F(Selection, SelectAppendsBehindWhateverEndsTheFile) {

@@ -46,7 +46,12 @@ class RealServer : public TransferTest {
 
 TEST_F(RealServer, GivesEveryPlainFileOfItsFolder) {
   const ServerProcess server = serve();
-  connected("ftp://" + server.address())->download(folderThere, "*.*", pwrHere);
+  {
+    const auto component = connected("ftp://" + server.address());
+    component->setProgressWindow(true);
+    component->download(folderThere, "*.*", pwrHere);
+    EXPECT_TRUE(window.closed == 1 && !window.open);
+  }
   EXPECT_EQ(commands("QUIT").size(), 1U);
   expectAllFetched();
   EXPECT_EQ(commands("CWD"), std::vector<std::string>{"CWD /D:/QZR/Z1-Pwr/Qzr6"});
@@ -65,6 +70,7 @@ TEST_F(RealServer, ListsAsUnixOrAsWindowsDoesAndCallsBack) {
     std::filesystem::remove(tree.root() / "log");
     const ServerProcess server = serve({"no-mlsd", style});
     connected(server.address(), false)->download(folderThere, "*.*", pwrHere);
+    EXPECT_EQ(window.closed, 0) << "nobody asked for it";
     expectAllFetched();
     EXPECT_EQ(commands("LIST").size(), 1U);
     EXPECT_FALSE(commands("EPRT").empty());
@@ -86,25 +92,6 @@ TEST_F(RealServer, TakesFilesAndFolders) {
   EXPECT_THAT(errorOf([&] { component->createDirectory("/D:/new"); }), testing::HasSubstr("refuses"));
   EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }),
               testing::HasSubstr("not a folder"));
-}
-
-TEST_F(RealServer, FillsAProgressWindowWhereThatIsAskedFor) {
-  const ServerProcess server = serve();
-  const auto component = connected(server.address());
-  component->download(folderThere, "*.*", pwrHere);
-  EXPECT_EQ(window.closed, 0);
-  component->setProgressWindow(true);
-  component->download(folderThere, "*.*", pwrHere);
-  EXPECT_TRUE(window.closed == 1 && !window.open);
-}
-
-TEST_F(RealServer, IsRefusedWhereTheLoginIsWrong) {
-  const ServerProcess server = serve();
-  auto component = newCurlTransfer(scratch.folder(), clock);
-  component->setUserName(serverLogin);
-  component->setPassword("wrong");
-  component->setHost(server.address());
-  EXPECT_EQ(errorOf([&] { component->openSession(); }), "The transfer failed: login denied");
 }
 
 TEST(CurlOption, ThatTheLibraryDoesNotTakeIsAnError) {

@@ -5,11 +5,9 @@
 
 #include "core/clock.h"
 #include "core/runtime_error.h"
-#include "ftp_servers.h"
 #include "support/fake_transfer.h"
 #include "support/fakes.h"
 #include "support/scratch_folder.h"
-#include "update/curl_transfer.h"
 #include "update/transfer_status.h"
 
 #include <gtest/gtest.h>
@@ -152,34 +150,6 @@ TEST_F(Update, TellsFileAndBytesInTheStatusBar) {
   EXPECT_EQ(page.StatusBar1.panels()[0], "QZRNUM6.Dat: 1,234,567 of 22,345,678 bytes");
   status.transferInfo({"a", 999, 0});
   EXPECT_EQ(page.StatusBar1.panels()[0], "a: 999 bytes");
-}
-
-// The whole way: older draws become newer ones, plays move; where the second game fails the first stays.
-TEST_F(Update, BringsDrawsFromARealServerGameByGame) {
-  const ScratchFolder tree;
-  const std::string newDraws = records({"11,25,2026,1,2,3,4,5,6,x"});
-  putText(tree.root() / "root/D:/QZR/Z1-Pwr/Qzr6/qzrnum6.dat", newDraws);
-  const ServerProcess real("good_server.py",
-                           {(tree.root() / "root").string(), (tree.root() / "log").string()});
-  server = real.address();
-  scratch.write("PWF.TXT", serverPassword);
-  scratch.write("PWF2.TXT", serverLogin);
-  const std::string play = records({"11-23-2026,01,02,03,04,05,06,5000000"});
-  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", play);
-  newTransfer = [this] { return newCurlTransfer(scratch.folder(), clock); };
-
-  auto expected = scratch.snapshot();
-  EXPECT_EQ(run(Command2_Click), static_cast<std::int32_t>(0x80040000U + 28105U))
-      << "the second game's folder";
-  expected["QzrNumbers/QZR6PWR/QZRNUM6.Dat"] = newDraws;
-  EXPECT_EQ(scratch.snapshot(), expected);
-
-  putText(tree.root() / "root/D:/QZR/Z2-Meg/Qzr6/QZRNUM6.Dat", newDraws);
-  EXPECT_EQ(run(Command2_Click), 0);
-  EXPECT_EQ(scratch.read("QzrNumbers/QZR6MEG/QZRNUM6.Dat"), newDraws);
-  EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), play);
-  EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/QZR6PWR1.Ply"), "");
-  EXPECT_EQ(log.back(), "pictures");
 }
 
 }  // namespace

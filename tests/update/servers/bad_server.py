@@ -3,8 +3,8 @@
 bad_server.py FOLDER
 
 FOLDER contains the name of the fault in "fault", read for each client, the answer to LIST, the answer to MLSD where
-the server is to know it, the files, and a "certificate" where it is to know TLS; the commands that come in are written to its "log". Prints its port; ends
-when its standard input does.
+the server is to know it, the files, and a "certificate" where it is to know TLS; the commands that come in are
+written to its "log". Prints its port; ends when its standard input does.
 """
 import os
 import socket
