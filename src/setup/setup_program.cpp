@@ -319,12 +319,16 @@ bool fetch(const Options& options, const Outputs& outputs) {
   std::optional<ProgressLine> line;
   if (outputs.isTerminal) line.emplace(outputs.errors);
   TransferWatch* const watch = line ? &*line : nullptr;
-  const std::vector<GameFetch> fetches = holdsRecords(options.folder)
-                                             ? fetchDraws(folder, clock, exportAddresses(settings), {}, watch)
-                                             : makeFetchedFolder(folder, clock, settings, {}, watch);
+  const bool isNew = !holdsRecords(options.folder);
+  const std::vector<GameFetch> fetches =
+      isNew ? makeFetchedFolder(folder, clock, settings, {}, watch)
+            : fetchDraws(folder, clock, exportAddresses(settings), {}, watch);
   line.reset();
+  const bool isComplete = std::ranges::all_of(fetches, &std::string::empty, &GameFetch::error);
+  const bool isMade = !isNew || isComplete;
   for (const GameFetch& one : fetches) {
     const std::string_view game = infoOf(one.game).name;
+    if (one.error.empty() && !isMade) continue;
     if (!one.error.empty()) {
       outputs.errors << "tallywick-setup: " << game << ": " << one.error << "\n";
     } else if (one.isUnchanged) {
@@ -334,7 +338,11 @@ bool fetch(const Options& options, const Outputs& outputs) {
       exports::print(one.report, one.game, outputs.out);
     }
   }
-  return std::ranges::all_of(fetches, &std::string::empty, &GameFetch::error);
+  if (!isMade) {
+    outputs.errors << "tallywick-setup: " << options.folder
+                   << " was not made; it needs the draws of both games\n";
+  }
+  return isComplete;
 }
 
 void addDraw(const Options& options, std::ostream& out) {
