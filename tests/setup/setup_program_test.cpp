@@ -152,7 +152,7 @@ TEST(Setup, ADrawIsTypedInAndRemoved) {
     words.insert(words.end(), more.begin(), more.end());
     return run(words, exitCode);
   };
-  EXPECT_THAT(runOn(add, {"--marks", "x"}, 1), HasSubstr("winning tickets: \"x\" is no number"));
+  EXPECT_THAT(runOn(add, {"--marks", "x"}, 1), HasSubstr("winning tickets: \"x\" is not a number"));
   EXPECT_EQ(runOn(add, {}, 0), "PowerBall: the draw of 11-21-2026 was added\n");
   EXPECT_EQ(runOn(add, {}, 0), "PowerBall: the draw of 11-21-2026 is known already; nothing was changed\n");
   EXPECT_THAT(runOn(add, {"--multiplier", "3"}, 1), HasSubstr("another multiplier is known already: 1"));
