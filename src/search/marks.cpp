@@ -2,6 +2,7 @@
 #include "search/marks.h"
 
 #include "core/text.h"
+#include "search/combinations.h"
 
 #include <algorithm>
 #include <array>
@@ -27,6 +28,15 @@ void unmarkAll(ButtonRow<6>& numbers) {
 std::string firstMarkedNumber(const ButtonRow<6>& numbers) {
   const auto first = std::find_if(numbers.begin(), numbers.end(), isMarked);
   return first == numbers.end() ? std::string() : first->caption();
+}
+
+const Combination* chosenCombination(const ButtonRow<6>& numbers) {
+  const auto chosen = std::find_if(combinations.begin(), combinations.end(), [&](const Combination& tried) {
+    return std::all_of(tried.positions.begin(), tried.positions.end(), [&](std::size_t position) {
+      return position == 0 || isMarked(numbers[position - 1]);
+    });
+  });
+  return chosen == combinations.end() ? nullptr : &*chosen;
 }
 
 void setNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {

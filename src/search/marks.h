@@ -27,6 +27,11 @@ void unmarkAll(ButtonRow<6>& numbers);
 /// The caption of the first marked button; empty where none is marked.
 std::string firstMarkedNumber(const ButtonRow<6>& numbers);
 
+struct Combination;
+/// The combination of the two/three-number search that the marks choose; null where fewer than two are
+/// marked.
+const Combination* chosenCombination(const ButtonRow<6>& numbers);
+
 /// Gives the buttons the numbers of `drawLine`, whatever characters are there; beyond the line's end the
 /// caption is empty.
 void setNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt);

@@ -86,16 +86,6 @@ constexpr Member oneTwoThreeHoosierMember = {.gameFolder = hoosierFolder,
 
 using DrawRecord = Fields<drawFields>;
 
-/// Null where fewer than two positions are marked.
-const Combination* chosenCombination(const ButtonRow<6>& numbers) {
-  const auto chosen = std::find_if(combinations.begin(), combinations.end(), [&](const Combination& tried) {
-    return std::all_of(tried.positions.begin(), tried.positions.end(), [&](std::size_t position) {
-      return position == 0 || isMarked(numbers[position - 1]);
-    });
-  });
-  return chosen == combinations.end() ? nullptr : &*chosen;
-}
-
 std::vector<std::string> searchedNumbers(const Combination& combination, const ButtonRow<6>& numbers) {
   std::vector<std::string> searched;
   for (std::size_t i = 0; i < combination.size(); ++i) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the searches and counts: every set of marks in every member of the family, the
-// leftover state game, files that end inside a record, and what a window emphasises.
+// leftover state game, files that end inside a record, and what a window emphasises and says.
 #include "core/runtime_error.h"
 #include "search/marks.h"
-#include "search/search_pages.h"
+#include "search/search_hints.h"
 #include "support/fakes.h"
 #include "support/scratch_folder.h"
 
@@ -189,6 +189,80 @@ TEST_F(OneNumber, OfTheStateGameIsTwoPlacesFurtherLeft) {
   EXPECT_EQ(pages.twoThree.numbers[5].caption() + pages.havePlayed.numbers[5].caption() +
                 pages.havePlayedPlays.numbers[5].caption() + pages.played.Command23.caption(),
             "16X X ");
+}
+
+class SearchHints : public testing::Test, public SearchWindow {
+ protected:
+  SearchHints() {
+    files.write(std::string(powerBallDraws), test::records({"11,18,2026,07,17,20,41,55,09,2"}));
+    page.Command37.onClick = [this] { Command37_Click(page); };
+    page.Command38.onClick = [this] { Command38_Click(page, files.folder(), boxes); };
+    takeTypedNumbers(page.Command37, page.Combo4);
+    memory.watch(page.Command38, [this] { return searchedNow(page, "PowerBall"); });
+  }
+
+  TwoThreePage& page = pages.twoThree;
+  SearchMemory memory{page.Combo7.items(), &page.List8.items()};
+};
+
+TEST_F(SearchHints, NumbersThatAreTypedStandForADraw) {
+  const std::string blanks(15, ' ');
+  const std::pair<const char*, std::optional<std::string>> cases[] = {
+      {"7 17 20", blanks + "07 17 20"},
+      {" 07,17 ", blanks + "07 17"},
+      {"1 2 3 4 5 6", blanks + "01 02 03 04 05   06"},
+      {"7 17 + 20", blanks + "07 17" + std::string(12, ' ') + "20"},
+      {"", std::nullopt},
+      {"0 7", std::nullopt},
+      {"1 2 3 4 5 6 7", std::nullopt},
+      {"7 + 8 9", std::nullopt},
+      {" 11-18-2026    07 17 20 41 55   09", std::nullopt},
+  };
+  for (const auto& [typed, line] : cases) EXPECT_EQ(typedDrawLine(typed), line) << typed;
+  page.Combo4.setText("7 17 20");
+  click(page.Command37);
+  EXPECT_EQ(page.numbers[1].caption(), "17");
+  EXPECT_EQ(page.numbers[3].caption(), "");
+  EXPECT_EQ(page.Combo4.text(), "7 17 20");
+}
+
+TEST_F(SearchHints, SayWhatAPressWillSearch) {
+  page.Combo4.setText("7 17 20 41 55 9");
+  const std::pair<const char*, const char*> cases[] = {
+      {"2", "One ball is marked: mark one or two more. With one alone nothing is searched."},
+      {"16", "Search looks for 07 and 09 among all six balls of a draw."},
+      {"123", "Search looks for 07, 17 and 20 among the five white balls of a draw, not in its extra ball."},
+      {"245", "Search looks for 17 and 41 only, among all six balls of a draw."},
+      {"1234", "Four balls are marked: two or three can be searched."},
+  };
+  for (const auto& [marks, text] : cases) {
+    click(page.Command37);
+    mark(page.numbers, marks);
+    EXPECT_EQ(searchHint(page).text, text);
+  }
+  frames.Frame6.show();
+  EXPECT_EQ(searchHint(pages.havePlayedPlays, frames).text,
+            "Nothing is counted for the game on show: press PowerBall or Mega Millions.");
+  pages.played.Command23.setCaption("2");
+  EXPECT_THAT(searchHint(pages.played, frames).text, testing::HasSubstr("draws write it as 02"));
+}
+
+TEST_F(SearchHints, SayWhoseResultIsShown) {
+  page.Combo4.setText("7 17 20");
+  click(page.Command37);
+  mark(page.numbers, "12");
+  EXPECT_EQ(memory.hint(searchedNow(page, {})), "");
+  click(page.Command38);
+  EXPECT_EQ(memory.hint(searchedNow(page, {})), "Shown: the PowerBall draws with 07 and 17.");
+  EXPECT_TRUE(memory.isListed());
+  mark(page.numbers, "13");
+  EXPECT_EQ(memory.hint(searchedNow(page, "Mega Millions")),
+            "Still shown: the PowerBall draws with 07 and 17, not what is marked now, not the game on show "
+            "(Mega Millions).");
+  page.List8.add("a draw of another game");
+  EXPECT_FALSE(memory.isListed());
+  page.Combo7.clear();
+  EXPECT_EQ(memory.hint(searchedNow(page, {})), "");
 }
 
 }  // namespace

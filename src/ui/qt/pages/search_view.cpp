@@ -4,11 +4,13 @@
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
 #include <QButtonGroup>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace tallywick {
@@ -16,6 +18,9 @@ namespace tallywick {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// What a press will search, in two lines, and whose result is shown.
+constexpr int hintLines = 3;
 
 std::vector<Button*> pointersTo(ButtonRow<6>& row) {
   std::vector<Button*> buttons;
@@ -39,7 +44,13 @@ void addSearch(QBoxLayout& row, const SearchPanel::Search& search, Binding& bind
   button->setAccessibleName(u"Search %1"_s.arg(search.name));
 }
 
+/// The two/three-number search has a button for each game.
 SearchPanel twoThreePanel(TwoThreePage& page) {
+  auto memory = std::make_shared<SearchMemory>(page.Combo7.items(), &page.List8.items());
+  const std::pair<Button*, const char*> searches[] = {
+      {&page.Command38, "PowerBall"}, {&page.Command25, "Mega Millions"}, {&page.Command26, "Double Play"}};
+  for (const auto& [button, game] : searches)
+    memory->watch(*button, [&page, game] { return searchedNow(page, game); });
   return {u"Ta&ke the numbers of:"_s,
           page.Combo4,
           {&page.Command37},
@@ -49,36 +60,81 @@ SearchPanel twoThreePanel(TwoThreePage& page) {
            {page.Command26, u"Double Play"_s, 'B'}},
           page.Combo7,
           page.Label25,
-          page.List8};
+          page.List8,
+          u"All draws, until a search lists those found"_s,
+          [&page] { return searchHint(page); },
+          [&page] { return searchedNow(page, {}); },
+          memory};
 }
 
-SearchPanel havePlayedPanel(HavePlayedPage& page) {
-  return {u"Ta&ke the numbers of:"_s,  page.Combo2, {&page.Command22}, pointersTo(page.numbers),
-          {{page.Command21, {}, 'E'}}, page.Combo5, page.Label23,      page.List6};
+/// What a panel with one search shows beside its controls.
+template <typename Page>
+void addHints(SearchPanel& panel, const Page& page, const GameFrames& frames, const TextLines* listed) {
+  panel.hint = [&page, &frames] { return searchHint(page, frames); };
+  panel.now = [&page, &frames] { return searchedNow(page, frames); };
+  panel.memory = std::make_shared<SearchMemory>(panel.results.items(), listed);
+  panel.memory->watch(panel.searches.front().button, panel.now);
 }
 
-SearchPanel playedPanel(PlayedPage& page) {
-  return {u"Ta&ke the number of:"_s,
-          page.Combo3,
-          {&page.Command24, &page.Command29},
-          {&page.Command23},
-          {{page.Command30, {}, 'E'}},
-          page.Combo6,
-          page.Label24,
-          page.List7};
+SearchPanel havePlayedPanel(HavePlayedPage& page, const GameFrames& frames) {
+  SearchPanel panel = {u"Ta&ke the numbers of:"_s,
+                       page.Combo2,
+                       {&page.Command22},
+                       pointersTo(page.numbers),
+                       {{page.Command21, {}, 'E'}},
+                       page.Combo5,
+                       page.Label23,
+                       page.List6,
+                       u"All draws, until a count empties this list"_s,
+                       {},
+                       {},
+                       {}};
+  addHints(panel, page, frames, nullptr);
+  return panel;
 }
 
-SearchPanel havePlayedPlaysPanel(HavePlayedPlaysPage& page) {
-  return {u"Ta&ke the numbers of the play:"_s, page.Combo8, {&page.Command45}, pointersTo(page.numbers),
-          {{page.Command46, {}, 'E'}},         page.Combo9, page.Label26,      page.List9};
+SearchPanel playedPanel(PlayedPage& page, const GameFrames& frames) {
+  SearchPanel panel = {u"Ta&ke the multiplier of, or type:"_s,
+                       page.Combo3,
+                       {&page.Command24, &page.Command29},
+                       {&page.Command23},
+                       {{page.Command30, {}, 'E'}},
+                       page.Combo6,
+                       page.Label24,
+                       page.List7,
+                       u"All draws, until a count lists those found"_s,
+                       {},
+                       {},
+                       {}};
+  addHints(panel, page, frames, &page.List7.items());
+  return panel;
+}
+
+SearchPanel havePlayedPlaysPanel(HavePlayedPlaysPage& page, const GameFrames& frames) {
+  SearchPanel panel = {u"Ta&ke the numbers of the play:"_s,
+                       page.Combo8,
+                       {&page.Command45},
+                       pointersTo(page.numbers),
+                       {{page.Command46, {}, 'E'}},
+                       page.Combo9,
+                       page.Label26,
+                       page.List9,
+                       u"All draws of the game"_s,
+                       {},
+                       {},
+                       {}};
+  addHints(panel, page, frames, nullptr);
+  return panel;
 }
 
 }  // namespace
 
-SearchPanelView::SearchPanelView(const SearchPanel& panel, Binding& binding) {
+SearchPanelView::SearchPanelView(const SearchPanel& panel, Binding& binding) : panel_(panel) {
   columnIn(this, theme::pageMargin);
   addSource(panel, binding);
   addNumbers(panel, binding);
+  hint_ = new HintPanel(hintLines, this);
+  layout()->addWidget(hint_);
   addResults(panel, binding);
 }
 
@@ -89,9 +145,12 @@ void SearchPanelView::addSource(const SearchPanel& panel, Binding& binding) {
   auto* line = row();
   line->addWidget(label);
   line->addWidget(picker, 1);
+  picker->lineEdit()->setPlaceholderText(u"a draw, or numbers such as 7 17 20"_s);
   binding.bind(panel.source, *picker);
   for (Button* display : panel.displays) {
+    takeTypedNumbers(*display, panel.source);
     auto* button = new QPushButton(this);
+    connect(picker->lineEdit(), &QLineEdit::returnPressed, button, &QPushButton::click);
     line->addWidget(button);
     binding.bind(*display, *button, withMnemonic('Y'));
   }
@@ -126,13 +185,13 @@ void SearchPanelView::addResults(const SearchPanel& panel, Binding& binding) {
   line->addWidget(title);
   line->addWidget(results, 1);
   line->addWidget(tally, 1);
-  auto* listTitle = heading(this, u"Draws"_s);
+  listTitle_ = heading(this, panel.listTitle);
   auto* list = new LineList(panel.list.items(), this);
   list->setAccessibleName(u"Draws"_s);
 
   auto* column = static_cast<QBoxLayout*>(layout());
   column->addLayout(line);
-  column->addWidget(listTitle);
+  column->addWidget(listTitle_);
   column->addWidget(list, 1);
   binding.bind(panel.results, *results);
   binding.bind(panel.tally, *tally);
@@ -140,15 +199,34 @@ void SearchPanelView::addResults(const SearchPanel& panel, Binding& binding) {
   binding.bind(panel.list, *list);
 }
 
+void SearchPanelView::showHints() {
+  const SearchHint hint = panel_.hint();
+  const QString shown = toQString(panel_.memory->hint(panel_.now()));
+  const auto kind = hint.surprises ? HintPanel::Kind::warning
+                    : hint.ready   ? HintPanel::Kind::ready
+                                   : HintPanel::Kind::advice;
+  hint_->show(kind, {}, shown.isEmpty() ? toQString(hint.text) : toQString(hint.text) + u'\n' + shown);
+  listTitle_->setText(panel_.memory->isListed() ? u"Draws found"_s : panel_.listTitle);
+}
+
 SearchView::SearchView(MainForm& form, Binding& binding) {
   SearchPages& pages = form.search;
   setDocumentMode(true);
-  addTab(new SearchPanelView(twoThreePanel(pages.twoThree), binding), u"&Two or Three Numbers"_s);
-  addTab(new SearchPanelView(havePlayedPanel(pages.havePlayed), binding), u"One Number of &a Draw"_s);
-  addTab(new SearchPanelView(playedPanel(pages.played), binding), u"F&irst Number of a Draw"_s);
-  addTab(new SearchPanelView(havePlayedPlaysPanel(pages.havePlayedPlays), binding),
-         u"One Number of a P&lay"_s);
+  add(twoThreePanel(pages.twoThree), u"&Two or Three Numbers"_s, binding);
+  add(havePlayedPanel(pages.havePlayed, form.frames), u"One Number of &a Draw"_s, binding);
+  add(playedPanel(pages.played, form.frames), u"Mult&iplier or Any Number"_s, binding);
+  add(havePlayedPlaysPanel(pages.havePlayedPlays, form.frames), u"One Number of a P&lay"_s, binding);
   binding.bind(form.bar.SSTab2, *this);
+  showHints();
+}
+
+void SearchView::add(const SearchPanel& panel, const QString& title, Binding& binding) {
+  panels_.push_back(new SearchPanelView(panel, binding));
+  addTab(panels_.back(), title);
+}
+
+void SearchView::showHints() {
+  for (SearchPanelView* panel : panels_) panel->showHints();
 }
 
 }  // namespace tallywick

@@ -2,14 +2,21 @@
 // The search pages: four panels of one shape on a tab strip of their own.
 #pragma once
 
+#include "search/search_hints.h"
+
 #include <QTabWidget>
+#include <functional>
+#include <memory>
 #include <vector>
+
+class QLabel;
 
 namespace tallywick {
 
 class Binding;
 class Button;
 class ComboBox;
+class HintPanel;
 class Label;
 class ListBox;
 class MainForm;
@@ -31,21 +38,41 @@ struct SearchPanel {
   ComboBox& results;
   Label& tally;
   ListBox& list;
+  /// The list's heading before a search and, where a search fills it, after one.
+  QString listTitle;
+  /// What a press will search, and what it would be searching.
+  std::function<SearchHint()> hint;
+  std::function<Searched()> now;
+  std::shared_ptr<SearchMemory> memory;
 };
 
 class SearchPanelView : public QWidget {
  public:
   SearchPanelView(const SearchPanel& panel, Binding& binding);
 
+  /// Says what a press will search and whose result is shown; to be called after every change of the model.
+  void showHints();
+
  private:
   void addSource(const SearchPanel& panel, Binding& binding);
   void addNumbers(const SearchPanel& panel, Binding& binding);
   void addResults(const SearchPanel& panel, Binding& binding);
+
+  SearchPanel panel_;
+  HintPanel* hint_ = nullptr;
+  QLabel* listTitle_ = nullptr;
 };
 
 class SearchView : public QTabWidget {
  public:
   SearchView(MainForm& form, Binding& binding);
+
+  void showHints();
+
+ private:
+  void add(const SearchPanel& panel, const QString& title, Binding& binding);
+
+  std::vector<SearchPanelView*> panels_;
 };
 
 }  // namespace tallywick

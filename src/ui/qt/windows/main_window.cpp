@@ -42,6 +42,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   addKeys();
   binding().afterChanges = [this] {
     bar_->showGame();
+    searches_->showHints();
     winnings_->showChanges();
   };
   binding().onPress = [this, press = binding().onPress](Control& control) {
@@ -57,7 +58,8 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
 
 void MainWindow::addPages() {
   pages_->addTab(new SummaryView(main_, binding()), u"Summa&ry"_s);
-  pages_->addTab(new SearchView(main_, binding()), u"Sear&ches"_s);
+  searches_ = new SearchView(main_, binding());
+  pages_->addTab(searches_, u"Sear&ches"_s);
   winnings_ = new WinningsView(main_, *this);
   pages_->addTab(winnings_, u"&Winnings"_s);
   pages_->addTab(new DrawsView(main_.draws, binding()), u"&Draws"_s);

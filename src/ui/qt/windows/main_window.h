@@ -10,6 +10,7 @@ namespace tallywick {
 
 class MainForm;
 class NavigationBarView;
+class SearchView;
 class WinningsView;
 
 class MainWindow : public FormWindow {
@@ -33,6 +34,7 @@ class MainWindow : public FormWindow {
   MainForm& main_;
   NavigationBarView* bar_;
   QTabWidget* pages_;
+  SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
 };
 
