@@ -68,6 +68,12 @@ class Application {
   void updateAgain();
   /// Fills the lists of the game on show anew, and says in a message what fails.
   void showGameAnew();
+  /// The games whose draws are made up.
+  std::vector<const GameInfo*> madeUpGames() const;
+  /// Whether the draws of the game on show are made up.
+  bool showsMadeUpDraws() const;
+  /// Asks whether the plays of the games among `before` that have real draws now are to go with their sample.
+  void offerToTakePlaysAway(const std::vector<const GameInfo*>& before);
   /// What is known about the draws of the game on show, in the place of the button that an update has hidden;
   /// empty where that is in its place.
   std::string noteOfUpdate() const;

@@ -3,7 +3,9 @@
 #include "app/application.h"
 #include "app/draws_note.h"
 #include "app/game_pages.h"
+#include "app/sample_plays.h"
 #include "core/text.h"
+#include "exports/made_up.h"
 #include "update/maintenance.h"
 #include "update/public_exports.h"
 
@@ -70,6 +72,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
   FetchedExports exports(folder, surroundings_.clock, &surroundings_.platform, games.size());
   if (!hasFetched(exports, games)) return;
   const UpdateControls controls(*main_);
+  const std::vector<const GameInfo*> madeUp = madeUpGames();
   try {
     const auto hasMoves = [&folder](const GameInfo* game) { return hasDrawnPlays(*game, folder); };
     if (!exports.bringDraws() && std::ranges::none_of(games, hasMoves)) {
@@ -80,6 +83,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
     fetched_ = &exports;
     update();
     fetched_ = nullptr;
+    offerToTakePlaysAway(madeUp);
   } catch (const std::exception& error) {
     fetched_ = nullptr;
     controls.restore();
@@ -129,6 +133,38 @@ void Application::showGameAnew() {
   } catch (const std::exception& error) {
     showMessage(surroundings_.platform, join("The draws could not be shown anew.\n\n", error.what()),
                 MessageBox::Icon::exclamation);
+  }
+}
+
+std::vector<const GameInfo*> Application::madeUpGames() const {
+  std::vector<const GameInfo*> games = {&powerBall, &megaMillions};
+  std::erase_if(
+      games, [this](const GameInfo* game) { return !exports::isMadeUp(surroundings_.folder, game->game); });
+  return games;
+}
+
+bool Application::showsMadeUpDraws() const {
+  const GameInfo* const game = main_ != nullptr ? gameOnShow(main_->frames) : nullptr;
+  return game != nullptr && exports::isMadeUp(surroundings_.folder, game->game);
+}
+
+void Application::offerToTakePlaysAway(const std::vector<const GameInfo*>& before) {
+  const DataFolder& folder = surroundings_.folder;
+  for (const GameInfo* game : before) {
+    const std::size_t plays = exports::isMadeUp(folder, game->game) ? 0 : countPlays(*game, folder);
+    if (plays == 0) continue;
+    const MessageBox question = {
+        join("The draws of ", game->name, " are real now, but its ", std::to_string(plays),
+             " plays were there with the made-up draws. Take all of them away?\n\n"
+             "They stay in the folder as dated copies. With No they stay as they are."),
+        std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
+    if (surroundings_.platform.show(question) != MessageBox::Answer::yes) continue;
+    try {
+      takePlaysAway(*game, folder, surroundings_.clock);
+    } catch (const std::exception& error) {
+      showMessage(surroundings_.platform, join("The plays stay as they are.\n\n", error.what()),
+                  MessageBox::Icon::exclamation);
+    }
   }
 }
 

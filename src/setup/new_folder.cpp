@@ -6,6 +6,7 @@
 #include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/text.h"
+#include "exports/import_report.h"
 #include "exports/made_up.h"
 #include "exports/merge.h"
 #include "settings/settings.h"
@@ -15,6 +16,7 @@
 
 #include <functional>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -245,6 +247,27 @@ std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& 
     makeBook(folder.root(), settings, [&](const fs::path& root) { draws.takeInto(DataFolder(root)); });
   }
   return draws.results();
+}
+
+std::string makeFolderFromFiles(const DataFolder& folder, const Clock& clock, const fs::path& powerBallDraws,
+                                const fs::path& megaMillionsDraws) {
+  const Day today = parseDay(clock.date()).value();
+  FolderContents contents{{{{Game::powerBall, {}, false}, {Game::megaMillions, {}, false}}}};
+  std::ostringstream report;
+  for (FolderContents::Part& part : contents.games) {
+    const fs::path& file = part.game == Game::powerBall ? powerBallDraws : megaMillionsDraws;
+    const exports::ExportedDraws draws = exports::readDrawsFile(part.game, file, today);
+    try {
+      const exports::Merge merge = exports::mergeExport(part.game, draws, {}, {}, exports::Standing::real);
+      report << infoOf(part.game).name << ":\n";
+      exports::print(merge.report, part.game, report);
+    } catch (const std::runtime_error& error) {
+      throw std::runtime_error(join(textOf(file), ": ", error.what()));
+    }
+    part.book.draws = draws.draws;
+  }
+  writeFolder(folder.root(), contents, readSettings(folder));
+  return report.str();
 }
 
 void replaceDraws(const fs::path& folder, const FolderContents::Part& part) {

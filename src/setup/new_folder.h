@@ -53,6 +53,13 @@ std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& 
                                          const Settings& settings = {}, const FetchSettings& limits = {},
                                          TransferWatch* watch = nullptr);
 
+/// Makes a whole data folder with the draws in two export files and without plays; returns what they
+/// contain, in words. Raises an error that names the file where one is no export or has too few draws; then
+/// nothing is made.
+std::string makeFolderFromFiles(const DataFolder& folder, const Clock& clock,
+                                const std::filesystem::path& powerBallDraws,
+                                const std::filesystem::path& megaMillionsDraws);
+
 /// Replaces the draws and amounts of one game as a whole, marks it where they are made up, and leaves
 /// everything else alone.
 void replaceDraws(const std::filesystem::path& folder, const FolderContents::Part& part);

@@ -96,6 +96,7 @@ class Portal : public Desktop {
     put(newest);
     platform.onPress = [this](Control& control) { press(application, platform, control); };
     platform.onUpdateNote = [this] { return application.noteOfUpdate(); };
+    platform.onShowsMadeUpDraws = [this] { return application.showsMadeUpDraws(); };
     platform.onUpdateAgain = [this] { application.updateAgain(); };
     use("file/pwr.csv", "file/meg.csv");
     open("Form1").show();
@@ -104,7 +105,8 @@ class Portal : public Desktop {
       if (box == nullptr) return;
       boxes.push_back(box->text().section(u'\n', 0, 0).toStdString());
       boxText = box->text();
-      box->button(answer)->click();
+      const bool isQuestion = box->standardButtons().testFlag(answer);
+      box->button(isQuestion ? answer : QMessageBox::Ok)->click();
     });
     answering.start(1);
   }
@@ -174,6 +176,26 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   again.click();
   EXPECT_EQ(boxes.back(), "The updates for The Tallywick Software is completed");
   EXPECT_TRUE(newestLine().starts_with(" 11-20-2026")) << newestLine();
+}
+
+TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
+  scratch.write("QzrNumbers/QZR6PWR/SAMPLE.TXT", "");
+  scratch.write("QzrNumbers/QZR6MEG/QZR6MEG2.Ply", records({"11-17-2026,01,02,03,04,05,06,50000000"}));
+  const std::string plays = records({"11-16-2026,01,02,03,04,05,06,5000000"});
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply", plays);
+  const auto& strip =
+      *window("Form1").findChild<QPushButton*>(QStringLiteral("startRealBook"))->parentWidget();
+  platform.run([] {});
+  EXPECT_FALSE(strip.isHidden());
+  answer = QMessageBox::Yes;
+  update();
+  EXPECT_TRUE(boxes.back().starts_with("The draws of PowerBall are real now, but its 1 plays"))
+      << boxes.back();
+  EXPECT_TRUE(strip.isHidden());
+  EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), "");
+  EXPECT_NE(scratch.read("QzrNumbers/QZR6MEG/QZR6MEG2.Ply"), "") << "its draws were real";
+  EXPECT_EQ(std::ranges::count(scratch.snapshot(), plays, [](const auto& file) { return file.second; }), 1)
+      << "there is no dated copy";
 }
 
 TEST_F(Portal, AFailureOfTheUpdateItselfEndsNothing) {

@@ -9,9 +9,11 @@
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/windows/layout_memory.h"
+#include "update/ftp_servers.h"
 
 #include <QAbstractItemView>
 #include <QDateEdit>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -323,19 +325,36 @@ TEST_F(Windows, TheCompiledHelpOpensWhereThereIsAViewer) {
 
 TEST_F(Windows, AFirstStartOffersTheLastFolderOrToMakeOne) {
   const std::filesystem::path missing = scratch.root() / "nowhere";
-  const auto answer = [&](const char* button) { answerNextBox(QString::fromLatin1(button)); };
+  std::vector<QString> presses;
+  QTimer pressing;
+  pressing.callOnTimeout([&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || presses.empty()) return;
+    if (auto* files = qobject_cast<QFileDialog*>(dialog)) return files->reject();
+    for (QAbstractButton* button : dialog->findChildren<QAbstractButton*>()) {
+      if (button->text() != presses.front()) continue;
+      presses.erase(presses.begin());
+      return button->click();
+    }
+  });
+  pressing.start(1);
   // Opened once, the folder is the last one.
   EXPECT_EQ(findDataFolder(scratch.root().string(), Offer::yes), scratch.root());
-  answer("Open the Last One");
+  presses = {QStringLiteral("Open the &last one")};
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), scratch.root());
-  EXPECT_TRUE(boxText.contains(QString::fromStdString(missing.string())));
-  answer("Quit");
-  EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), std::nullopt);
+  presses = {QStringLiteral("…from &files that I saved"), QStringLiteral("Open &another…"),
+             QStringLiteral("&Quit")};
+  EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), std::nullopt) << "no file and no folder is chosen";
+  EXPECT_TRUE(presses.empty()) << "the choices do not come back";
   EXPECT_EQ(findDataFolder(missing.string(), Offer::no), std::nullopt);
   EXPECT_FALSE(std::filesystem::exists(missing));
-  answer("Make One with Samples");
+
+  putText(missing / "tallywick.ini",
+          "powerball-draws=\"http://127.0.0.1:1/\"\nmega-millions-draws=\"http://127.0.0.1:1/\"\n");
+  presses = {QStringLiteral("Start my record book with the &real draws"), QStringLiteral("&Try Again"),
+             QStringLiteral("&Back"), QStringLiteral("Look around with &sample draws")};
   EXPECT_EQ(findDataFolder(missing.string(), Offer::yes), missing);
-  EXPECT_TRUE(DataFolder(missing).exists(R"(QzrNumbers\QZR6MEG\QZRNUM6.Dat)"));
+  EXPECT_TRUE(DataFolder(missing).exists(R"(QzrNumbers\QZR6MEG\SAMPLE.TXT)"));
 }
 
 }  // namespace

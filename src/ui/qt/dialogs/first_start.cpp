@@ -2,13 +2,20 @@
 #include "ui/qt/dialogs/first_start.h"
 
 #include "app/data_folder_choice.h"
+#include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/random.h"
 #include "core/runtime_error.h"
 #include "core/surroundings.h"
+#include "exports/made_up.h"
 #include "setup/new_folder.h"
+#include "ui/qt/dialogs/real_book.h"
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
 
+#include <QCommandLinkButton>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -24,6 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString lastFolderKey = u"lastFolder"_s;
+const QString ownFolderKey = u"ownFolder"_s;
 
 bool makeSample(const fs::path& folder) {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -48,24 +56,101 @@ std::optional<fs::path> askForFolder() {
   return std::nullopt;
 }
 
-/// Makes a record book in `folder`, or opens another one, as the user chooses.
+/// By the settings that the folder may have already.
+bool makeFetched(const fs::path& folder) {
+  try {
+    return makeBookFromExports(folder, readSettings(DataFolder(folder)));
+  } catch (const std::exception& error) {
+    tell(toQString(error.what()));
+    return false;
+  }
+}
+
+enum class Choice { quit, fetch, files, sample, last, open };
+
+/// What a first start can begin with, each with a line that explains it.
+class StartChoices : public QDialog {
+ public:
+  StartChoices(const fs::path& folder, const fs::path& last) {
+    setWindowTitle(toQString(programTitle));
+    setMinimumWidth(64 * theme::gap);
+    column_ = columnIn(this, theme::pageMargin);
+    column_->addWidget(heading(this, u"Welcome to Tallywick"_s));
+    auto* text = new QLabel(u"There is no record book in %1 yet."_s.arg(pathText(folder)));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    column_->addWidget(text);
+    add(u"Start my record book with the &real draws"_s,
+        u"Fetches all draws of both games from the public exports. Nothing else is needed."_s, Choice::fetch);
+    add(u"…from &files that I saved"_s, u"Takes the exports of both games that you have on this computer."_s,
+        Choice::files);
+    add(u"Look around with &sample draws"_s,
+        u"Makes draws and plays up, so that you can try everything. They never took place."_s,
+        Choice::sample);
+    if (isDataFolder(last)) add(u"Open the &last one"_s, pathText(last), Choice::last);
+    add(u"Open &another…"_s, u"Opens a record book in a folder that you choose."_s, Choice::open);
+    auto* buttons = new QDialogButtonBox;
+    connect(buttons->addButton(u"&Quit"_s, QDialogButtonBox::RejectRole), &QPushButton::clicked, this,
+            &QDialog::reject);
+    column_->addWidget(buttons);
+  }
+
+  Choice choose() {
+    choice_ = Choice::quit;
+    exec();
+    return choice_;
+  }
+
+ private:
+  void add(const QString& text, const QString& explanation, Choice choice) {
+    auto* button = new QCommandLinkButton(text, explanation);
+    button->setAccessibleDescription(explanation);
+    column_->addWidget(button);
+    connect(button, &QCommandLinkButton::clicked, this, [this, choice] {
+      choice_ = choice;
+      accept();
+    });
+  }
+
+  QVBoxLayout* column_;
+  Choice choice_ = Choice::quit;
+};
+
+/// Makes a record book in `folder`, or opens another one, as the user chooses. Whatever comes to nothing
+/// leads back to the choices.
 std::optional<fs::path> offerFolder(const fs::path& folder, const fs::path& last) {
-  QMessageBox box(
-      QMessageBox::Question, toQString(programTitle),
-      u"There is no record book in %1 yet.\n\nA new one begins with sample draws and plays; an update brings the real draws."_s
-          .arg(pathText(folder)));
-  box.setTextFormat(Qt::PlainText);
-  const auto* make = box.addButton(u"&Make One with Samples"_s, QMessageBox::AcceptRole);
-  const QAbstractButton* openLast = nullptr;
-  if (isDataFolder(last)) openLast = box.addButton(u"Open the &Last One"_s, QMessageBox::AcceptRole);
-  const auto* open = box.addButton(u"&Open Another…"_s, QMessageBox::ActionRole);
-  box.addButton(u"&Quit"_s, QMessageBox::RejectRole);
-  if (openLast != nullptr) box.setInformativeText(u"The last one used is in %1."_s.arg(pathText(last)));
-  box.exec();
-  if (box.clickedButton() == make && makeSample(folder)) return folder;
-  if (openLast != nullptr && box.clickedButton() == openLast) return last;
-  if (box.clickedButton() == open) return askForFolder();
-  return std::nullopt;
+  StartChoices choices(folder, last);
+  for (;;) {
+    switch (choices.choose()) {
+      case Choice::fetch:
+        if (makeFetched(folder)) return folder;
+        break;
+      case Choice::files:
+        if (makeBookFromFiles(folder)) return folder;
+        break;
+      case Choice::sample:
+        if (makeSample(folder)) return folder;
+        break;
+      case Choice::last:
+        return last;
+      case Choice::open:
+        if (const auto other = askForFolder()) return other;
+        break;
+      case Choice::quit:
+        return std::nullopt;
+    }
+  }
+}
+
+/// The book with real draws that the user has begun elsewhere instead of a sample that nobody asked for.
+std::optional<fs::path> ownFolder(const std::string& named, const fs::path& chosen) {
+  const fs::path own = toPath(QSettings().value(ownFolderKey).toString());
+  const bool isUsual = named.empty() && chosen == os::userDataFolder();
+  if (!isUsual || !isDataFolder(own)) return std::nullopt;
+  const DataFolder book(chosen);
+  const bool isSample =
+      exports::isMadeUp(book, Game::powerBall) && exports::isMadeUp(book, Game::megaMillions);
+  return isSample ? std::optional(own) : std::nullopt;
 }
 
 }  // namespace
@@ -85,9 +170,16 @@ std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   }
   QSettings settings;
   const fs::path last = toPath(settings.value(lastFolderKey).toString());
-  std::optional<fs::path> found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
+  std::optional<fs::path> found = ownFolder(named, chosen);
+  if (!found) found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
   if (found) settings.setValue(lastFolderKey, pathText(*found));
   return found;
+}
+
+void rememberOwnFolder(const fs::path& folder) {
+  QSettings settings;
+  settings.setValue(lastFolderKey, pathText(folder));
+  settings.setValue(ownFolderKey, pathText(folder));
 }
 
 std::optional<FolderHold> holdDataFolder(const fs::path& folder) {

@@ -3,6 +3,7 @@
 
 #include "app/application.h"
 #include "ui/qt/dialogs/first_start.h"
+#include "ui/qt/dialogs/real_book.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/program/options.h"
@@ -12,10 +13,13 @@
 
 #include <QIcon>
 #include <QTimer>
+#include <filesystem>
 #include <iostream>
+#include <optional>
 
 namespace tallywick {
 
+namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,7 +62,16 @@ void nameProgram(bool forPicture) {
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-void connectDesk(Application& application, QtPlatform& platform) {
+/// Makes a record book with real draws elsewhere, and ends so that the program goes on with it.
+void startRealBook(Application& application, QtPlatform& platform, std::optional<fs::path>& next) {
+  next = startBookElsewhere(application.settings(), QApplication::activeWindow());
+  if (!next) return;
+  rememberOwnFolder(*next);
+  platform.run([&application] { application.exit(); });
+}
+
+/// `next` becomes the folder to go on with.
+void connectDesk(Application& application, QtPlatform& platform, std::optional<fs::path>& next) {
   platform.onClose = [&application](Form& form) { application.close(form); };
   platform.onEditSettings = [&application, &platform] { editSettings(application, platform); };
   platform.onHelp = [&application](const QString& page) {
@@ -73,6 +86,8 @@ void connectDesk(Application& application, QtPlatform& platform) {
   };
   platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
   platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
+  platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
+  platform.onStartRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {
@@ -100,7 +115,8 @@ class ErrorsShownBy {
   GuardedApplication& qt_;
 };
 
-int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt) {
+int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt,
+          std::optional<fs::path>& next) {
   SystemClock clock;
   MixingGenerator random(entropy());
   QtPlatform platform(folder);
@@ -109,16 +125,22 @@ int runOn(const DataFolder& folder, const Options& options, GuardedApplication& 
   QtTransferWindow transferWindow;
   Application application(
       {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
-  connectDesk(application, platform);
+  connectDesk(application, platform, next);
   return takesPicture(options) ? takeScreenshot(application, platform, options)
                                : runWindows(application, platform, !options.noSplash);
 }
 
 int runOnFolderOf(const Options& options, GuardedApplication& qt) {
-  const auto folder = findDataFolder(options.folder, takesPicture(options) ? Offer::no : Offer::yes);
-  if (!folder) return takesPicture(options) ? 1 : 0;
-  const auto hold = holdDataFolder(*folder);
-  return hold ? runOn(DataFolder(*folder), options, qt) : 1;
+  auto folder = findDataFolder(options.folder, takesPicture(options) ? Offer::no : Offer::yes);
+  int exitCode = takesPicture(options) ? 1 : 0;
+  while (folder) {
+    const auto hold = holdDataFolder(*folder);
+    if (!hold) return 1;
+    std::optional<fs::path> next;
+    exitCode = runOn(DataFolder(*folder), options, qt, next);
+    folder = next;
+  }
+  return exitCode;
 }
 
 }  // namespace

@@ -31,6 +31,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<std::optional<std::int64_t>(Game)> onPriceOfPlay;
   std::function<void(const GameInfo& game)> onPlaysSaved;
   std::function<bool(const Control& control)> onAskIfSet;
+  std::function<bool()> onShowsMadeUpDraws;
+  std::function<void()> onStartRealBook;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

@@ -34,6 +34,10 @@ struct Desk {
   std::function<void(const GameInfo&)> playsSaved = {};
   /// Whether the settings have what a press of this control needs.
   std::function<bool(const Control&)> isSet = {};
+  /// Whether the draws on show are made up.
+  std::function<bool()> showsMadeUpDraws = {};
+  /// Lets the user begin a record book with real draws in another folder.
+  std::function<void()> startRealBook = {};
 };
 
 class TransferPanel;

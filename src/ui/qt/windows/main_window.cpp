@@ -10,6 +10,7 @@
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/windows/layout_memory.h"
+#include "ui/qt/windows/made_up_strip.h"
 #include "ui/qt/windows/menu_bar.h"
 #include "ui/qt/windows/navigation_bar.h"
 #include "ui/qt/windows/selection_window.h"
@@ -36,12 +37,17 @@ constexpr std::array<const char*, 4> helpPages = {"summary.html", "searches.html
 }  // namespace
 
 MainWindow::MainWindow(MainForm& form, const Desk& desk)
-    : FormWindow(form, desk), main_(form), bar_(new NavigationBarView(form, *this)), pages_(new QTabWidget) {
+    : FormWindow(form, desk),
+      main_(form),
+      bar_(new NavigationBarView(form, *this)),
+      madeUp_(new MadeUpStrip(*this)),
+      pages_(new QTabWidget) {
   addPages();
   addMenusAndStatus();
   addKeys();
   binding().afterChanges = [this] {
     bar_->showGame();
+    madeUp_->showGame();
     searches_->showHints();
     winnings_->showChanges();
   };
@@ -68,6 +74,7 @@ void MainWindow::addPages() {
 
   auto* content = new QWidget;
   auto* column = columnIn(content, theme::gap);
+  column->addWidget(madeUp_);
   column->addWidget(bar_);
   column->addWidget(pages_, 1);
   // On a screen too small for the pages they scroll.

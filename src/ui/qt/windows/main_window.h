@@ -8,6 +8,7 @@ class QTabWidget;
 
 namespace tallywick {
 
+class MadeUpStrip;
 class MainForm;
 class NavigationBarView;
 class SearchView;
@@ -33,6 +34,7 @@ class MainWindow : public FormWindow {
 
   MainForm& main_;
   NavigationBarView* bar_;
+  MadeUpStrip* madeUp_;
   QTabWidget* pages_;
   SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
