@@ -115,6 +115,14 @@ std::string matchText(const Match& match, Game game) {
   return text.empty() ? "nothing" : text;
 }
 
+std::string matchCount(const Match& match, Game game) {
+  const std::string whites = std::to_string(match.whites.size());
+  if (match.extra)
+    return match.whites.empty() ? std::string(extraBallName(game)) : join(whites, " + ", extraBallName(game));
+  if (match.whites.empty()) return {};
+  return join(whites, match.whites.size() == 1 ? " number" : " numbers");
+}
+
 std::string prizeText(const JudgedPlay& play) {
   if (play.jackpot)
     return play.jackpotAmount.empty() ? "jackpot" : join("jackpot, amount ", play.jackpotAmount);

@@ -43,6 +43,8 @@ std::string dateText(const JudgedPlay& play);
 std::string stateText(const JudgedPlay& play);
 /// "10 20 30 and the PowerBall", "nothing"; empty where nothing was drawn.
 std::string matchText(const Match& match, Game game);
+/// "3 numbers", "2 + PowerBall", "Mega Ball"; empty where nothing matches.
+std::string matchCount(const Match& match, Game game);
 /// "$7", "jackpot, amount 300", "won, no published prize"; empty where nothing is won.
 std::string prizeText(const JudgedPlay& play);
 /// What matched the Double Play numbers, and whether that wins; empty where they are not known.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Balls that everybody can read, and lists that find and emphasise among many lines.
 #include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/theme.h"
@@ -58,6 +59,21 @@ TEST(Balls, HaveReadableNumbersInEveryColourLightAndDark) {
   }
 }
 
+TEST(Balls, OfLinesAreReadableOnEveryGround) {
+  for (const bool dark : {false, true}) {
+    const QPalette colors = palette(dark);
+    for (const QColor& ground : {colors.color(QPalette::Base), colors.color(QPalette::Highlight),
+                                 theme::mixed(colors.color(QPalette::Base), theme::winning, 0.14)}) {
+      for (const auto kind : {LineBallKind::white, LineBallKind::roundRed, LineBallKind::squareGold}) {
+        const BallColors painted = lineBallColors(kind, ground, colors);
+        EXPECT_GE(theme::contrast(painted.text, painted.ground), theme::textContrast);
+        EXPECT_GE(theme::contrast(painted.outline, ground), theme::shapeContrast);
+        EXPECT_GE(theme::contrast(painted.caps, ground), theme::shapeContrast);
+      }
+    }
+  }
+}
+
 TEST(Balls, AreToldApartWithoutTheirColours) {
   std::vector<QImage> images;
   for (Color color : {colors::buttonFace, colors::cyan, colors::magenta, colors::red, colors::lightBlue,
@@ -81,6 +97,44 @@ TEST(Balls, SayWhatTheirColourMeans) {
     EXPECT_TRUE(ball.accessibleName().contains(QStringLiteral("07")));
   }
   EXPECT_EQ(names.size(), 5U);
+}
+
+TEST(ListedLines, AreReadByTheirForm) {
+  const struct {
+    const char* name;
+    const char* line;
+    LineKind kind;
+    const char* cells;
+  } cases[] = {
+      {"a draw with its amount", " 11-18-2026    06 08 30 51 55   13  *  40", LineKind::draw,
+       "11-18-2026|06|08|30|51|55|13|*|40||"},
+      {"an amount in words", " 11-18-2026    06 08 30 51 55   13     $1.2 Billion", LineKind::draw,
+       "11-18-2026|06|08|30|51|55|13||$1.2 Billion||"},
+      {"an earlier draw", "11-18-2026     06 08 30 51 55     13", LineKind::draw,
+       "11-18-2026|06|08|30|51|55|13||||"},
+      {"a play", "  11-18-2026      06  08  30  51  55  13", LineKind::play,
+       "11-18-2026|06|08|30|51|55|13||||"},
+      {"a saved play", " 06  08  30  51  55  13", LineKind::savedPlay, "|06|08|30|51|55|13||||"},
+      {"a marked amount", " 11-18-2026    143     * ", LineKind::amount, "11-18-2026|*|143||"},
+      {"an amount that is not known", " 11-18-2026            ", LineKind::amount, "11-18-2026||||"},
+      {"a prize of another game", " 5 of 5 Win:    $50,000", LineKind::other, ""},
+      {"a winning ticket", " 11-18-2026   Winning Ticket... Play Number 3", LineKind::other, ""},
+      {"a draw without its extra ball", " 11-18-2026    06 08 30 51 55   ", LineKind::other, ""},
+      {"a number in words", " 11-18-2026    06 08 30 51 five   13", LineKind::other, ""},
+      {"nothing", " ", LineKind::other, ""},
+  };
+  for (const auto& each : cases) {
+    LineColumns columns = {{LineField::date, ""}, {LineField::amount, ""}, {LineField::matched, ""}};
+    if (each.kind != LineKind::amount)
+      columns.insert(columns.begin() + 1, {{LineField::whites, ""}, {LineField::extra, ""}});
+    std::string cells;
+    for (const std::string& cell : cellsOf(columns, each.line).value_or(std::vector<std::string>()))
+      cells += cell + "|";
+    EXPECT_EQ(readLine(each.line).kind, each.kind) << each.name;
+    EXPECT_EQ(cells, each.kind == LineKind::other ? "" : std::string(each.cells)) << each.name;
+  }
+  EXPECT_FALSE(cellsOf({{LineField::date, ""}, {LineField::whites, ""}}, cases[0].line))
+      << "the amount would go";
 }
 
 TEST(LineTexts, EmphasiseWholeFieldsOnly) {

@@ -38,10 +38,6 @@ TEST(Wordings, PutCaptionsOnTheScreen) {
       {"a doubled ampersand of a label is one", asLabel(), "Your Play && Winning", "Your Play & Winning"},
       {"a label of a control keeps it from being a mnemonic", asLabelOfControl('W'), "Play && Winning",
        "Play && &Winning"},
-      {"words are over their columns", overColumns({1, 15}),
-       "     Dates:             Amounts:", " Dates:        Amounts:"},
-      {"a word that is too long pushes the next one on", overColumns({0, 4}), "Long Date:  Next",
-       "Long Date: Next"},
   };
   for (const auto& each : cases) {
     EXPECT_EQ(each.wording(each.caption).toStdString(), each.shown) << each.name;

@@ -39,6 +39,8 @@ class Binding : public QObject {
   void bind(Button& button, QAbstractButton& widget, const Wording& wording = literally());
   void bind(Button& button, BallButton& widget);
   void bind(Label& label, QLabel& widget, const Wording& wording = asLabel());
+  /// The words of the caption, which two or more blanks part, are the titles of the list's columns.
+  void bind(Label& label, LineList& columns);
   /// The widget was made for the list's items.
   void bind(ListBox& list, LineList& widget);
   /// The widget was made for the drop-down's items.
@@ -74,6 +76,7 @@ class Binding : public QObject {
   bool isReleased() const { return form_ == nullptr; }
 
   HandlerRunner& runner() const { return runner_; }
+  const DataFolder& folder() const { return folder_; }
 
  protected:
   /// A mnemonic presses its button at once; the toolkit's own way takes a tenth of a second, in which keys

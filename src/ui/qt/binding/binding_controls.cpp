@@ -9,6 +9,7 @@
 #include "ui/qt/parts/chart_view.h"
 #include "ui/qt/parts/choice_list.h"
 #include "ui/qt/parts/line_actions.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
@@ -20,6 +21,7 @@
 #include <QPixmap>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <stdexcept>
@@ -45,6 +47,14 @@ QString spokenName(std::string_view caption) {
   QString name = asLabel()(caption).simplified();
   while (name.endsWith(QLatin1Char(':')) || name.endsWith(QLatin1Char(','))) name.chop(1);
   return name;
+}
+
+/// The words of a line that two or more blanks part.
+std::vector<std::string> wordsOf(const QString& line) {
+  static const QRegularExpression gaps(QStringLiteral(" {2,}"));
+  std::vector<std::string> words;
+  for (const QString& word : line.trimmed().split(gaps, Qt::SkipEmptyParts)) words.push_back(toText(word));
+  return words;
 }
 
 /// The picture that the record book keeps for a number; null where there is none that loads.
@@ -103,6 +113,11 @@ void Binding::bind(Label& label, QLabel& widget, const Wording& wording) {
     widget.setVisible(label.visible());
     if (QWidget* labelled = widget.buddy()) labelled->setAccessibleName(spokenName(label.caption()));
   });
+}
+
+void Binding::bind(Label& label, LineList& columns) {
+  enter(label, *columns.header(),
+        [&label, &columns] { columns.setTitles(wordsOf(asLabel()(label.caption()))); });
 }
 
 void Binding::bind(ListBox& list, LineList& widget) {

@@ -3,6 +3,7 @@
 
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
@@ -65,6 +66,43 @@ SearchPanel twoThreePanel(TwoThreePage& page) {
           [&page] { return searchHint(page); },
           [&page] { return searchedNow(page, {}); },
           memory};
+}
+
+/// Each of the three searches has a game of its own; before them the lists show the game on show.
+GameOfLines gameOfTwoThree(TwoThreePage& page, const GameOfLines& shownGame) {
+  struct Found {
+    Game game = Game::powerBall;
+    std::size_t revision = static_cast<std::size_t>(-1);
+  };
+  const auto found = std::make_shared<Found>();
+  for (Button* search : {&page.Command38, &page.Command25, &page.Command26}) {
+    const Game game = search == &page.Command25 ? Game::megaMillions : Game::powerBall;
+    search->onClick = [&page, found, game, run = search->onClick] {
+      const std::size_t before = page.List8.items().revision();
+      run();
+      if (page.List8.items().revision() != before) *found = {game, page.List8.items().revision()};
+    };
+  }
+  return [&page, found, shownGame] {
+    return found->revision == page.List8.items().revision() ? found->game : shownGame();
+  };
+}
+
+/// The lists and drop-downs of draws and plays; those of multipliers stay text.
+void showInColumns(const SearchView& view, const char* name, const GameOfLines& gameOf) {
+  const QString named = QString::fromLatin1(name);
+  if (auto* list = view.findChild<LineList*>(named)) showInColumns(*list, drawFieldsShown, gameOf);
+  for (auto* picker : view.findChildren<QComboBox*>(named))
+    showInColumns(static_cast<Picker&>(*picker), drawFieldsShown, gameOf);
+}
+
+void showDrawsInColumns(const SearchView& view, MainForm& form) {
+  const GameOfLines shownGame = gameOnShowOf(form.frames);
+  for (const char* name :
+       {"Combo4", "Combo2", "Combo5", "List6", "Combo6", "List7", "Combo8", "Combo9", "List9"})
+    showInColumns(view, name, shownGame);
+  const GameOfLines found = gameOfTwoThree(form.search.twoThree, shownGame);
+  for (const char* name : {"Combo7", "List8"}) showInColumns(view, name, found);
 }
 
 /// What a panel with one search shows beside its controls.
@@ -217,6 +255,7 @@ SearchView::SearchView(MainForm& form, Binding& binding) {
   add(playedPanel(pages.played, form.frames), u"Mult&iplier or Any Number"_s, binding);
   add(havePlayedPlaysPanel(pages.havePlayedPlays, form.frames), u"One Number of a P&lay"_s, binding);
   binding.bind(form.bar.SSTab2, *this);
+  showDrawsInColumns(*this, form);
   showHints();
 }
 

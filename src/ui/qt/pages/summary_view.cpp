@@ -3,6 +3,7 @@
 
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
@@ -16,38 +17,59 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the fields of the lists' lines begin.
-constexpr std::initializer_list<int> amountColumns = {1, 15};
-constexpr std::initializer_list<int> drawColumns = {0, 15, 34};
-
-/// A list under its heading, with the names of its columns between them where it has any.
+/// A list under its heading, with the names of its columns between them where the model has any.
 struct HeadedList {
   Label& label;
   char mnemonic;
   ListBox& list;
+  LineFields fields;
   Label* columnNames = nullptr;
-  std::initializer_list<int> columns = {};
 };
 
-void addHeadedList(QBoxLayout& column, const HeadedList& headed, Binding& binding, QWidget* parent) {
+LineList* addHeadedList(QBoxLayout& column, const HeadedList& headed, const MainForm& form, Binding& binding,
+                        QWidget* parent) {
   auto* label = heading(parent);
   auto* list = new LineList(headed.list.items(), parent);
   label->setBuddy(list);
   column.addWidget(label);
-  if (headed.columnNames != nullptr) {
-    auto* names = columnHeading(parent);
-    column.addWidget(names);
-    binding.bind(*headed.columnNames, *names, overColumns(headed.columns));
-  }
   column.addWidget(list, 1);
+  showInColumns(*list, headed.fields, gameOnShowOf(form.frames));
+  if (headed.columnNames != nullptr) binding.bind(*headed.columnNames, *list);
   binding.bind(headed.list, *list);
   binding.bind(headed.label, *label, asLabelOfControl(headed.mnemonic));
+  return list;
 }
 
-QWidget* headedList(const HeadedList& headed, Binding& binding) {
+QWidget* headedList(const HeadedList& headed, const MainForm& form, Binding& binding) {
   auto* box = new QWidget;
-  addHeadedList(*columnIn(box), headed, binding, box);
+  addHeadedList(*columnIn(box), headed, form, binding, box);
   return box;
+}
+
+/// The winning plays, or in their place the Double Play draws, which match nothing.
+QWidget* winningPlays(const MainForm& form, SummaryPage& page, Binding& binding) {
+  auto* box = new QWidget;
+  LineList* list =
+      addHeadedList(*columnIn(box), {page.Label16, 'Y', page.List2, playFieldsShown}, form, binding, box);
+  highlightMatches(*list, binding.folder());
+  list->beforeReload = [list, &form, showPlays = list->beforeReload] {
+    showPlays();
+    if (form.frames.Frame6.visible())
+      list->showColumns(columnsFor(drawFieldsShown, Game::powerBall), Game::powerBall);
+  };
+  return box;
+}
+
+/// The newest draw's numbers in the draws before it.
+void highlightFrequentNumbers(LineList& list, const SummaryPage& page) {
+  list.lineModel()->setHighlight([&page](std::string_view line) {
+    LineHighlights found;
+    for (std::size_t i = 0; i < 5; ++i) {
+      found.whites.push_back(page.frequent[i].caption());
+      found.extra |= readLine(line).extra == page.frequent[i].caption();
+    }
+    return found;
+  });
 }
 
 }  // namespace
@@ -64,15 +86,20 @@ SummaryView::SummaryView(MainForm& form, Binding& binding) {
 QWidget* SummaryView::drawsSide(MainForm& form, Binding& binding) {
   SummaryPage& page = form.summary;
   auto* side = splitter(Qt::Vertical, u"summary-draws"_s);
-  side->addWidget(headedList({page.Label15, 'L', page.List1}, binding));
-  side->addWidget(frequentNumbers(page, binding));
+  side->addWidget(headedList({page.Label15,
+                              'L',
+                              page.List1,
+                              {LineField::date, LineField::whites, LineField::extra, LineField::amount}},
+                             form, binding));
+  side->addWidget(frequentNumbers(form, binding));
   side->setStretchFactor(0, 3);
   side->setStretchFactor(1, 2);
   binding.bind(form.frames.Frame1, *side);
   return side;
 }
 
-QWidget* SummaryView::frequentNumbers(SummaryPage& page, Binding& binding) {
+QWidget* SummaryView::frequentNumbers(MainForm& form, Binding& binding) {
+  SummaryPage& page = form.summary;
   auto* box = new QWidget;
   auto* column = columnIn(box);
   auto* title = heading(box);
@@ -89,6 +116,8 @@ QWidget* SummaryView::frequentNumbers(SummaryPage& page, Binding& binding) {
   balls->addStretch();
   auto* list = new LineList(page.List5.items(), box);
   list->setPlaceholder(u"No number of the newest draw came up in the five draws before it."_s);
+  showInColumns(*list, drawFieldsShown, gameOnShowOf(form.frames));
+  highlightFrequentNumbers(*list, page);
   title->setBuddy(list);
 
   column->addWidget(title);
@@ -104,9 +133,9 @@ QWidget* SummaryView::frequentNumbers(SummaryPage& page, Binding& binding) {
 QWidget* SummaryView::playsSide(MainForm& form, Binding& binding) {
   SummaryPage& page = form.summary;
   auto* side = splitter(Qt::Vertical, u"summary-plays"_s);
-  side->addWidget(headedList({page.Label16, 'Y', page.List2}, binding));
+  side->addWidget(winningPlays(form, page, binding));
   side->addWidget(amounts(form, binding));
-  side->addWidget(headedList({page.Label19, 'V', page.List4, &page.Label20, drawColumns}, binding));
+  side->addWidget(headedList({page.Label19, 'V', page.List4, drawFieldsShown, &page.Label20}, form, binding));
   binding.bind(form.frames.Frame9, *side);
   return side;
 }
@@ -115,7 +144,8 @@ QWidget* SummaryView::amounts(MainForm& form, Binding& binding) {
   SummaryPage& page = form.summary;
   auto* box = new QWidget;
   auto* column = columnIn(box);
-  addHeadedList(*column, {page.Label17, 'A', page.List3, &page.Label18, amountColumns}, binding, box);
+  addHeadedList(*column, {page.Label17, 'A', page.List3, {LineField::date, LineField::amount}, &page.Label18},
+                form, binding, box);
 
   auto* luckyFive = new QWidget(box);
   auto* headings = columnIn(luckyFive);

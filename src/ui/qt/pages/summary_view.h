@@ -9,7 +9,6 @@ namespace tallywick {
 
 class Binding;
 class MainForm;
-struct SummaryPage;
 
 class SummaryView : public QWidget {
  public:
@@ -18,7 +17,7 @@ class SummaryView : public QWidget {
  private:
   QWidget* drawsSide(MainForm& form, Binding& binding);
   QWidget* playsSide(MainForm& form, Binding& binding);
-  QWidget* frequentNumbers(SummaryPage& page, Binding& binding);
+  QWidget* frequentNumbers(MainForm& form, Binding& binding);
   QWidget* amounts(MainForm& form, Binding& binding);
 };
 

@@ -6,6 +6,7 @@
 #include "display/judging.h"
 #include "plays/check_explained.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/pages/my_plays_view.h"
 #include "ui/qt/pages/ticket_view.h"
 #include "ui/qt/parts/layouts.h"
@@ -52,6 +53,17 @@ void showWinningLines(LineList& list) {
       winningMeaning);
 }
 
+/// The lines of plays in columns; of the drawn plays with what they matched.
+void showPlaysInColumns(const WinningsView& view, const MainForm& form, const Binding& binding) {
+  const GameOfLines gameOf = gameOnShowOf(form.frames);
+  for (const char* name : {"List10", "List11", "List17"}) {
+    showInColumns(*view.findChild<LineList*>(QString::fromLatin1(name)), drawFieldsShown, gameOf);
+  }
+  auto& drawn = *view.findChild<LineList*>(u"List14"_s);
+  showInColumns(drawn, playFieldsShown, gameOf);
+  highlightMatches(drawn, binding.folder());
+}
+
 /// The plays that a check found to have won.
 void showEmphasisedLines(LineList& lines, const ListBox& list) {
   lines.lineModel()->setStandOut(
@@ -69,6 +81,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, 
   addTab(plays(form, binding), u"Pla&ys"_s);
   addTab(check(form, binding), u"Chec&k"_s);
   binding.bind(form.bar.SSTab3, *this);
+  showPlaysInColumns(*this, form, binding);
   myPlays_ = new MyPlaysView(actions_, this);
   ticket_ = new TicketView(actions_, this);
   addTab(myPlays_, u"My P&lays"_s);

@@ -24,11 +24,6 @@ constexpr double dotDiameter = 0.075;
 constexpr double dotLine = 0.79;
 constexpr double focusRoom = 3.5;
 
-QColor unmarkedFill(const QPalette& palette) {
-  const QColor base = palette.color(QPalette::Base);
-  return theme::isDark(palette) ? theme::mixed(palette.color(QPalette::Window), Qt::white, 0.12) : base;
-}
-
 QRectF centred(const QRectF& ball, double share) {
   const double side = ball.width() * share;
   return {ball.center().x() - side / 2, ball.center().y() - side / 2, side, side};
@@ -97,6 +92,11 @@ BallMark markOf(Color color) {
 int repeatOf(Color color) {
   const auto* const found = std::find(colors::recurring.begin(), colors::recurring.end(), color);
   return found == colors::recurring.end() ? 0 : static_cast<int>(found - colors::recurring.begin()) + 1;
+}
+
+QColor unmarkedFill(const QPalette& palette) {
+  const QColor base = palette.color(QPalette::Base);
+  return theme::isDark(palette) ? theme::mixed(palette.color(QPalette::Window), Qt::white, 0.12) : base;
 }
 
 BallColors ballColors(const BallLook& look, const QPalette& palette) {

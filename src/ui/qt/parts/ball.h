@@ -43,6 +43,8 @@ struct BallColors {
   QColor text;
   QColor outline;
 };
+/// Of a ball without a colour of its own.
+QColor unmarkedFill(const QPalette& palette);
 BallColors ballColors(const BallLook& look, const QPalette& palette);
 
 /// Paints the largest ball that fits into `area`, with room for the focus ring, in the painter's font made to

@@ -30,14 +30,6 @@ inline QLabel* heading(QWidget* parent, const QString& text = {}) {
   return label;
 }
 
-/// A line of column names over a list, in the list's face and with the list's margin.
-inline QLabel* columnHeading(QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setFont(theme::listFont(label->font()));
-  label->setIndent(theme::halfGap);
-  return label;
-}
-
 inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {
   auto* made = new QSplitter(orientation);
   made->setChildrenCollapsible(false);

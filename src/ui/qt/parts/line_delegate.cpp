@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/line_delegate.h"
 
+#include "core/words.h"
+#include "ui/qt/parts/line_ball.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/theme.h"
+#include "ui/qt/parts/wording.h"
 
 #include <QPainter>
 #include <QTextLayout>
+#include <algorithm>
+#include <span>
 
 namespace tallywick {
 
@@ -14,6 +20,7 @@ namespace {
 
 constexpr int barWidth = 3;
 constexpr double tint = 0.22;
+constexpr double winningTint = 0.14;
 
 QTextLayout::FormatRange boldRange(int begin, int length) {
   QTextLayout::FormatRange range;
@@ -40,13 +47,42 @@ QColor textColor(const QStyleOptionViewItem& option) {
   return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
-void paintStandOut(QPainter& painter, const QStyleOptionViewItem& option) {
-  const QColor accent = option.palette.color(QPalette::Highlight);
-  const QColor ground = option.palette.color(QPalette::Base);
-  if (!option.state.testFlag(QStyle::State_Selected))
-    painter.fillRect(option.rect, theme::mixed(ground, accent, tint));
+/// Lines that stand out have a tint and a bar of `accent`. Returns the ground.
+QColor paintGround(QPainter& painter, const QStyleOptionViewItem& option, const QColor& accent,
+                   double share) {
+  const QColor base = option.palette.color(QPalette::Base);
+  const QColor ground = theme::mixed(base, accent, share);
+  if (!option.state.testFlag(QStyle::State_Selected)) painter.fillRect(option.rect, ground);
   const QRect bar(option.rect.left(), option.rect.top(), barWidth, option.rect.height());
-  painter.fillRect(bar, theme::standingOutFrom(ground, accent, theme::shapeContrast));
+  painter.fillRect(bar, theme::standingOutFrom(base, accent, theme::shapeContrast));
+  return ground;
+}
+
+bool hasBalls(LineField field) {
+  return field == LineField::whites || field == LineField::extra || field == LineField::ball;
+}
+
+/// The balls of a cell; an extra ball's kind stands for every game's.
+std::vector<LineBall> ballsOf(LineField field, std::span<const std::string> cells,
+                              const LineHighlights& highlights, const std::vector<std::string>& found) {
+  const auto contains = [](const std::vector<std::string>& texts, const std::string& number) {
+    return std::ranges::find(texts, number) != texts.end();
+  };
+  const bool isExtra = field == LineField::extra;
+  std::vector<LineBall> balls;
+  for (const std::string& number : cells) {
+    const bool isMatched = isExtra ? highlights.extra : contains(highlights.whites, number);
+    balls.push_back({toQString(number), isExtra ? LineBallKind::roundRed : LineBallKind::white,
+                     isMatched || contains(found, number)});
+  }
+  return balls;
+}
+
+QString cellText(LineField field, std::span<const std::string> cells) {
+  if (field == LineField::date) return toQString(weekdayDate(cells.front()));
+  const QString mark =
+      field == LineField::amount && !cells.front().empty() ? QStringLiteral("★ ") : QString();
+  return mark + toQString(cells.back());
 }
 
 }  // namespace
@@ -59,10 +95,22 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   initStyleOption(&line, index);
   const QStyle& style = *list_.style();
   const bool standsOut = index.data(LineListModel::StandsOutRole).toBool();
+  const std::string text = line.text.toStdString();
+  const LineListModel* const model = list_.lineModel();
+  const LineHighlights highlights = model != nullptr ? model->highlightsOf(text) : LineHighlights();
   painter->save();
   style.drawPrimitive(QStyle::PE_PanelItemViewItem, &line, painter, &list_);
-  if (standsOut) paintStandOut(*painter, line);
-  paintText(*painter, line, standsOut);
+  QColor ground = line.palette.color(QPalette::Base);
+  if (standsOut)
+    ground = paintGround(*painter, line, line.palette.color(QPalette::Highlight), tint);
+  else if (highlights.wins)
+    ground = paintGround(*painter, line, theme::winning, winningTint);
+  if (line.state.testFlag(QStyle::State_Selected)) ground = line.palette.color(QPalette::Highlight);
+  const auto cells = cellsOf(list_.columns(), text, highlights.matched);
+  if (cells)
+    paintCells(*painter, line, ground, *cells, highlights);
+  else
+    paintText(*painter, line, standsOut);
   if (line.state.testFlag(QStyle::State_HasFocus)) {
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(line);
@@ -70,6 +118,35 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, &list_);
   }
   painter->restore();
+}
+
+void LineDelegate::paintCells(QPainter& painter, const QStyleOptionViewItem& option, const QColor& ground,
+                              const std::vector<std::string>& cells, const LineHighlights& highlights) const {
+  const LineColumns& columns = list_.columns();
+  painter.setFont(option.font);
+  painter.setPen(theme::standingOutFrom(ground, textColor(option), theme::textContrast));
+  std::span<const std::string> left(cells);
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const LineField field = columns[i].field;
+    const QRect area = list_.header()->cell(static_cast<int>(i), option.rect);
+    const auto own = left.first(cellsIn(field));
+    left = left.subspan(own.size());
+    if (hasBalls(field))
+      paintBalls(painter, area, option, ballsOf(field, own, highlights, list_.emphasis()), ground);
+    else
+      painter.drawText(area, static_cast<int>(alignmentOf(field)), cellText(field, own));
+  }
+}
+
+void LineDelegate::paintBalls(QPainter& painter, const QRect& cell, const QStyleOptionViewItem& option,
+                              std::vector<LineBall> balls, const QColor& ground) const {
+  const int side = std::min(lineBallSide(QFontMetricsF(option.font)), cell.height());
+  QRectF area(cell.left(), cell.center().y() + 1 - side / 2.0, side, side);
+  for (LineBall& ball : balls) {
+    if (ball.kind != LineBallKind::white) ball.kind = extraBallOf(list_.game());
+    paintLineBall(painter, area, ball, lineBallColors(ball.kind, ground, option.palette));
+    area.translate(side + betweenLineBalls, 0);
+  }
 }
 
 void LineDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& option, bool standsOut) const {
@@ -87,12 +164,8 @@ void LineDelegate::paintText(QPainter& painter, const QStyleOptionViewItem& opti
   layout.draw(&painter, QPointF(option.rect.left() + theme::halfGap, top));
 }
 
-QSize LineDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-  const LineListModel* model = list_.lineModel();
-  const double columns = model ? static_cast<double>(model->longestLine()) : 0.0;
-  const QFontMetricsF metrics(option.font);
-  const double width = columns * metrics.horizontalAdvance(QLatin1Char('0')) + 2 * theme::halfGap;
-  return {static_cast<int>(width) + 1, static_cast<int>(metrics.height()) + theme::halfGap};
+QSize LineDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+  return list_.lineSize();
 }
 
 }  // namespace tallywick

@@ -2,7 +2,9 @@
 #include "ui/qt/parts/line_list.h"
 
 #include "core/text.h"
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/line_delegate.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/theme.h"
 
@@ -18,6 +20,7 @@ namespace tallywick {
 namespace {
 
 constexpr int usualRows = 8;
+constexpr int usualColumns = 40;
 constexpr int leastRows = 3;
 constexpr int leastColumns = 16;
 
@@ -50,6 +53,10 @@ void LineListModel::setStandOut(StandOut standsOut, const QString& meaning) {
   if (rows_ > 0) Q_EMIT dataChanged(index(0), index(rows_ - 1));
 }
 
+LineHighlights LineListModel::highlightsOf(std::string_view line) const {
+  return highlight_ ? highlight_(line) : LineHighlights();
+}
+
 bool LineListModel::standsOut(std::size_t row) const {
   return standsOut_ && standsOut_(row, lines_[row]);
 }
@@ -66,8 +73,11 @@ QVariant LineListModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
       return shown(lines_[row]);
     case Qt::AccessibleTextRole: {
-      const QString text = shown(lines_[row]).simplified();
-      return standsOut(row) ? text + QStringLiteral(", ") + meaning_ : text;
+      QString text = shown(lines_[row]).simplified();
+      if (standsOut(row)) text += QStringLiteral(", ") + meaning_;
+      const std::string matched = highlightsOf(lines_[row]).matched;
+      if (!matched.empty()) text += QStringLiteral(", matched ") + QString::fromStdString(matched);
+      return text;
     }
     case StandsOutRole:
       return standsOut(row);
@@ -94,7 +104,52 @@ LineListModel* LineList::lineModel() const {
   return qobject_cast<LineListModel*>(model());
 }
 
+void LineList::showColumns(const LineColumns& columns, Game game) {
+  game_ = game;
+  if (header_ == nullptr) {
+    header_ = new LineHeader(this);
+    header_->setVisible(!headerHidden_);
+    connect(header_, &QHeaderView::sectionResized, this, [this] { scheduleDelayedItemsLayout(); });
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, header_, &QHeaderView::setOffset);
+  }
+  untitled_ = columns;
+  showTitledColumns();
+  viewport()->update();
+}
+
+void LineList::setTitles(const std::vector<std::string>& titles) {
+  titles_ = titles;
+  showTitledColumns();
+}
+
+void LineList::showTitledColumns() {
+  LineColumns columns = untitled_;
+  for (std::size_t i = 0; i < std::min(columns.size(), titles_.size()); ++i) columns[i].title = titles_[i];
+  if (header_->columns() == columns) return;
+  header_->setColumns(columns);
+  header_->fitTo(font());
+  updateGeometry();
+  updateGeometries();
+}
+
+void LineList::hideHeader() {
+  headerHidden_ = true;
+  if (header_ != nullptr) header_->hide();
+}
+
+const LineColumns& LineList::columns() const {
+  static const LineColumns none;
+  return header_ != nullptr ? header_->columns() : none;
+}
+
+void LineList::setSortable(std::function<void(int column)> sortBy) {
+  header_->setSectionsClickable(true);
+  header_->setSortIndicatorShown(true);
+  connect(header_, &QHeaderView::sectionClicked, this, std::move(sortBy));
+}
+
 void LineList::reload() {
+  if (beforeReload) beforeReload();
   if (LineListModel* lines = lineModel()) lines->reset();
 }
 
@@ -107,11 +162,6 @@ void LineList::setEmphasis(std::vector<std::string> texts) {
 void LineList::setPlaceholder(const QString& text) {
   placeholder_ = text;
   viewport()->update();
-}
-
-void LineList::setColumns(int columns) {
-  columns_ = columns;
-  updateGeometry();
 }
 
 QString LineList::selectedText() const {
@@ -143,21 +193,45 @@ void LineList::keyboardSearch(const QString& typed) {
   if (found < lines->lines().size()) setCurrentIndex(model()->index(static_cast<int>(found), 0));
 }
 
-QSize LineList::sizeOf(int columns, int rows) const {
+int LineList::textWidth(int characters) const {
+  return static_cast<int>(characters * QFontMetricsF(font()).horizontalAdvance(QLatin1Char('0'))) +
+         2 * theme::halfGap + 1;
+}
+
+QSize LineList::lineSize() const {
+  const LineListModel* lines = lineModel();
+  const int text = textWidth(lines ? static_cast<int>(lines->longestLine()) : 0);
   const QFontMetricsF metrics(font());
-  const double width = columns * metrics.horizontalAdvance(QLatin1Char('0')) + 2 * theme::halfGap;
-  const double height = rows * (metrics.height() + theme::halfGap);
+  const auto hasBalls = [](const LineColumn& column) {
+    return column.field == LineField::whites || column.field == LineField::ball;
+  };
+  int height = static_cast<int>(metrics.height()) + theme::halfGap;
+  if (std::ranges::any_of(columns(), hasBalls)) height = std::max(height, lineBallSide(metrics) + 2);
+  return {header_ != nullptr ? std::max(text, header_->neededWidth()) : text, height};
+}
+
+QSize LineList::sizeOf(int width, int rows) const {
   const int frame = 2 * frameWidth();
-  return {static_cast<int>(width) + frame + verticalScrollBar()->sizeHint().width(),
-          static_cast<int>(height) + frame};
+  const int header = showsHeader() ? header_->sizeHint().height() : 0;
+  return {width + frame + verticalScrollBar()->sizeHint().width(),
+          rows * lineSize().height() + frame + header};
 }
 
 QSize LineList::sizeHint() const {
-  return sizeOf(columns_, usualRows);
+  return sizeOf(header_ != nullptr ? header_->neededWidth() : textWidth(usualColumns), usualRows);
 }
 
 QSize LineList::minimumSizeHint() const {
-  return sizeOf(leastColumns, leastRows);
+  return sizeOf(textWidth(leastColumns), leastRows);
+}
+
+void LineList::updateGeometries() {
+  const QMargins margins(0, showsHeader() ? header_->sizeHint().height() : 0, 0, 0);
+  if (viewportMargins() != margins) setViewportMargins(margins);
+  QListView::updateGeometries();
+  if (!showsHeader()) return;
+  const QRect lines = viewport()->geometry();
+  header_->setGeometry(lines.left(), lines.top() - margins.top(), lines.width(), margins.top());
 }
 
 void LineList::paintEvent(QPaintEvent* event) {
@@ -177,6 +251,7 @@ void LineList::paintEvent(QPaintEvent* event) {
 void LineList::changeEvent(QEvent* event) {
   QListView::changeEvent(event);
   if (event->type() == QEvent::ApplicationFontChange) setFont(theme::listFont(QGuiApplication::font()));
+  if (event->type() == QEvent::FontChange && header_ != nullptr) header_->fitTo(font());
 }
 
 }  // namespace tallywick

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lists of text lines that stay quick with a million lines.
+// Lists of text lines that stay quick with a million lines. Lines that are draws, plays or amounts can be
+// shown in columns under a header; what is copied, found by typing and read aloud is the text.
 #pragma once
 
 #include "controls/text_lines.h"
+#include "core/games.h"
+#include "ui/qt/parts/listed_line.h"
 
 #include <QAbstractListModel>
 #include <QElapsedTimer>
@@ -15,6 +18,18 @@
 
 namespace tallywick {
 
+class LineHeader;
+
+/// What is to be seen in a line at once.
+struct LineHighlights {
+  /// White balls that were found or matched, and the extra one.
+  std::vector<std::string> whites;
+  bool extra = false;
+  bool wins = false;
+  /// The text of the column for it: "3 + PowerBall".
+  std::string matched;
+};
+
 /// Shows lines that somebody else owns; they must outlive the model.
 class LineListModel : public QAbstractListModel {
   Q_OBJECT
@@ -22,6 +37,8 @@ class LineListModel : public QAbstractListModel {
  public:
   /// Whether a line is emphasised, asked for the lines on the screen only.
   using StandOut = std::function<bool(std::size_t row, std::string_view line)>;
+  /// Asked for the lines on the screen only, and when they are saved or printed.
+  using Highlight = std::function<LineHighlights(std::string_view line)>;
   enum Role { StandsOutRole = Qt::UserRole };
 
   explicit LineListModel(const TextLines& lines, QObject* parent = nullptr);
@@ -30,6 +47,8 @@ class LineListModel : public QAbstractListModel {
   void reset();
   /// `meaning` is said by screen readers after the line, for example "winning".
   void setStandOut(StandOut standsOut, const QString& meaning);
+  void setHighlight(Highlight highlight) { highlight_ = std::move(highlight); }
+  LineHighlights highlightsOf(std::string_view line) const;
 
   const TextLines& lines() const { return lines_; }
   /// The length of the longest line, in characters.
@@ -47,6 +66,7 @@ class LineListModel : public QAbstractListModel {
   std::size_t longest_ = 0;
   StandOut standsOut_;
   QString meaning_;
+  Highlight highlight_;
 };
 
 /// A list in a fixed-width face with extended selection. What is typed goes to the next line with a field
@@ -63,32 +83,56 @@ class LineList : public QListView {
   LineListModel* lineModel() const;
   /// Shows the lines anew; to be called after every change of them.
   void reload();
+  /// Runs before new lines are shown: for what depends on the game that they are of.
+  std::function<void()> beforeReload;
+
+  /// Shows the lines that fit the columns in them. The extra balls are those of `game`.
+  void showColumns(const LineColumns& columns, Game game);
+  /// Titles in the place of the columns' own.
+  void setTitles(const std::vector<std::string>& titles);
+  /// A list in a drop-down has columns and no header.
+  void hideHeader();
+  /// None where every line is text.
+  const LineColumns& columns() const;
+  Game game() const { return game_; }
+  /// Null where every line is text.
+  LineHeader* header() const { return header_; }
+  /// Lets a click on the header ask for another order of the lines.
+  void setSortable(std::function<void(int column)> sortBy);
 
   /// Texts shown in bold where they are a field of a line.
   void setEmphasis(std::vector<std::string> texts);
   const std::vector<std::string>& emphasis() const { return emphasis_; }
   /// What an empty list says.
   void setPlaceholder(const QString& text);
-  /// The width that the list asks for, in characters of its face.
-  void setColumns(int columns);
-
   /// The selected lines in the order of the list, each with a line end but the last.
   QString selectedText() const;
+
+  /// The same for every line.
+  QSize lineSize() const;
 
   void keyboardSearch(const QString& typed) override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  protected:
+  void updateGeometries() override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  QSize sizeOf(int columns, int rows) const;
+  QSize sizeOf(int width, int rows) const;
+  int textWidth(int characters) const;
+  void showTitledColumns();
+  bool showsHeader() const { return header_ != nullptr && !headerHidden_; }
 
+  LineHeader* header_ = nullptr;
+  bool headerHidden_ = false;
+  LineColumns untitled_;
+  std::vector<std::string> titles_;
+  Game game_ = Game::powerBall;
   std::vector<std::string> emphasis_;
   QString placeholder_;
-  int columns_ = 40;
   QString typed_;
   QElapsedTimer sinceTyped_;
 };

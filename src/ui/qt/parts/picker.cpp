@@ -25,6 +25,7 @@ QCompleter* lineFinder(QAbstractItemModel* lines, QWidget* parent) {
   finder->setMaxVisibleItems(shownLines);
   auto* popup = new LineList;
   popup->setSelectionMode(QAbstractItemView::SingleSelection);
+  popup->hideHeader();
   finder->setPopup(popup);
   return finder;
 }
@@ -32,21 +33,22 @@ QCompleter* lineFinder(QAbstractItemModel* lines, QWidget* parent) {
 }  // namespace
 
 Picker::Picker(const TextLines& lines, QWidget* parent)
-    : QComboBox(parent), lines_(new LineListModel(lines, this)) {
+    : QComboBox(parent), lines_(new LineListModel(lines, this)), list_(new LineList(this)) {
   setEditable(true);
   setInsertPolicy(NoInsert);
   setMaxVisibleItems(shownLines);
   setMinimumContentsLength(lineLength);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setFont(theme::listFont(font()));
-  auto* view = new LineList(this);
-  view->setSelectionMode(QAbstractItemView::SingleSelection);
-  setView(view);
+  list_->setSelectionMode(QAbstractItemView::SingleSelection);
+  list_->hideHeader();
+  setView(list_);
   setModel(lines_);
   setCompleter(lineFinder(lines_, this));
 }
 
 void Picker::reload() {
+  if (beforeReload) beforeReload();
   const QSignalBlocker quiet(this);
   lines_->reset();
 }
@@ -56,6 +58,11 @@ void Picker::showText(const QString& text) {
   if (lineEdit()->text() == text) return;
   lineEdit()->setText(text);
   lineEdit()->setCursorPosition(0);
+}
+
+void Picker::showColumns(const LineColumns& columns, Game game) {
+  list_->showColumns(columns, game);
+  if (completer() != nullptr) static_cast<LineList*>(completer()->popup())->showColumns(columns, game);
 }
 
 void Picker::setResultsOnly() {

@@ -3,11 +3,15 @@
 #pragma once
 
 #include "controls/text_lines.h"
+#include "core/games.h"
+#include "ui/qt/parts/listed_line.h"
 
 #include <QComboBox>
+#include <functional>
 
 namespace tallywick {
 
+class LineList;
 class LineListModel;
 
 class Picker : public QComboBox {
@@ -22,8 +26,14 @@ class Picker : public QComboBox {
   void setResultsOnly();
   void forgetLines();
 
+  /// Shows the lines that fit the columns in them, see LineList.
+  void showColumns(const LineColumns& columns, Game game);
+  /// Runs before new lines are shown.
+  std::function<void()> beforeReload;
+
  private:
   LineListModel* lines_;
+  LineList* list_;
 };
 
 }  // namespace tallywick

@@ -20,6 +20,9 @@ inline constexpr int pageMargin = 2 * gap;
 inline constexpr double textContrast = 4.5;
 inline constexpr double shapeContrast = 3.0;
 
+/// What was won, found or matched.
+inline const QColor winning(22, 128, 72);
+
 QFont headingFont(const QFont& base);
 /// A face whose digits and blanks have one width, in the size of `base`.
 QFont listFont(const QFont& base);

@@ -3,10 +3,6 @@
 
 #include "core/text.h"
 
-#include <QRegularExpression>
-#include <QStringList>
-#include <vector>
-
 namespace tallywick {
 
 using namespace Qt::StringLiterals;
@@ -61,21 +57,6 @@ Wording asLabel() {
 
 Wording asLabelOfControl(char letter) {
   return [letter](std::string_view caption) { return marked(singleAmpersands(caption), letter); };
-}
-
-Wording overColumns(std::initializer_list<int> columns) {
-  return [columns = std::vector<int>(columns)](std::string_view caption) {
-    static const QRegularExpression gaps(u" {2,}"_s);
-    const QStringList words = singleAmpersands(caption).trimmed().split(gaps, Qt::SkipEmptyParts);
-    QString heading;
-    for (qsizetype i = 0; i < words.size(); ++i) {
-      const auto column =
-          static_cast<std::size_t>(i) < columns.size() ? columns[static_cast<std::size_t>(i)] : 0;
-      heading = heading.leftJustified(std::max(static_cast<int>(heading.size()) + (i == 0 ? 0 : 1), column));
-      heading += words[i];
-    }
-    return heading;
-  };
 }
 
 }  // namespace tallywick

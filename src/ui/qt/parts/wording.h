@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The model's texts as a widget shows them: ampersands, mnemonics, headings over columns.
+// The model's texts as a widget shows them: ampersands and mnemonics.
 #pragma once
 
 #include <QString>
 #include <filesystem>
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -28,8 +27,5 @@ Wording withMnemonic(char letter);
 Wording asLabel();
 /// A label's caption as the label of another control, with a mnemonic that leads there.
 Wording asLabelOfControl(char letter);
-/// A heading over columns: its words, which two or more blanks part, each at the column where the list's
-/// field begins.
-Wording overColumns(std::initializer_list<int> columns);
 
 }  // namespace tallywick

@@ -5,6 +5,7 @@
 #include "core/words.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
+#include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/choice_list.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/hint_panel.h"
@@ -33,8 +34,6 @@ namespace {
 constexpr QSize usualSize = {960, 760};
 /// The marks, what an action did and what Select will do.
 constexpr int hintLines = 4;
-/// An item's length: two blanks, the date, six blanks, six numbers with two blanks between.
-constexpr int itemColumns = 42;
 
 QPushButton* actionButton(QWidget* parent, QGridLayout& grid, int line, int column) {
   auto* button = new QPushButton(parent);
@@ -177,7 +176,10 @@ QWidget* SelectionWindow::headedChoice(Label& label, char mnemonic, ComboBox& co
   column->setSpacing(theme::halfGap);
   auto* title = heading(box);
   auto* choice = new ChoiceList(combo.items(), box);
-  choice->list().setColumns(itemColumns);
+  const GameOfLines gameOf = [this] { return selection_.game.game; };
+  const bool arePlayed = &combo == &selection_.Combo7;
+  showInColumns(choice->list(), arePlayed ? playFieldsShown : drawFieldsShown, gameOf);
+  if (arePlayed) highlightMatches(choice->list(), desk().folder);
   title->setBuddy(&choice->list());
   column->addWidget(title);
   column->addWidget(choice, 1);
@@ -193,7 +195,7 @@ QWidget* SelectionWindow::savedTexts() {
   column->setSpacing(theme::halfGap);
   auto* title = heading(box, u"Sa&ved Play Texts:"_s);
   auto* saved = new LineList(selection_.List1.items(), box);
-  saved->setColumns(itemColumns);
+  showInColumns(*saved, {LineField::whites, LineField::extra}, [this] { return selection_.game.game; });
   saved->setAccessibleName(u"Saved Play Texts"_s);
   title->setBuddy(saved);
   column->addWidget(title);

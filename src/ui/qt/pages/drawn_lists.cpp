@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/pages/drawn_lists.h"
+
+#include "core/words.h"
+#include "display/judging.h"
+#include "frames/game_frames.h"
+#include "plays/play_table.h"
+#include "ui/qt/parts/line_list.h"
+#include "ui/qt/parts/picker.h"
+
+#include <algorithm>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+namespace tallywick {
+
+namespace {
+
+std::string titleOf(LineField field, Game game) {
+  switch (field) {
+    case LineField::date:
+      return "Date";
+    case LineField::whites:
+      return "Numbers";
+    case LineField::extra:
+      return std::string(extraBallName(game));
+    case LineField::amount:
+      return "Amount";
+    case LineField::matched:
+      return "Matched";
+    case LineField::ball:
+    case LineField::figure:
+      break;
+  }
+  return {};
+}
+
+template <typename Numbers>
+std::string keyOf(std::string_view date, const Numbers& white, std::string_view extra) {
+  std::string key(date);
+  for (std::string_view number : white) key.append(" ").append(number);
+  return key.append(" ").append(extra);
+}
+
+/// What the plays of a game matched, by their dates and numbers.
+class MatchedPlays {
+ public:
+  explicit MatchedPlays(const DataFolder& folder) : folder_(folder) {}
+
+  /// The files may have changed.
+  void forget() { highlights_.reset(); }
+
+  LineHighlights of(const ListedLine& play, Game game) {
+    if (!highlights_) read(game);
+    const auto found = highlights_->find(keyOf(play.date, play.white, play.extra));
+    return found == highlights_->end() ? LineHighlights() : found->second;
+  }
+
+ private:
+  void read(Game game) {
+    highlights_.emplace();
+    try {
+      for (const JudgedPlay& play : judgePlays(infoOf(game), folder_).plays) {
+        if (play.state != DrawState::drawn) continue;
+        highlights_->insert_or_assign(keyOf(play.date, play.white, play.extra),
+                                      LineHighlights{play.match.whites, play.match.extra, play.match.wins(),
+                                                     matchCount(play.match, game)});
+      }
+    } catch (const std::exception&) {
+      // Painting raises nothing; where a file is missing the plays are shown without matches.
+      highlights_->clear();
+    }
+  }
+
+  const DataFolder& folder_;
+  std::optional<std::unordered_map<std::string, LineHighlights>> highlights_;
+};
+
+}  // namespace
+
+GameOfLines gameOnShowOf(const GameFrames& frames) {
+  return [&frames] {
+    const GameInfo* const game = gameOnShow(frames);
+    return game != nullptr ? game->game : Game::powerBall;
+  };
+}
+
+LineColumns columnsFor(const LineFields& fields, Game game) {
+  LineColumns columns;
+  for (const LineField field : fields) columns.push_back({field, titleOf(field, game)});
+  return columns;
+}
+
+void showInColumns(LineList& list, const LineFields& fields, const GameOfLines& gameOf) {
+  list.beforeReload = [&list, fields, gameOf] {
+    const Game game = gameOf();
+    list.showColumns(columnsFor(fields, game), game);
+  };
+  list.beforeReload();
+}
+
+void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& gameOf) {
+  picker.beforeReload = [&picker, fields, gameOf] {
+    const Game game = gameOf();
+    picker.showColumns(columnsFor(fields, game), game);
+  };
+  picker.beforeReload();
+}
+
+void highlightMatches(LineList& list, const DataFolder& folder) {
+  const auto plays = std::make_shared<MatchedPlays>(folder);
+  list.beforeReload = [plays, show = list.beforeReload] {
+    plays->forget();
+    show();
+  };
+  list.lineModel()->setHighlight([&list, plays](std::string_view line) {
+    const auto isMatched = [](const LineColumn& column) { return column.field == LineField::matched; };
+    if (std::ranges::none_of(list.columns(), isMatched)) return LineHighlights();
+    return plays->of(readLine(line), list.game());
+  });
+}
+
+}  // namespace tallywick

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lists of draws and plays in columns: of which game their lines are, and what the plays among them matched.
+#pragma once
+
+#include "core/games.h"
+#include "ui/qt/parts/listed_line.h"
+
+#include <functional>
+#include <vector>
+
+namespace tallywick {
+
+class DataFolder;
+class LineList;
+class Picker;
+struct GameFrames;
+
+using LineFields = std::vector<LineField>;
+
+inline const LineFields drawFieldsShown = {LineField::date, LineField::whites, LineField::extra};
+inline const LineFields playFieldsShown = {LineField::date, LineField::whites, LineField::extra,
+                                           LineField::matched};
+
+/// Which game new lines of a list are of.
+using GameOfLines = std::function<Game()>;
+
+/// The game on show, PowerBall where neither is.
+GameOfLines gameOnShowOf(const GameFrames& frames);
+
+/// The columns of the fields with the titles that they have for the game.
+LineColumns columnsFor(const LineFields& fields, Game game);
+
+/// Shows the lines in columns for the fields, those that are none as text.
+void showInColumns(LineList& list, const LineFields& fields, const GameOfLines& gameOf);
+void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& gameOf);
+
+/// Highlights in the lines of plays what the judging says that they matched. The files are read when the
+/// first of new lines is painted. After showInColumns().
+void highlightMatches(LineList& list, const DataFolder& folder);
+
+}  // namespace tallywick

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/parts/line_ball.h"
+
+#include "ui/qt/parts/theme.h"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace tallywick {
+
+namespace {
+
+const QColor powerBallFill(200, 16, 46);
+const QColor megaBallFill(250, 190, 20);
+
+// All measures as shares of the ball's side.
+constexpr double sideOfText = 1.4;
+constexpr double digitHeight = 0.5;
+constexpr double ringWidth = 0.1;
+constexpr double outlineWidth = 0.04;
+/// Between the rim of the area and a ball without a ring.
+constexpr double rim = 0.06;
+constexpr double cornerRadius = 0.22;
+
+void drawShape(QPainter& painter, const QRectF& area, LineBallKind kind) {
+  if (kind == LineBallKind::squareGold)
+    painter.drawRoundedRect(area, area.width() * cornerRadius, area.width() * cornerRadius);
+  else
+    painter.drawEllipse(area);
+}
+
+QRectF inset(const QRectF& area, double by) {
+  return area.adjusted(by, by, -by, -by);
+}
+
+}  // namespace
+
+LineBallKind extraBallOf(Game game) {
+  return game == Game::powerBall ? LineBallKind::roundRed : LineBallKind::squareGold;
+}
+
+int lineBallSide(const QFontMetricsF& text) {
+  return static_cast<int>(std::lround(text.height() * sideOfText));
+}
+
+BallColors lineBallColors(LineBallKind kind, const QColor& ground, const QPalette& palette) {
+  BallColors colors;
+  colors.ground = kind == LineBallKind::white      ? unmarkedFill(palette)
+                  : kind == LineBallKind::roundRed ? powerBallFill
+                                                   : megaBallFill;
+  colors.text = theme::readableOn(colors.ground);
+  colors.outline =
+      theme::standingOutFrom(ground, theme::mixed(colors.ground, ground, 0.2), theme::shapeContrast);
+  colors.caps = theme::standingOutFrom(ground, theme::winning, theme::textContrast);
+  return colors;
+}
+
+void paintLineBall(QPainter& painter, const QRectF& area, const LineBall& ball, const BallColors& colors) {
+  const double side = area.width();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double ring = std::max(2.0, side * ringWidth);
+  const double outline = std::max(1.0, side * outlineWidth);
+  if (ball.lit) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colors.caps, ring));
+    drawShape(painter, inset(area, ring / 2), ball.kind);
+  }
+  painter.setBrush(colors.ground);
+  painter.setPen(QPen(colors.outline, outline));
+  // Between the ring and a coloured ball the ground is seen.
+  const double gap = ball.kind == LineBallKind::white ? 0 : outline;
+  if (ball.lit && ball.kind == LineBallKind::white) painter.setPen(Qt::NoPen);
+  drawShape(painter, inset(area, ball.lit ? ring + gap + outline / 2 : side * rim + outline / 2), ball.kind);
+  QFont face = QGuiApplication::font();
+  face.setBold(true);
+  face.setPixelSize(std::max(7, static_cast<int>(side * digitHeight)));
+  painter.setFont(face);
+  painter.setPen(colors.text);
+  painter.drawText(area, Qt::AlignCenter, ball.number);
+  painter.restore();
+}
+
+}  // namespace tallywick
