@@ -48,11 +48,6 @@ struct Replacement {
 std::mutex noticesMutex;
 std::vector<std::string> notices;
 
-void notify(std::string text) {
-  const std::scoped_lock lock(noticesMutex);
-  notices.push_back(std::move(text));
-}
-
 fs::path stagedPath(const fs::path& folder, std::string_view name) {
   return folder / pathOf(join(name, stagedSuffix));
 }
@@ -198,9 +193,9 @@ void keepChanged(const fs::path& folder, const Replacement& entry) {
   const bool isKept = !copies.empty() && fingerprintOf(folder / pathOf(copies.front().name)) == found;
   const std::string copy = isKept ? copies.front().name : nextCopyName(folder, name, SystemClock());
   if (!isKept) replaceFile(folder / pathOf(copy), os::readFile(file).view());
-  notify(join("A change of the files in\r\n", textOf(folder),
-              "\r\nhad been cut short and is finished now. \"", name,
-              "\" had been changed meanwhile; what it contained is kept in \"", copy, "\"."));
+  addRecoveryNotice(join("A change of the files in\r\n", textOf(folder),
+                         "\r\nhad been cut short and is finished now. \"", name,
+                         "\" had been changed meanwhile; what it contained is kept in \"", copy, "\"."));
 }
 
 /// Takes over the staged files that still exist, and removes what is to go. Doing it twice changes nothing: a
@@ -249,10 +244,11 @@ void setAside(const fs::path& folder, bool isReadable) {
     if (canBeStaged(name)) rename(work, name);
   }
   rename(journal, setAsideName);
-  notify(join("A change of the files in\r\n", textOf(folder),
-              "\r\nwas begun and cannot be finished. The files stay as they are; what is left of the change "
-              "is kept in",
-              listed(names)));
+  addRecoveryNotice(
+      join("A change of the files in\r\n", textOf(folder),
+           "\r\nwas begun and cannot be finished. The files stay as they are; what is left of the change "
+           "is kept in",
+           listed(names)));
 }
 
 void requireStageable(const fs::path& folder, std::string_view name) {
@@ -390,6 +386,11 @@ void recoverFolder(const fs::path& folder) {
   // Who holds the lock is at work now and finishes what it finds; nobody has to wait for that.
   const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);
   finishCommit(folder);
+}
+
+void addRecoveryNotice(std::string text) {
+  const std::scoped_lock lock(noticesMutex);
+  notices.push_back(std::move(text));
 }
 
 std::vector<std::string> takeRecoveryNotices() {

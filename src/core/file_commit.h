@@ -84,6 +84,9 @@ bool isAtRest(const std::filesystem::path& folder);
 /// cannot be written is no error. Raises LockedByAnother at once where somebody is at work in the folder.
 void recoverFolder(const std::filesystem::path& folder);
 
+/// Adds to what takeRecoveryNotices() gives.
+void addRecoveryNotice(std::string text);
+
 /// What the recoveries since the last call could not finish or had to keep, as texts for the player.
 std::vector<std::string> takeRecoveryNotices();
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup/setup_program.h"
 
+#include "backup/backup.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/eras.h"
 #include "core/file_commit.h"
+#include "core/restored_folder.h"
 #include "core/text.h"
 #include "exports/folder_merge.h"
 #include "exports/import_report.h"
 #include "exports/typed_draws.h"
 #include "settings/settings.h"
-#include "setup/backup.h"
 #include "setup/new_folder.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
@@ -133,13 +134,15 @@ void describe(CLI::App& app, Options& options) {
   CLI::Option* from = app.add_option("--from", options.from, "The data folder whose draws are published");
   tree->type_name("TREE")->needs(from)->excludes(folder);
   from->type_name("DIR")->needs(tree);
-  CLI::Option* backup =
-      app.add_option("--backup", options.backup,
-                     "Write the record book in DIR to a zip, without FILE a dated one beside DIR");
-  CLI::Option* restored = app.add_option("--restore", options.restoredFrom,
-                                         "Make DIR what a backup contains; what DIR was stays beside it");
-  backup->type_name("[FILE]")->expected(0, 1)->needs(folder);
-  restored->type_name("FILE")->needs(folder)->excludes(backup);
+  CLI::Option* backup = app.add_option(
+      "--backup", options.backup,
+      "Write the record book in DIR to TO, a new zip or, where its name does not end in .zip, a "
+      "new folder; without TO to a dated zip beside DIR");
+  CLI::Option* restored =
+      app.add_option("--restore", options.restoredFrom,
+                     "Make DIR what a backup, a zip or a folder, contains; what DIR was stays beside it");
+  backup->type_name("[TO]")->expected(0, 1)->needs(folder);
+  restored->type_name("FROM")->needs(folder)->excludes(backup);
   describeDraws(app, folder, options);
   app.final_callback([folder, tree, from, backup, &options] {
     options.backsUp = backup->count() > 0;
@@ -263,10 +266,10 @@ void makeFolder(const Options& options, std::ostream& out) {
 }
 
 void backUpFolder(const Options& options, std::ostream& out) {
-  const fs::path zip =
+  const fs::path to =
       options.backup.empty() ? datedBackup(options.folder, SystemClock()) : fs::path(options.backup);
-  const std::size_t files = backUp(options.folder, zip);
-  out << files << " files of " << options.folder << " written to " << zip.string() << " and compared\n";
+  const std::size_t files = backUp(options.folder, to);
+  out << files << " files of " << options.folder << " written to " << to.string() << " and compared\n";
 }
 
 void restoreFolder(const Options& options, std::ostream& out) {
@@ -378,6 +381,7 @@ void removeDraw(const Options& options, std::ostream& out) {
 
 /// False where something failed that has been reported.
 bool runOptions(const Options& options, const Outputs& outputs) {
+  if (!options.folder.empty()) finishRestore(options.folder);
   if (options.fetches) return fetch(options, outputs);
   std::ostream& out = outputs.out;
   if (!options.tree.empty()) {

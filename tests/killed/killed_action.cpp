@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // killed_action FOLDER ACTION: one action that changes files of a data folder, for the test that kills it. A
 // runtime error is reported by its number on standard output and exit code 1.
+#include "backup/backup.h"
 #include "core/file_commit.h"
+#include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "exports/typed_draws.h"
 #include "plays/play_changes.h"
@@ -65,6 +67,13 @@ void changeDraws(const DataFolder& folder, std::string_view action) {
   if (action == "remove-draw") exports::removeDraw(folder, Game::powerBall, dayOf(2026, 11, 18));
 }
 
+/// What the next start does, and the next restore with what is left of this one.
+void mendRestore(const std::filesystem::path& book) {
+  finishRestore(book);
+  for (const std::string_view ending : {restoringEnding, restoredEnding})
+    std::filesystem::remove_all(beside(book, ending));
+}
+
 void run(const DataFolder& folder, std::string_view action) {
   const StandingClock clock("11-21-2026", "12:00:00");
   const std::filesystem::path game = folder.resolve(powerBall.folder);
@@ -80,6 +89,8 @@ void run(const DataFolder& folder, std::string_view action) {
   if (action == "maintain") Command1_Click(folder, starter);
   if (action == "receive") takeIn({{"qzrnum6.dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}, folder, game, clock);
   if (action == "publish") setup::publish(folder.resolve("tree"), folder.resolve(""), out);
+  if (action == "restore") restore(folder.root() / "backup", folder.root() / "book", clock);
+  if (action == "mend-restore") mendRestore(folder.root() / "book");
   if (action.starts_with("by-hand-")) changePlays(folder, clock, action.substr(8));
   changeDraws(folder, action);
   if (action == "recover") recoverFolder(game);

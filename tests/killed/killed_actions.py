@@ -18,11 +18,11 @@ import sys
 import tempfile
 
 PROGRAM = sys.argv[1]
-ACTIONS = {"selection": ["open", "select", "done-1", "done-10"], "files": ["maintain", "receive", "publish"],
+ACTIONS = {"selection": ["open", "select", "done-1", "done-10"], "files": ["maintain", "receive", "publish", "restore"],
            "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
            "draws": ["fetch", "add-draw", "remove-draw"]}[sys.argv[2]]
 # What mends the traces of an action: the next start of the program, or the same command again.
-MENDING = collections.defaultdict(lambda: "recover", publish="publish")
+MENDING = collections.defaultdict(lambda: "recover", publish="publish", restore="mend-restore")
 # A kill anywhere else leaves what one at the next of these does; an open changes something where it creates its file.
 CHANGES = {"openat", "write", "rename", "unlink", "unlinkat", "mkdir", "rmdir", "symlink", "ftruncate"}
 # What a full disk, a folder without permission and a broken disk answer, and the runtime error it becomes; in turn.
@@ -173,6 +173,11 @@ def test_action(action):
     if action in notes:
         text = (folder / PWR / "QZRNUM6.Dat").read_bytes() if action == "remove-draw" else b""
         (folder / PWR / notes[action]).write_bytes(text)
+    if action == "restore":
+        for where, dated in (("book", "11-18-2026"), ("backup", "11-16-2026")):
+            (folder / where / PWR).mkdir(parents=True)
+            for name in (COMMITTED.name, "QZR6PWR2.Ply"):
+                (folder / where / PWR / name).write_text(play(dated, name[7:8]), newline="")
     start, before = files_now(), state()
     check(run(action).returncode == 0, f"{action} fails undisturbed")
     after = state()

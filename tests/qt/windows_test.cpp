@@ -5,6 +5,7 @@
 #include "qt/desk_fixture.h"
 #include "selection/hints.h"
 #include "support/record_book.h"
+#include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
@@ -276,6 +277,26 @@ TEST_F(Windows, SelectedPlaysAreNotDroppedWithoutAQuestion) {
   EXPECT_EQ(static_cast<ListBox&>(*application.find("Form1")->find("List17")).items().size(), 1U);
   QTest::keyClick(&slip, Qt::Key_Escape);
   EXPECT_EQ(application.find("Form3"), nullptr);
+}
+
+TEST_F(Windows, ABackupIsWrittenAndAnotherChosenToRestore) {
+  const std::filesystem::path holder = scratch.root() / "holder";
+  const std::filesystem::path book = holder / "book";
+  std::filesystem::create_directories(book);
+  std::filesystem::rename(scratch.root() / "QzrNumbers", book / "QzrNumbers");
+  std::ofstream(book / "QzrNumbers/x") << "x";
+  BackupDialog dialog(book, platform, nullptr);
+  dialog.show();
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(holder), {}), 2) << "the book and its zip";
+  QApplication::setActiveWindow(&dialog);
+  answerNextBox(QMessageBox::Ok);
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  EXPECT_TRUE(boxText.contains(QStringLiteral("it exists already"))) << boxText.toStdString();
+
+  answerNextBox(QStringLiteral("Restore"));
+  dialog.askToRestore(QStringLiteral("/a.zip"));
+  EXPECT_EQ(dialog.restoreFrom(), "/a.zip");
 }
 
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {

@@ -5,6 +5,7 @@
 #include "core/data_folder.h"
 #include "core/file_commit.h"
 #include "core/random.h"
+#include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "core/surroundings.h"
 #include "exports/made_up.h"
@@ -163,6 +164,7 @@ void tell(const QString& text) {
 
 std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   const fs::path chosen = chooseDataFolder(named);
+  finishRestore(chosen);
   if (offer == Offer::no) {
     if (isDataFolder(chosen)) return chosen;
     std::cerr << "tallywick: there is no record book in " << chosen.string() << '\n';
@@ -170,6 +172,7 @@ std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   }
   QSettings settings;
   const fs::path last = toPath(settings.value(lastFolderKey).toString());
+  if (!last.empty()) finishRestore(last);
   std::optional<fs::path> found = ownFolder(named, chosen);
   if (!found) found = isDataFolder(chosen) ? chosen : offerFolder(chosen, last);
   if (found) settings.setValue(lastFolderKey, pathText(*found));

@@ -6,6 +6,7 @@
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/settings_dialog.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/program/qt_platform.h"
@@ -78,6 +79,13 @@ void editSettings(Application& application, QtPlatform& platform) {
       platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
     }
   }
+}
+
+std::filesystem::path showBackups(Application& application, QtPlatform& platform) {
+  BackupDialog dialog(application.surroundings().folder.root(), platform, QApplication::activeWindow());
+  dialog.exec();
+  if (!dialog.restoreFrom().empty()) platform.run([&application] { application.exit(); });
+  return dialog.restoreFrom();
 }
 
 void press(Application& application, QtPlatform& platform, Control& control) {

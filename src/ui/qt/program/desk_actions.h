@@ -5,6 +5,8 @@
 #include "core/games.h"
 #include "settings/settings.h"
 
+#include <filesystem>
+
 class QString;
 
 namespace tallywick {
@@ -25,6 +27,10 @@ Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform);
 /// Lets the user edit the settings; what is accepted is written to the data folder and used at once. A file
 /// that cannot be understood is not overwritten: it raises what readSettings() raises.
 void editSettings(Application& application, QtPlatform& platform);
+
+/// Lets the user back the record book up. Where one is to be restored, the program is ended and the backup to
+/// restore is given back; else the path is empty.
+std::filesystem::path showBackups(Application& application, QtPlatform& platform);
 
 /// Runs what a press of the control leads to. An update fetches what it needs first; a message says what it
 /// lacks.

@@ -2,6 +2,7 @@
 #include "ui/qt/program/program.h"
 
 #include "app/application.h"
+#include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/dialogs/real_book.h"
 #include "ui/qt/program/desk_actions.h"
@@ -115,8 +116,10 @@ class ErrorsShownBy {
   GuardedApplication& qt_;
 };
 
+/// `next` becomes the record book to open afterwards, `restoreFrom` the backup to make this one of; both stay
+/// empty where the program ends.
 int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt,
-          std::optional<fs::path>& next) {
+          std::optional<fs::path>& next, fs::path& restoreFrom) {
   SystemClock clock;
   MixingGenerator random(entropy());
   QtPlatform platform(folder);
@@ -126,6 +129,7 @@ int runOn(const DataFolder& folder, const Options& options, GuardedApplication& 
   Application application(
       {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
   connectDesk(application, platform, next);
+  platform.onBackUp = [&] { restoreFrom = showBackups(application, platform); };
   return takesPicture(options) ? takeScreenshot(application, platform, options)
                                : runWindows(application, platform, !options.noSplash);
 }
@@ -133,12 +137,20 @@ int runOn(const DataFolder& folder, const Options& options, GuardedApplication& 
 int runOnFolderOf(const Options& options, GuardedApplication& qt) {
   auto folder = findDataFolder(options.folder, takesPicture(options) ? Offer::no : Offer::yes);
   int exitCode = takesPicture(options) ? 1 : 0;
-  while (folder) {
-    const auto hold = holdDataFolder(*folder);
-    if (!hold) return 1;
+  for (Options run = options; folder;) {
     std::optional<fs::path> next;
-    exitCode = runOn(DataFolder(*folder), options, qt, next);
-    folder = next;
+    fs::path restoreFrom;
+    {
+      const auto hold = holdDataFolder(*folder);
+      if (!hold) return 1;
+      exitCode = runOn(DataFolder(*folder), run, qt, next, restoreFrom);
+    }
+    if (restoreFrom.empty()) {
+      folder = next;
+    } else {
+      restoreAndTell(restoreFrom, *folder);
+      run.noSplash = true;
+    }
   }
   return exitCode;
 }

@@ -152,9 +152,19 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
 }
 
 void QtPlatform::openWindow(Form& form) {
-  const Desk desk = {*this,          folder_,      onClose,      onEditSettings,
-                     onHelp,         onPress,      onUpdateNote, onUpdateAgain,
-                     onPriceOfPlay,  onPlaysSaved, onAskIfSet,   onShowsMadeUpDraws,
+  const Desk desk = {*this,
+                     folder_,
+                     onClose,
+                     onEditSettings,
+                     onHelp,
+                     onPress,
+                     onUpdateNote,
+                     onUpdateAgain,
+                     onBackUp,
+                     onPriceOfPlay,
+                     onPlaysSaved,
+                     onAskIfSet,
+                     onShowsMadeUpDraws,
                      onStartRealBook};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);

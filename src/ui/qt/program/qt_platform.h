@@ -28,6 +28,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void(Control& control)> onPress;
   std::function<std::string()> onUpdateNote;
   std::function<void()> onUpdateAgain;
+  std::function<void()> onBackUp;
   std::function<std::optional<std::int64_t>(Game)> onPriceOfPlay;
   std::function<void(const GameInfo& game)> onPlaysSaved;
   std::function<bool(const Control& control)> onAskIfSet;

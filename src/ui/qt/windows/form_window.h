@@ -28,6 +28,8 @@ struct Desk {
   std::function<std::string()> updateNote = {};
   /// Updates once more after an update.
   std::function<void()> updateAgain = {};
+  /// Lets the user back the record book up, and restore it.
+  std::function<void()> backUp = {};
   /// What a play costs by the settings, in cents.
   std::function<std::optional<std::int64_t>(Game)> priceOf = {};
   /// The committed plays of a game are others now: what the main window shows of them is to be read again.

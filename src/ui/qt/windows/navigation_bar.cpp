@@ -45,6 +45,15 @@ QToolButton* settingsButton(QWidget* parent) {
   return button;
 }
 
+QToolButton* backupButton(QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setText(u"Backup…"_s);
+  button->setToolTip(u"Copies the record book, and brings a copy back (Ctrl+B)"_s);
+  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_B));
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
 }  // namespace
 
 NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
@@ -61,6 +70,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   progress->setAccessibleName(u"Update progress"_s);
   progress->setMaximumWidth(24 * theme::gap);
   auto* next = new QPushButton(this);
+  auto* backup = backupButton(this);
   auto* settings = settingsButton(this);
 
   auto* games = row(0);
@@ -78,6 +88,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   bar->addWidget(transfer_);
   bar->addStretch();
   bar->addWidget(next);
+  bar->addWidget(backup);
   bar->addWidget(settings);
 
   Binding& binding = window.binding();
@@ -87,6 +98,8 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   binding.bind(form.update.Command2, *update, withMnemonic('U'));
   binding.bind(form.update.ProgressBar1, *progress);
   binding.bind(form.bar.Command8, *next, withMnemonic('N'));
+  connect(backup, &QToolButton::clicked, &window,
+          [&window] { window.desk().runner.attempt([&window] { window.desk().backUp(); }); });
   connect(settings, &QToolButton::clicked, &window, [&window] {
     window.desk().runner.attempt([&window] { window.desk().editSettings(); });
     window.binding().showChanges();

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Backups: what they contain, what a restore brings back, and what is refused.
-#include "setup/backup.h"
+#include "backup/backup.h"
 
 #include "core/clock.h"
 #include "core/file_commit.h"
+#include "core/restored_folder.h"
 #include "support/record_book.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <zip.h>
 
-namespace tallywick::setup {
+namespace tallywick {
 namespace {
 
 namespace fs = std::filesystem;
@@ -68,10 +69,30 @@ TEST_F(Backup, BringsBackEveryByteAndKeepsWhatWasThere) {
   EXPECT_EQ(filesOf(book), before);
   EXPECT_EQ(filesOf(restored.earlier), changed);
 
-  fs::remove_all(book);
-  EXPECT_EQ(restore(zip, book, clock).earlier, "");
+  // Emptied, the folder comes back from a copy that is a folder as well.
+  const fs::path copy = datedBackup(holder / "copy", clock, BackupForm::folder);
+  EXPECT_EQ(backUp(book, copy), 10U);
+  EXPECT_EQ(filesOf(copy), before);
+  EXPECT_NE(complaintOf([&] { backUp(book, book / "copy"); }).find("inside the record book"),
+            std::string::npos);
+  for (const auto& entry : fs::directory_iterator(book)) fs::remove_all(entry);
+  EXPECT_EQ(restore(copy, book, clock).earlier, "");
   EXPECT_EQ(filesOf(book), before);
-  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 3) << "something was left behind";
+  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 4) << "something was left behind";
+}
+
+TEST_F(Backup, ARestoreThatWasCutShortIsFinishedAndNamed) {
+  below();
+  const auto restored = filesOf(book);
+  finishRestore(book);
+  EXPECT_TRUE(takeRecoveryNotices().empty());
+  // As a kill between the last two steps leaves them.
+  fs::rename(book, beside(book, restoredEnding));
+  fs::create_directory(holder / "book before 2026-11-21 181500");
+  finishRestore(book);
+  EXPECT_EQ(filesOf(book), restored);
+  EXPECT_THAT(takeRecoveryNotices(),
+              testing::ElementsAre(testing::HasSubstr("book before 2026-11-21 181500")));
 }
 
 TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {
@@ -106,4 +127,4 @@ TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {
 }
 
 }  // namespace
-}  // namespace tallywick::setup
+}  // namespace tallywick
