@@ -18,9 +18,9 @@ import sys
 import tempfile
 
 PROGRAM = sys.argv[1]
-ACTIONS = {"selection": ["open", "select", "done-1", "done-10"], "files": ["maintain", "receive", "publish", "restore"],
+ACTIONS = {"selection": ["done-10", "done-1", "select", "open"], "files": ["maintain", "receive", "publish"],
            "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
-           "draws": ["fetch", "add-draw", "remove-draw"]}[sys.argv[2]]
+           "draws": ["fetch", "add-draw", "remove-draw"], "restore": ["restore"]}[sys.argv[2]]
 # What mends the traces of an action: the next start of the program, or the same command again.
 MENDING = collections.defaultdict(lambda: "recover", publish="publish", restore="mend-restore")
 # A kill anywhere else leaves what one at the next of these does; an open changes something where it creates its file.
@@ -97,7 +97,9 @@ def run(action, *tracing):
 
 
 def run_disturbed(action, call, how, number):
-    return run(action, "strace", "-f", "-o", "/dev/null", "-e", f"trace={call}", "-e",
+    # With this option, which saves half the time, strace sends no signals.
+    quick = ["--seccomp-bpf"] if how.startswith("error") else []
+    return run(action, "strace", "-f", *quick, "-o", "/dev/null", "-e", f"trace={call}", "-e",
                f"inject={call}:{how}:when={number}")
 
 
@@ -137,7 +139,7 @@ def fail_everywhere(action, start, outcomes):
     lay_out(start)
     before, failures = state(), 0
     errors = {call: itertools.cycle(each.items()) for call, each in FAILURES.items()}
-    repeated, written = collections.Counter(), set()
+    repeated, written, places = collections.Counter(), set(), []
     for call, number, line in calls_of(action):
         # A folder is searched in the same way again and again; every fifth of such calls is enough. What was only read
         # may be closed as it likes.
@@ -147,13 +149,18 @@ def fail_everywhere(action, start, outcomes):
         written |= {path} if "O_CREAT" in line else set()
         if call not in errors or (call in REPEATED and repeated[same] % 5 != 1) or (call == "close" and path not in written):
             continue
+        places.append((call, number))
+    # The changes of a kind are made by the same calls: after the first action each takes its turn at every third.
+    turn = ACTIONS.index(action)
+    for call, number in places if turn == 0 else places[turn % 3::3]:
         error, reported = next(errors[call])
         lay_out(start)
         ended = run_disturbed(action, call, f"error={error}", number)
         left = state()
         what = f"{action}, {error} at {call} {number}"
         # Where the change is made, what could not be tidied up goes at the next start.
-        check(run(MENDING[action]).returncode == 0, what + ": no recovery")
+        if left not in outcomes:
+            check(run(MENDING[action]).returncode == 0, what + ": no recovery")
         if ended.returncode == 0:
             check(state() == outcomes[-1], what + ": passed over, and not done")
             continue
@@ -186,7 +193,7 @@ def test_action(action):
         check(all(play in b"".join(after.values()) for play in before[name].splitlines()), f"{action} takes a play away")
     outcomes = (after,) if MENDING[action] == action else (before, after)
     kills, failures = kill_everywhere(action, start, outcomes), fail_everywhere(action, start, outcomes)
-    check(kills > 3 and failures > 10, f"{action}: only {kills} kills and {failures} failures")
+    check(kills > 3 and failures > 5, f"{action}: only {kills} kills and {failures} failures")
     print(f"{action}: {kills} kills and {failures} failures, nothing lost")
     return after
 

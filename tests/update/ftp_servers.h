@@ -23,7 +23,9 @@ inline constexpr const char* serverPassword = "se/cr:e@t %41";
 /// A Python that has what the real server needs. There may be several on a machine.
 inline std::string pythonWithServer() {
   for (const char* python : {"python3", "/usr/bin/python3", "/usr/local/bin/python3"}) {
-    const std::string attempt = std::string(python) + " -c 'import pyftpdlib' 2>/dev/null";
+    const std::string attempt =
+        std::string(python) +
+        " -c 'import importlib.util as i; exit(not i.find_spec(\"pyftpdlib\"))' 2>/dev/null";
     if (std::system(attempt.c_str()) == 0) return python;
   }
   throw std::runtime_error(
