@@ -101,7 +101,7 @@ class FileLock {
 /// The platform's folder for this user's data of the program, for example ~/.local/share/tallywick.
 std::filesystem::path userDataFolder();
 
-/// The file of the running program itself.
+/// The file of the running program itself. Raises RuntimeError 53 where the platform does not say it.
 std::filesystem::path programFile();
 
 /// Whether the platform can start `program` as it is.

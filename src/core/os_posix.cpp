@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The platform file of Linux and other POSIX systems.
+// The platform file of Linux.
 #include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
@@ -247,8 +247,12 @@ fs::path userDataFolder() {
 }
 
 fs::path programFile() {
-  std::error_code ignored;
-  return fs::read_symlink("/proc/self/exe", ignored);
+  const fs::path link = "/proc/self/exe";
+  std::error_code error;
+  fs::path file = fs::read_symlink(link, error);
+  // Without it a program installed beside this one would be looked for in the working folder.
+  if (error) throw RuntimeError(ErrorNumber::fileNotFound, join(textOf(link), " (", error.message(), ")"));
+  return file;
 }
 
 bool canRun(const fs::path& program) {

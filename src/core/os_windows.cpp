@@ -240,6 +240,7 @@ fs::path userDataFolder() {
 fs::path programFile() {
   std::wstring name(32768, L'\0');
   name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+  if (name.empty()) throw RuntimeError(ErrorNumber::fileNotFound, "the program's own file");
   return name;
 }
 
