@@ -1,4 +1,4 @@
-# `cmake --build … --target format` puts every source in the house's form; `format-check` only reports.
+# `cmake --build … --target format` puts every source in the house's form; scripts/lint only reports.
 find_program(CLANG_FORMAT clang-format)
 if(CLANG_FORMAT)
   file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
@@ -10,5 +10,4 @@ if(CLANG_FORMAT)
   file(WRITE "${CMAKE_BINARY_DIR}/formatted-files.txt" "${formatted}\n")
   set(listed "--files=${CMAKE_BINARY_DIR}/formatted-files.txt")
   add_custom_target(format COMMAND ${CLANG_FORMAT} -i ${listed} VERBATIM)
-  add_custom_target(format-check COMMAND ${CLANG_FORMAT} --dry-run --Werror ${listed} VERBATIM)
 endif()

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Kills each action that changes files at every system call that does so, and lets every file-system call fail.
 
 Whatever happens, the next start of the program must find the data folder wholly as it was or wholly as the

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks that a program's man page and its --help tell the same options: check_man_page.py PROGRAM PAGE."""
 
 import re

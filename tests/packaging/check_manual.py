@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks the manual: check_manual.py FOLDER. Links lead somewhere, every page is reachable."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Runs one script of tallywick-script on a small record book and compares what happens with its transcript.
 
 transcript.py PROGRAM NAME.script... [--accept]

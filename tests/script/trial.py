@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Searches, counts and winning-ticket checks on random draws, against a count with sets of integers that shares no code with
 theirs. trial.py PROGRAM"""
 import datetime, itertools, json, pathlib, random, subprocess, sys, tempfile

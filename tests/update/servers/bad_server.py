@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """An FTP server that misbehaves as its folder says, or not at all, on a free port of the loopback.
 
 bad_server.py FOLDER

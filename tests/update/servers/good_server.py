@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A real FTP server on a free port of the loopback, for the tests of the update.
 
 good_server.py ROOT LOG [no-mlsd] [windows-list]

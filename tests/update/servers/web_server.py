@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A web server with a certificate, for the tests of what is fetched over HTTPS; its paths say how it behaves.
 
 web_server.py CERTIFICATE LOG
