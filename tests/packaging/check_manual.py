@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Checks the manual: check_manual.py FOLDER. Links lead somewhere, every page is reachable."""
+"""Checks the manual: check_manual.py FOLDER. Links lead somewhere, every page is reachable.
+The distribution's link checker starts at one page and so never sees the page to which no link leads."""
 
 import os
 import sys
