@@ -25,7 +25,7 @@ template <typename Read>
 auto readFrom(const std::filesystem::path& file, Read read) {
   try {
     os::InputFile input(file);
-    CsvReader rows([&](char* to, std::size_t size) { return input.read(to, size); });
+    CsvReader rows([&input](char* to, std::size_t size) { return input.read(to, size); });
     return read(rows);
   } catch (const std::exception& error) {
     throw std::runtime_error(join(file.string(), ": ", error.what()));
