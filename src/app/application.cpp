@@ -103,7 +103,7 @@ void Application::openSelection(const GameInfo& game) {
   // While another program is at the play files, the open window keeps the plays selected in it.
   if (!window->load() && old != nullptr) return;
   if (old != nullptr) close(*old);
-  for (Button* action : {&window->Command59, &window->Command9, &window->Command5, &window->Command60}) {
+  for (Button* action : {&window->Command59, &window->Command9, &window->Command5}) {
     action->onClick = onFiles(std::move(action->onClick));
   }
   open(std::move(window));
