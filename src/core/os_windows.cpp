@@ -6,7 +6,6 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -31,6 +30,25 @@ bool isFolder(const fs::path& file) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+/// Whether `file` is itself a link, to a file or to a folder.
+bool isLink(const fs::path& file) {
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = ::FindFirstFileW(file.c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  ::FindClose(search);
+  return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+         IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
+/// A link to a folder has to go before its name is taken; what it leads to stays.
+bool removeFolderLink(const fs::path& file) {
+  return isFolder(file) && isLink(file) && ::RemoveDirectoryW(file.c_str()) != 0;
+}
+
+bool isMissing(DWORD error) {
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
 [[noreturn]] void fail(DWORD error, const fs::path& file) {
   // To open a folder as a file is answered like a file without permission.
   if (error == ERROR_ACCESS_DENIED && isFolder(file)) {
@@ -43,10 +61,9 @@ bool isFolder(const fs::path& file) {
 class Handle {
  public:
   Handle(const fs::path& file, DWORD access, DWORD disposition,
-         DWORD shared = FILE_SHARE_READ | FILE_SHARE_DELETE)
+         DWORD shared = FILE_SHARE_READ | FILE_SHARE_DELETE, DWORD flags = FILE_ATTRIBUTE_NORMAL)
       : file_(file),
-        handle_(::CreateFileW(file.c_str(), access, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
-                              nullptr)) {
+        handle_(::CreateFileW(file.c_str(), access, shared, nullptr, disposition, flags, nullptr)) {
     if (handle_ == INVALID_HANDLE_VALUE) fail(::GetLastError(), file_);
   }
   ~Handle() {
@@ -187,7 +204,8 @@ void takeName(const fs::path& from, const fs::path& to) {
   const auto until = std::chrono::steady_clock::now() + 1s;
   while (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
     const DWORD error = ::GetLastError();
-    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (error == ERROR_ACCESS_DENIED && removeFolderLink(to)) continue;
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !isFolder(to));
     if (!mayPass || std::chrono::steady_clock::now() >= until) fail(error, to);
     std::this_thread::sleep_for(10ms);
   }
@@ -195,21 +213,27 @@ void takeName(const fs::path& from, const fs::path& to) {
 
 void checkReplaceable(const fs::path& file) {
   const DWORD attributes = ::GetFileAttributesW(file.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return;
-  const DWORD obstacles = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
-  if ((attributes & obstacles) != 0) fail(ERROR_ACCESS_DENIED, file);
+  if (attributes == INVALID_FILE_ATTRIBUTES) {
+    if (const DWORD error = ::GetLastError(); !isMissing(error)) fail(error, file);
+    return;
+  }
+  const bool isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+  const bool isPlainFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && !isLink(file);
+  if (isReadOnly || isPlainFolder) fail(ERROR_ACCESS_DENIED, file);
 }
 
 void removeDurably(const fs::path& file) {
   if (::DeleteFileW(file.c_str()) == 0) {
     const DWORD error = ::GetLastError();
-    if (error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND) fail(error, file);
+    if (!isMissing(error) && !removeFolderLink(file)) fail(error, file);
   }
 }
 
 FileLock::FileLock(const fs::path& lockFile, Wait wait) : file_(lockFile) {
   // Everybody may open the lock file; only one may hold the lock on it.
-  Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_SHARE_READ | FILE_SHARE_WRITE);
+  Handle handle(lockFile, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT);
+  if (::GetFileType(handle.get()) != FILE_TYPE_DISK || isLink(lockFile)) throw notAFile(lockFile);
   using namespace std::chrono_literals;
   const auto until = std::chrono::steady_clock::now() + (wait == Wait::yes ? 2s : 0s);
   OVERLAPPED place{};
@@ -270,22 +294,28 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   ::CloseHandle(process.hProcess);
 }
 
-// There is no such limit here.
 bool isTerminalBehindErrors() {
   DWORD mode = 0;
   return ::GetConsoleMode(::GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
 }
 
+// There is no such limit here.
 void reportSizeLimit() {}
 
 std::string registryValue(std::string_view key, std::string_view value) {
   const RegistryKey opened(key);
   if (opened.get() == nullptr) return {};
-  std::array<wchar_t, 1024> buffer{};
-  DWORD bytes = sizeof buffer;
+  const std::wstring name = wide(value);
+  DWORD bytes = 0;
   DWORD type = REG_NONE;
-  if (::RegQueryValueExW(opened.get(), wide(value).c_str(), nullptr, &type,
-                         reinterpret_cast<BYTE*>(buffer.data()), &bytes) != ERROR_SUCCESS) {
+  if (::RegQueryValueExW(opened.get(), name.c_str(), nullptr, &type, nullptr, &bytes) != ERROR_SUCCESS) {
+    return {};
+  }
+  // Room for a double word in any case, and for half a letter at the end.
+  std::wstring buffer(bytes / sizeof(wchar_t) + 2, L'\0');
+  bytes = static_cast<DWORD>(buffer.size() * sizeof(wchar_t));
+  if (::RegQueryValueExW(opened.get(), name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()),
+                         &bytes) != ERROR_SUCCESS) {
     return {};
   }
   if (type == REG_DWORD) {
@@ -294,8 +324,8 @@ std::string registryValue(std::string_view key, std::string_view value) {
     return asHexadecimal(number);
   }
   if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
-  const std::wstring text(buffer.data(), bytes / sizeof(wchar_t));
-  return textOf(fs::path(text.substr(0, text.find(L'\0'))));
+  buffer.resize(bytes / sizeof(wchar_t));
+  return textOf(fs::path(buffer.substr(0, buffer.find(L'\0'))));
 }
 
 }  // namespace tallywick::os
