@@ -13,7 +13,7 @@ namespace {
 
 /// The game's folder, which may be missing. A link would lead to files that are not this data folder's.
 fs::path ownFolder(const DataFolder& folder, const GameInfo& game) {
-  const fs::path local = folder.resolve(game.folder);
+  fs::path local = folder.resolve(game.folder);
   for (const fs::path& part : {local.parent_path(), local}) {
     std::error_code ignored;
     const fs::file_type type = fs::symlink_status(part, ignored).type();

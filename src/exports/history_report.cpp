@@ -35,6 +35,7 @@ HistoryReport reportOf(const GameInfo& game, const GameFiles& files) {
     if (record.day) days.emplace(*record.day, DrawEntry{*record.day, {}});
   }
   std::vector<DrawEntry> draws;
+  draws.reserve(days.size());
   for (const auto& [day, draw] : days) draws.push_back(draw);
 
   HistoryReport report;

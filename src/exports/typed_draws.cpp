@@ -110,7 +110,8 @@ constexpr std::size_t ballCount = 6;
 
 /// DrawIsKnown where the draw has other numbers in the histories, or another amount.
 void requireUnknown(Game game, const CheckedDraw& typed, const GameFiles& files) {
-  const auto& [draw, amount] = typed;
+  const DrawEntry& draw = typed.draw;
+  const std::optional<AmountEntry>& amount = typed.amount;
   const auto fail = [&](std::string_view what, const std::string& known) {
     throw DrawIsKnown(
         join(infoOf(game).name, ", ", displayDate(draw.day), ": ", what, " known already: ", known));
