@@ -6,8 +6,10 @@
 #include "core/runtime_error.h"
 #include "core/sequential_reader.h"
 #include "core/text.h"
+#include "core/words.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace tallywick {
 
@@ -137,6 +139,23 @@ void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataF
     throw;
   }
   counts.draw(page.Draw1);
+}
+
+std::string chartInWords(const Chart& chart) {
+  if (chart.bars().empty()) return {};
+  std::vector<std::string> numbers;
+  for (const Chart::Bar& bar : chart.bars()) numbers.push_back(bar.label);
+  numbers.back() = "extra ball " + numbers.back();
+  const bool isDoublePlay = chart.title() == doublePlayChart.title;
+  return join(listed(numbers), " in the last hundred ", isDoublePlay ? "Double Play" : powerBall.name,
+              " draws");
+}
+
+std::string barMeaning(Color color) {
+  constexpr std::array<std::string_view, barColors.size()> draws = {"second", "third", "fourth", "fifth", "sixth"};
+  const auto found = std::find(barColors.begin(), barColors.end(), color);
+  if (found == barColors.end()) return "no repeat on the summary";
+  return join("also in the ", draws.at(static_cast<std::size_t>(found - barColors.begin())), " newest draw");
 }
 
 void Command3_Click(DrawsPage& page, const DataFolder& folder) {

@@ -6,6 +6,7 @@
 #include "controls/controls.h"
 
 #include <array>
+#include <string>
 
 namespace tallywick {
 
@@ -38,6 +39,11 @@ void Command52_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFo
 void Command27_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
 /// At start-up: up to a hundred draws.
 void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder);
+
+/// What the chart counts, in a sentence that names its game and numbers; empty where it has no bars.
+std::string chartInWords(const Chart& chart);
+/// What a bar's colour says of its number: the colour that the number has on the summary.
+std::string barMeaning(Color color);
 
 /// Shows the newest draw of PowerBall, of Double Play and of Mega Millions as pictures.
 void Command3_Click(DrawsPage& page, const DataFolder& folder);

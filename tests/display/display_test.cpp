@@ -63,6 +63,7 @@ TEST_F(Displays, TheChartCountsAHundredDraws) {
   folder.write(ticketFilesOf(powerBall).draws, history(99, ""));
   EXPECT_THROW(Command52_Click(draws, summary.frequent, folder.folder()), RuntimeError);
   EXPECT_EQ(draws.Draw1.bars()[0].value, 2) << "the chart stays";
+  EXPECT_THAT(chartInWords(draws.Draw1), testing::EndsWith("in the last hundred PowerBall draws"));
   folder.write(ticketFilesOf(powerBall).draws, history(3, "") + "\"01\"");
   EXPECT_THROW(drawStartUpChart(draws, summary.frequent, folder.folder()), RuntimeError);
   EXPECT_EQ(draws.Draw1.bars()[0].value, 1) << "what is before a torn record";

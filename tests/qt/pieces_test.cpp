@@ -17,6 +17,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProgressDialog>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -127,6 +128,13 @@ TEST(BallPictures, ShowThePictureOrDrawTheBall) {
   green.fill(Qt::green);
   shown.showNumber(QStringLiteral("07"), false, green);
   EXPECT_EQ(middle(), QColor(Qt::green));
+  QPixmap onWhite(8, 8);
+  onWhite.fill(Qt::white);
+  QPainter(&onWhite).fillRect(1, 1, 6, 6, Qt::green);
+  shown.setPalette(QPalette(Qt::black));
+  shown.showNumber(QStringLiteral("07"), false, onWhite);
+  EXPECT_EQ(middle(), QColor(Qt::green));
+  EXPECT_NE(shown.grab().toImage().pixelColor(0, 0), QColor(Qt::white));
   shown.showNumber(QStringLiteral("07"), true, {});
   EXPECT_NE(middle(), QColor(Qt::green));
   EXPECT_NE(middle(), empty);

@@ -47,6 +47,8 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   auto* column = columnIn(box);
   column->addWidget(view, 1);
   column->addLayout(buttons);
+  view->setWords([](const Chart& chart) { return toQString(chartInWords(chart)); },
+                 [](Color color) { return toQString(barMeaning(color)); });
   binding.bind(page.Draw1, *view);
   binding.bind(page.Command52, *powerBall, withMnemonic('L'));
   binding.bind(page.Command27, *doublePlay, withMnemonic('B'));

@@ -4,11 +4,38 @@
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/theme.h"
 
+#include <QImage>
 #include <QPainter>
+#include <vector>
 
 namespace tallywick {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The picture without the ground around its ball: what is connected with a corner in the corner's colour. A
+/// picture with a ground of its own, or without one, stays as it is.
+QPixmap withoutGround(const QPixmap& picture) {
+  QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+  if (image.isNull()) return picture;
+  const QRect all = image.rect();
+  const QRgb ground = image.pixel(0, 0);
+  for (const QPoint corner : {all.topRight(), all.bottomLeft(), all.bottomRight()}) {
+    if (image.pixel(corner) != ground) return picture;
+  }
+  std::vector<QPoint> open = {all.topLeft(), all.topRight(), all.bottomLeft(), all.bottomRight()};
+  while (!open.empty()) {
+    const QPoint at = open.back();
+    open.pop_back();
+    if (!all.contains(at) || image.pixel(at) != ground || qAlpha(image.pixel(at)) == 0) continue;
+    image.setPixel(at, qRgba(0, 0, 0, 0));
+    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) open.push_back(at + step);
+  }
+  return qAlpha(image.pixel(all.center())) == 0 ? picture : QPixmap::fromImage(image);
+}
+
+}  // namespace
 
 BallPicture::BallPicture(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -17,8 +44,9 @@ BallPicture::BallPicture(QWidget* parent) : QWidget(parent) {
 void BallPicture::showNumber(const QString& number, bool isExtraBall, const QPixmap& picture) {
   number_ = number;
   isExtraBall_ = isExtraBall;
-  picture_ = picture;
-  setAccessibleName(isExtraBall ? u"extra ball %1"_s.arg(number) : number);
+  picture_ = picture.isNull() ? picture : withoutGround(picture);
+  const QString name = number.isEmpty() ? u"not shown yet"_s : number;
+  setAccessibleName(isExtraBall ? u"extra ball %1"_s.arg(name) : name);
   update();
 }
 
@@ -28,7 +56,6 @@ QSize BallPicture::sizeHint() const {
 }
 
 void BallPicture::paintEvent(QPaintEvent*) {
-  if (number_.isEmpty() && picture_.isNull()) return;
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   if (!picture_.isNull()) {
@@ -39,7 +66,8 @@ void BallPicture::paintEvent(QPaintEvent*) {
   }
   BallLook look;
   look.number = number_;
-  if (isExtraBall_) {
+  look.enabled = !number_.isEmpty();
+  if (isExtraBall_ && look.enabled) {
     look.fill = theme::toQColor(colors::magenta, palette());
     look.mark = BallMark::extra;
   }

@@ -11,7 +11,7 @@ class BallPicture : public QWidget {
  public:
   explicit BallPicture(QWidget* parent = nullptr);
 
-  /// An empty `number` shows nothing yet; a null `picture` draws the ball.
+  /// An empty `number` shows the outline of a ball; a null `picture` draws the ball.
   void showNumber(const QString& number, bool isExtraBall, const QPixmap& picture);
   const QPixmap& picture() const { return picture_; }
 

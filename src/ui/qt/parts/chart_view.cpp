@@ -8,8 +8,10 @@
 
 #include <QAction>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTableWidget>
 #include <algorithm>
 #include <cmath>
 #include <qcustomplot.h>
@@ -30,8 +32,15 @@ constexpr int wantedTicks = 5;
 }  // namespace
 
 ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
-    : QWidget(parent), plot_(new QCustomPlot(this)), heading_(new QCPTextElement(plot_)) {
-  columnIn(this)->addWidget(plot_);
+    : QWidget(parent),
+      plot_(new QCustomPlot(this)),
+      heading_(new QCPTextElement(plot_)),
+      table_(new QTableWidget(this)) {
+  auto* line = new QHBoxLayout(this);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(theme::gap);
+  line->addWidget(plot_, 3);
+  line->addWidget(table_, 2);
   setFocusPolicy(Qt::StrongFocus);
   setMinimumHeight(22 * theme::gap);
   plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -40,14 +49,30 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
   plot_->xAxis->grid()->setVisible(false);
   plot_->xAxis->setSubTicks(false);
   plot_->yAxis->setSubTicks(false);
+  table_->setColumnCount(3);
+  table_->setHorizontalHeaderLabels({u"Number"_s, u"Draws"_s, u"Colour"_s});
+  table_->setAccessibleName(u"Values of the chart"_s);
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setTabKeyNavigation(false);
+  table_->verticalHeader()->hide();
+  table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table_->horizontalHeader()->setStretchLastSection(true);
   addActions(runner);
   draw();
 }
 
+void ChartView::setWords(std::function<QString(const Chart&)> explain,
+                         std::function<QString(Color)> meaningOf) {
+  explain_ = std::move(explain);
+  meaningOf_ = std::move(meaningOf);
+}
+
 void ChartView::show(const Chart& chart) {
   title_ = toQString(chart.title());
+  explanation_ = explain_ ? explain_(chart) : QString();
   bars_ = chart.bars();
-  setAccessibleName(title_);
+  setAccessibleName(explanation_.isEmpty() ? title_ : explanation_);
   setAccessibleDescription(inWords(title_, bars_));
   draw();
 }
@@ -79,7 +104,8 @@ void ChartView::draw() {
   auto counts = QSharedPointer<QCPAxisTickerFixed>::create();
   counts->setTickStep(std::max(1.0, std::ceil(tallest / wantedTicks)));
   plot_->yAxis->setTicker(counts);
-  heading_->setText(title_);
+  heading_->setText(explanation_.isEmpty() ? title_ : title_ + u'\n' + explanation_);
+  fillTable();
   colorAxes();
   plot_->replot();
 }
@@ -97,6 +123,22 @@ void ChartView::addBar(int place, const Chart::Bar& bar) {
   count->setText(QString::number(bar.value));
   count->setFont(theme::headingFont(font()));
   count->setColor(palette().text().color());
+}
+
+void ChartView::fillTable() {
+  table_->setRowCount(static_cast<int>(bars_.size()));
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    const Chart::Bar& bar = bars_[static_cast<std::size_t>(row)];
+    const QColor color = theme::toQColor(bar.color, palette());
+    QPixmap swatch(2 * theme::gap, 2 * theme::gap);
+    swatch.fill(color);
+    auto* meaning = new QTableWidgetItem(QIcon(swatch), meaningOf_ ? meaningOf_(bar.color) : QString());
+    auto* count = new QTableWidgetItem(QString::number(bar.value));
+    count->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    table_->setItem(row, 0, new QTableWidgetItem(toQString(bar.label)));
+    table_->setItem(row, 1, count);
+    table_->setItem(row, 2, meaning);
+  }
 }
 
 void ChartView::colorAxes() {

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bar chart of the last hundred draws. Each bar bears its count and its number; the whole can be read as
-// text, saved as a picture and printed.
+// The bar chart of the last hundred draws. Each bar has its count on top and its number below; a table beside it has
+// the same values with the meaning of the colours. The chart can be read as text, saved as a picture and printed.
 #pragma once
 
 #include "controls/controls.h"
 
 #include <QWidget>
+#include <functional>
 
 class QCPTextElement;
 class QCustomPlot;
+class QTableWidget;
 
 namespace tallywick {
 
@@ -17,6 +19,9 @@ class HandlerRunner;
 class ChartView : public QWidget {
  public:
   explicit ChartView(HandlerRunner& runner, QWidget* parent = nullptr);
+
+  /// What is said of a chart under its title, and of a bar's colour in the table; set before the first chart.
+  void setWords(std::function<QString(const Chart&)> explain, std::function<QString(Color)> meaningOf);
 
   void show(const Chart& chart);
   /// The title and each number with its count, for screen readers.
@@ -29,13 +34,18 @@ class ChartView : public QWidget {
   void draw();
   void addBar(int place, const Chart::Bar& bar);
   void colorAxes();
+  void fillTable();
   void addActions(HandlerRunner& runner);
   void saveAsPicture();
   void print();
 
   QCustomPlot* plot_;
   QCPTextElement* heading_;
+  QTableWidget* table_;
+  std::function<QString(const Chart&)> explain_;
+  std::function<QString(Color)> meaningOf_;
   QString title_;
+  QString explanation_;
   std::vector<Chart::Bar> bars_;
 };
 
