@@ -129,6 +129,12 @@ class Portal : public Desktop {
     application.setSettings(settings);
   }
   void update() { widget<QPushButton>("Form1", "Command2").click(); }
+  QPushButton& button(const char* text) {
+    const QList<QPushButton*> buttons = window("Form1").findChildren<QPushButton*>();
+    return **std::ranges::find_if(buttons, [text](const QPushButton* each) {
+      return each->text().remove(u'&') == QString::fromUtf8(text);
+    });
+  }
   std::string newestLine() {
     return std::string(static_cast<ListBox*>(application.find("Form1")->find("List1"))->items()[0]);
   }
@@ -162,10 +168,7 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   const auto note = [this] { return application.noteOfUpdate(); };
   EXPECT_EQ(note(), "Next draw: Saturday, 11-21-2026");
 
-  const QList<QPushButton*> buttons = window("Form1").findChildren<QPushButton*>();
-  auto& again = **std::ranges::find_if(buttons, [](const QPushButton* button) {
-    return button->text().remove(u'&') == QLatin1String("Fetch Again");
-  });
+  QPushButton& again = button("Fetch Again");
   const auto updated = scratch.snapshot();
   again.click();
   EXPECT_EQ(boxText,
@@ -183,8 +186,7 @@ TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
   scratch.write("QzrNumbers/QZR6MEG/QZR6MEG2.Ply", records({"11-17-2026,01,02,03,04,05,06,50000000"}));
   const std::string plays = records({"11-16-2026,01,02,03,04,05,06,5000000"});
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply", plays);
-  const auto& strip =
-      *window("Form1").findChild<QPushButton*>(QStringLiteral("startRealBook"))->parentWidget();
+  const QWidget& strip = *button("Start a Real Record Book…").parentWidget();
   platform.run([] {});
   EXPECT_FALSE(strip.isHidden());
   answer = QMessageBox::Yes;

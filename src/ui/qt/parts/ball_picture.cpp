@@ -30,7 +30,8 @@ QPixmap withoutGround(const QPixmap& picture) {
     open.pop_back();
     if (!all.contains(at) || image.pixel(at) != ground || qAlpha(image.pixel(at)) == 0) continue;
     image.setPixel(at, qRgba(0, 0, 0, 0));
-    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) open.push_back(at + step);
+    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+      open.push_back(at + step);
   }
   return qAlpha(image.pixel(all.center())) == 0 ? picture : QPixmap::fromImage(image);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bar chart of the last hundred draws. Each bar has its count on top and its number below; a table beside it has
-// the same values with the meaning of the colours. The chart can be read as text, saved as a picture and printed.
+// The bar chart of the last hundred draws. Each bar has its count on top and its number below; a table beside
+// it has the same values with the meaning of the colours. The chart can be read as text, saved as a picture
+// and printed.
 #pragma once
 
 #include "controls/controls.h"

@@ -21,7 +21,6 @@ MadeUpStrip::MadeUpStrip(FormWindow& window) : window_(window) {
   text->setForegroundRole(QPalette::ToolTipText);
   text->setWordWrap(true);
   auto* start = new QPushButton(u"Start a R&eal Record Book…"_s);
-  start->setObjectName(u"startRealBook"_s);
   start->setToolTip(u"Makes a record book with the real draws in a folder of your own"_s);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(theme::gap, theme::halfGap, theme::halfGap, theme::halfGap);
