@@ -68,6 +68,8 @@ class Application {
   void updateAgain();
   /// Fills the lists of the game on show anew, and says in a message what fails.
   void showGameAnew();
+  /// The game on show, PowerBall where there is none.
+  const GameInfo& gameShown() const;
   /// The games whose draws are made up.
   std::vector<const GameInfo*> madeUpGames() const;
   /// Whether the draws of the game on show are made up.

@@ -8,6 +8,7 @@
 #include "core/sequential_reader.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <string_view>
@@ -45,6 +46,25 @@ std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Cloc
   }
   const std::string date = drawn - next < daysOfWeek ? "" : join(" (", displayDate(next), ")");
   return join(weekdayOf(next), "'s draw", date, " is not published yet");
+}
+
+std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history) {
+  constexpr std::size_t mostNamed = 10;
+  if (!history.first || !history.newest) return join("There are no draws of ", game.name, " yet.");
+  std::string text = join(std::to_string(history.draws), " draws, the first of ", displayDate(*history.first),
+                          ", the newest of ", displayDate(*history.newest), ".\n");
+  if (history.missing.empty()) return text + "No scheduled draw between them is missing.";
+  text += history.missing.size() == 1
+              ? "One scheduled draw between them is missing:"
+              : join(std::to_string(history.missing.size()), " scheduled draws between them are missing:");
+  for (std::size_t i = 0; i < std::min(history.missing.size(), mostNamed); ++i) {
+    text += join(i == 0 ? " " : ", ", displayDate(history.missing[i]));
+  }
+  if (history.missing.size() > mostNamed) {
+    text += join(" and ", std::to_string(history.missing.size() - mostNamed), " more, the last ",
+                 displayDate(history.missing.back()));
+  }
+  return text + ".";
 }
 
 }  // namespace tallywick

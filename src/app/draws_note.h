@@ -4,6 +4,7 @@
 
 #include "core/day.h"
 #include "core/games.h"
+#include "exports/history_report.h"
 
 #include <optional>
 #include <string>
@@ -18,5 +19,8 @@ std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder)
 
 /// A sentence for the player: which draw is not published yet, or when the next one takes place.
 std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock);
+
+/// How many draws there are, from when to when, and which scheduled ones are missing; a line each.
+std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history);
 
 }  // namespace tallywick

@@ -136,6 +136,11 @@ void Application::showGameAnew() {
   }
 }
 
+const GameInfo& Application::gameShown() const {
+  const GameInfo* const game = main_ != nullptr ? gameOnShow(main_->frames) : nullptr;
+  return game != nullptr ? *game : powerBall;
+}
+
 std::vector<const GameInfo*> Application::madeUpGames() const {
   std::vector<const GameInfo*> games = {&powerBall, &megaMillions};
   std::erase_if(

@@ -8,16 +8,14 @@
 #include "core/text.h"
 #include "settings/settings.h"
 #include "setup/new_folder.h"
+#include "ui/qt/dialogs/fetch_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/parts/wording.h"
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QLocale>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QPushButton>
-#include <string>
 
 namespace tallywick {
 
@@ -25,33 +23,6 @@ namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Shows a fetch that no window of the program's own looks on at.
-class FetchDialog : public TransferWatch {
- public:
-  explicit FetchDialog(QWidget* parent) : dialog_(u"Connecting…"_s, u"&Cancel"_s, 0, 0, parent) {
-    dialog_.setWindowTitle(u"Fetching the Draws of Both Games"_s);
-    dialog_.setWindowModality(Qt::ApplicationModal);
-    dialog_.setMinimumWidth(dialog_.fontMetrics().averageCharWidth() * 48);
-    dialog_.setAutoClose(false);
-    dialog_.setMinimumDuration(0);
-    dialog_.show();
-  }
-
-  void progress(const TransferProgress& soFar) override {
-    if (soFar.bytes > 0) {
-      const QLocale locale;
-      dialog_.setLabelText(
-          u"%1 of %2 files, %3"_s.arg(locale.toString(soFar.files), locale.toString(soFar.filesInAll),
-                                      locale.formattedDataSize(static_cast<qint64>(soFar.bytes), 1)));
-    }
-    QCoreApplication::processEvents();
-  }
-  bool cancelled() override { return dialog_.wasCanceled(); }
-
- private:
-  QProgressDialog dialog_;
-};
 
 enum class Outcome { made, cancelled, failed };
 

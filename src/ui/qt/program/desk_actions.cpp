@@ -7,6 +7,8 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "ui/qt/dialogs/backup_dialog.h"
+#include "setup/new_folder.h"
+#include "ui/qt/dialogs/draws_dialog.h"
 #include "ui/qt/dialogs/settings_dialog.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/program/qt_platform.h"
@@ -86,6 +88,19 @@ std::filesystem::path showBackups(Application& application, QtPlatform& platform
   dialog.exec();
   if (!dialog.restoreFrom().empty()) platform.run([&application] { application.exit(); });
   return dialog.restoreFrom();
+}
+
+void editDraws(Application& application, QtPlatform& platform) {
+  const Surroundings& around = application.surroundings();
+  const std::vector<const GameInfo*> madeUp = application.madeUpGames();
+  DrawsDialog dialog(around.folder, around.clock, setup::exportAddresses(application.settings()),
+                     application.gameShown(), QApplication::activeWindow());
+  dialog.exec();
+  if (!dialog.hasChanged()) return;
+  platform.run([&] {
+    application.offerToTakePlaysAway(madeUp);
+    application.showGameAnew();
+  });
 }
 
 void press(Application& application, QtPlatform& platform, Control& control) {

@@ -32,6 +32,10 @@ void editSettings(Application& application, QtPlatform& platform);
 /// restore is given back; else the path is empty.
 std::filesystem::path showBackups(Application& application, QtPlatform& platform);
 
+/// Shows the draws of both games and lets the user fetch, import and type in more. Afterwards the lists have
+/// what was brought.
+void editDraws(Application& application, QtPlatform& platform);
+
 /// Runs what a press of the control leads to. An update fetches what it needs first; a message says what it
 /// lacks.
 void press(Application& application, QtPlatform& platform, Control& control);

@@ -87,6 +87,7 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
   };
   platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
   platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
+  platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };
   platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
   platform.onStartRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };
 }

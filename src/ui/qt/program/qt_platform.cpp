@@ -165,7 +165,8 @@ void QtPlatform::openWindow(Form& form) {
                      onPlaysSaved,
                      onAskIfSet,
                      onShowsMadeUpDraws,
-                     onStartRealBook};
+                     onStartRealBook,
+                     onEditDraws};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);
   window->move(centred(*window));

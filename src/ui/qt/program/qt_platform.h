@@ -34,6 +34,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<bool(const Control& control)> onAskIfSet;
   std::function<bool()> onShowsMadeUpDraws;
   std::function<void()> onStartRealBook;
+  std::function<void()> onEditDraws;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

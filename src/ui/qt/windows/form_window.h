@@ -40,6 +40,8 @@ struct Desk {
   std::function<bool()> showsMadeUpDraws = {};
   /// Lets the user begin a record book with real draws in another folder.
   std::function<void()> startRealBook = {};
+  /// Shows the draws of both games and lets the user bring more.
+  std::function<void()> editDraws = {};
 };
 
 class TransferPanel;

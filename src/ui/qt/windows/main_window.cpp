@@ -15,6 +15,7 @@
 #include "ui/qt/windows/navigation_bar.h"
 #include "ui/qt/windows/selection_window.h"
 
+#include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QShortcut>
@@ -105,6 +106,7 @@ QWidget* MainWindow::gameShown() {
 
 void MainWindow::addMenusAndStatus() {
   fillMenuBar(*menuBar(), main_, binding());
+  addDrawsEntry();
   std::vector<QLabel*> panels;
   for (std::size_t i = 0; i < main_.update.StatusBar1.panels().size(); ++i) {
     auto* panel = new QLabel;
@@ -113,6 +115,19 @@ void MainWindow::addMenusAndStatus() {
     panels.push_back(panel);
   }
   binding().bind(main_.update.StatusBar1, panels);
+}
+
+void MainWindow::addDrawsEntry() {
+  QMenu* options = nullptr;
+  for (QAction* each : menuBar()->actions()) {
+    if (each->objectName() == u"mnuOption"_s) options = each->menu();
+  }
+  if (options == nullptr) return;
+  options->addSeparator();
+  QAction* draws = options->addAction(u"&Draws…"_s);
+  draws->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+  connect(draws, &QAction::triggered, this,
+          [this] { desk().runner.attempt([this] { desk().editDraws(); }); });
 }
 
 void MainWindow::addKeys() {

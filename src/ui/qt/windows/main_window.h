@@ -27,6 +27,7 @@ class MainWindow : public FormWindow {
  private:
   void addPages();
   void addMenusAndStatus();
+  void addDrawsEntry();
   void addKeys();
   QWidget* gameShown();
   /// Whether a press takes no selected plays away, or the user wants it.

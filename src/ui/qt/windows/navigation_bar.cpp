@@ -54,6 +54,14 @@ QToolButton* backupButton(QWidget* parent) {
   return button;
 }
 
+QToolButton* drawsButton(QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setText(u"Draws…"_s);
+  button->setToolTip(u"What draws there are; fetch, import or type in more (Ctrl+D)"_s);
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
 }  // namespace
 
 NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
@@ -71,6 +79,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   progress->setMaximumWidth(24 * theme::gap);
   auto* next = new QPushButton(this);
   auto* backup = backupButton(this);
+  auto* draws = drawsButton(this);
   auto* settings = settingsButton(this);
 
   auto* games = row(0);
@@ -89,6 +98,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   bar->addStretch();
   bar->addWidget(next);
   bar->addWidget(backup);
+  bar->addWidget(draws);
   bar->addWidget(settings);
 
   Binding& binding = window.binding();
@@ -100,6 +110,8 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   binding.bind(form.bar.Command8, *next, withMnemonic('N'));
   connect(backup, &QToolButton::clicked, &window,
           [&window] { window.desk().runner.attempt([&window] { window.desk().backUp(); }); });
+  connect(draws, &QToolButton::clicked, &window,
+          [&window] { window.desk().runner.attempt([&window] { window.desk().editDraws(); }); });
   connect(settings, &QToolButton::clicked, &window, [&window] {
     window.desk().runner.attempt([&window] { window.desk().editSettings(); });
     window.binding().showChanges();
