@@ -118,7 +118,6 @@ void MyPlaysView::addTable(QBoxLayout& column) {
   sums_->setAccessibleName(u"Sums by year"_s);
   sums_->setSelectionMode(QAbstractItemView::SingleSelection);
   makeReadable(*sums_);
-  sums_->horizontalHeader()->setStretchLastSection(true);
 
   auto* plays = new QWidget;
   auto* playsColumn = columnIn(plays);
