@@ -83,9 +83,7 @@ void MyPlaysView::addFilter(QBoxLayout& column) {
   auto* label = new QLabel(u"Filt&er:"_s, this);
   label->setBuddy(filter_);
   filter_->setAccessibleName(u"Filter"_s);
-  notices_ = new QLabel(this);
-  notices_->setTextFormat(Qt::PlainText);
-  notices_->setWordWrap(true);
+  notices_ = sentences(this);
   auto* line = row();
   line->addWidget(label);
   line->addWidget(filter_);
@@ -195,7 +193,6 @@ void MyPlaysView::showNotices(const std::vector<std::string>& notices) {
   QStringList lines;
   for (const std::string& notice : notices) lines += toQString(notice);
   notices_->setText(lines.join(u'\n'));
-  notices_->setVisible(!lines.isEmpty());
 }
 
 void MyPlaysView::showPlays() {

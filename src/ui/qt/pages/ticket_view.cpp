@@ -25,7 +25,7 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
       extra_(new QLineEdit(this)),
       date_(new QDateEdit(QDate::currentDate(), this)),
       extraLabel_(new QLabel(this)),
-      verdict_(new QLabel(this)),
+      verdict_(sentences(this)),
       keep_(new QPushButton(u"K&eep It"_s, this)) {
   auto* column = columnIn(this, theme::pageMargin);
   column->addWidget(heading(this, u"A ticket is judged by the draw of its date, and not kept."_s));
@@ -49,8 +49,6 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
   line->addWidget(keep_);
   line->addStretch();
   column->addLayout(line);
-  verdict_->setTextFormat(Qt::PlainText);
-  verdict_->setWordWrap(true);
   verdict_->setFont(theme::headingFont(verdict_->font()));
   column->addWidget(verdict_);
   column->addStretch();

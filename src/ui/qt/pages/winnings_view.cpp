@@ -139,9 +139,8 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   auto* verdictLabel = heading(page, u"&Verdict"_s);
   verdictLabel->setBuddy(verdict);
   verdict->setAccessibleName(u"Verdict"_s);
-  explained_ = new QLabel(u"What each play's own draw says is shown here after a check."_s, page);
-  explained_->setTextFormat(Qt::PlainText);
-  explained_->setWordWrap(true);
+  explained_ = sentences(page);
+  explained_->setText(u"What each play's own draw says is shown here after a check."_s);
   auto* lists = splitter(Qt::Horizontal, u"check"_s);
   showWinningLines(*titledList(*lists, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
   showWinningLines(*titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding));
@@ -168,17 +167,17 @@ void WinningsView::explainCheck(MainForm& form) {
 }
 
 void WinningsView::showExplanation(const MainForm& form) {
-  QStringList sentences;
+  QStringList lines;
   try {
     const GameInfo& game = actions_.game();
     for (const std::string& sentence :
          checkExplained(form.winnings, game, judgePlays(game, actions_.folder()))) {
-      sentences += toQString(sentence);
+      lines += toQString(sentence);
     }
   } catch (const RuntimeError& error) {
-    sentences += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
+    lines += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
   }
-  explained_->setText(sentences.join(u'\n'));
+  explained_->setText(lines.join(u'\n'));
   QAccessibleEvent alert(explained_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }

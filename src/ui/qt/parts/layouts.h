@@ -30,6 +30,18 @@ inline QLabel* heading(QWidget* parent, const QString& text = {}) {
   return label;
 }
 
+/// Sentences under each other, which wrap where they are long. The label's height does not follow from its
+/// width: where it does on one page, each page gets the height that it would like to have, and scrolls.
+inline QLabel* sentences(QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  QSizePolicy policy = label->sizePolicy();
+  policy.setHeightForWidth(false);
+  label->setSizePolicy(policy);
+  return label;
+}
+
 inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {
   auto* made = new QSplitter(orientation);
   made->setChildrenCollapsible(false);

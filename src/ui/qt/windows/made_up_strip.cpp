@@ -20,7 +20,10 @@ MadeUpStrip::MadeUpStrip(FormWindow& window) : window_(window) {
       u"<b>Sample draws.</b> These draws were made up and never took place; an update brings the real ones into this folder."_s);
   text->setForegroundRole(QPalette::ToolTipText);
   text->setWordWrap(true);
-  auto* start = new QPushButton(u"Start a R&eal Record Book…"_s);
+  QSizePolicy policy = text->sizePolicy();
+  policy.setHeightForWidth(false);
+  text->setSizePolicy(policy);
+  auto* start = new QPushButton(u"Start a Real Record Book…"_s);
   start->setToolTip(u"Makes a record book with the real draws in a folder of your own"_s);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(theme::gap, theme::halfGap, theme::halfGap, theme::halfGap);
