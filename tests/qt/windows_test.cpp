@@ -13,6 +13,7 @@
 #include "update/ftp_servers.h"
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QDateEdit>
 #include <QFileDialog>
 #include <QLabel>
@@ -46,9 +47,17 @@ TEST_F(Windows, ShowABoxAsItIsAndGiveItsAnswerBack) {
 
 TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {
   open("Form1");
-  answerNextBox(QMessageBox::Ok);
+  answerNextBox([this](const QMessageBox& box) {
+    helpPage = box.informativeText();
+    for (QAbstractButton* button : box.buttons()) {
+      if (box.standardButton(button) == QMessageBox::NoButton) button->click();
+    }
+    return box.button(QMessageBox::Ok);
+  });
   platform.run([] { throw RuntimeError(ErrorNumber::fileNotFound, "somewhere"); });
   EXPECT_EQ(boxText, QStringLiteral("Run-time error '53':\n\nFile not found"));
+  EXPECT_TRUE(helpPage.startsWith(QStringLiteral("Where: somewhere\n\nNothing is half changed")));
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), boxText + QStringLiteral("\n\n") + helpPage);
   EXPECT_TRUE(platform.ended());
   EXPECT_EQ(platform.exitCode(), 1);
 }

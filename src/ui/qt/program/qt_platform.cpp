@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/qt_platform.h"
 
+#include "app/error_explained.h"
 #include "app/started_program.h"
 #include "core/file_names.h"
 #include "core/os.h"
@@ -8,6 +9,7 @@
 #include "ui/qt/windows/transfer_panel.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QPushButton>
@@ -235,8 +237,32 @@ void QtPlatform::end(int exitCode) {
 
 void QtPlatform::endWithError(const RuntimeError& error) {
   std::cerr << "tallywick: " << error.what() << std::endl;
-  tell(error.boxText());
+  try {
+    showError(error);
+  } catch (...) {
+    // What stopped the action may stop the box too; standard error has it.
+  }
   end(1);
+}
+
+void QtPlatform::showError(const RuntimeError& error) {
+  showChanges();
+  if (TransferPanel* panel = transferPanel()) panel->end();
+  if (alone_) return;
+  const QString text = toQString(error.boxText());
+  const QString explained = toQString(errorExplained(error));
+  QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(explained);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  QPushButton* copy = box.addButton(u"&Copy Text"_s, QMessageBox::ActionRole);
+  // The box stays open after a copy.
+  copy->disconnect();
+  QObject::connect(copy, &QPushButton::clicked, &box, [text, explained] {
+    QGuiApplication::clipboard()->setText(text + u"\n\n"_s + explained);
+  });
+  box.exec();
 }
 
 /// Shows a message as far as that is still possible: what stopped an action may stop the box too.

@@ -70,6 +70,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   /// Takes the panel off the screen and closes the windows that were to be closed meanwhile.
   void endTransfer();
   void end(int exitCode);
+  /// The box of a runtime error, with what is to be said below its text.
+  void showError(const RuntimeError& error);
   void tell(const std::string& text);
 
   const DataFolder& folder_;

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a window says below the fixed text of a runtime error.
+#pragma once
+
+#include <string>
+
+namespace tallywick {
+
+class RuntimeError;
+
+/// Three paragraphs, an empty line between: which file and record, what changed and what did not, what to do.
+std::string errorExplained(const RuntimeError& error);
+
+}  // namespace tallywick
