@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -56,7 +57,18 @@ class Keyboard : public Desktop {
 };
 
 TEST_F(Keyboard, MnemonicsAreUniqueOnEveryPage) {
+  platform.onAskIfSet = [](const Control& control) { return control.name() != "mnuGameInfo"; };
   FormWindow& main = open("Form1");
+  EXPECT_FALSE(main.findChild<QAction*>(QStringLiteral("mnuGameInfo"))->isEnabled());
+  EXPECT_TRUE(main.findChild<QAction*>(QStringLiteral("mnuQZRHelp"))->isEnabled());
+  for (const QMenu* menu : main.menuBar()->findChildren<QMenu*>()) {
+    std::map<QString, int> keys;
+    for (const QAction* entry : menu->actions()) {
+      if (!entry->isSeparator()) ++keys[QKeySequence::mnemonic(entry->text()).toString()];
+    }
+    for (const auto& [key, count] : keys)
+      EXPECT_TRUE(count == 1 && !key.isEmpty()) << menu->title().toStdString() << key.toStdString();
+  }
   auto* pages = main.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
   for (int page = 0; page < pages->count(); ++page) {
     pages->setCurrentIndex(page);

@@ -54,7 +54,7 @@ class Binding : public QObject {
   void bind(ProgressBar& bar, QProgressBar& widget);
   /// The panels' labels, in their order; the first one bears the name.
   void bind(StatusBar& status, const std::vector<QLabel*>& panels);
-  void bind(MenuEntry& entry, QAction& widget);
+  void bind(MenuEntry& entry, QAction& widget, const Wording& wording);
   void bind(OptionButton& option, QRadioButton& widget, const Wording& wording = literally());
 
   /// A change of this control is read out by screen readers.

@@ -195,10 +195,10 @@ void Binding::bind(StatusBar& status, const std::vector<QLabel*>& panels) {
   });
 }
 
-void Binding::bind(MenuEntry& entry, QAction& widget) {
+void Binding::bind(MenuEntry& entry, QAction& widget, const Wording& wording) {
   connect(&widget, &QAction::triggered, this, [this, &entry] { press(entry); });
-  enter(entry, widget, [&entry, &widget] {
-    if (!entry.isSeparator()) widget.setText(toQString(entry.caption()));
+  enter(entry, widget, [&entry, &widget, wording] {
+    if (!entry.isSeparator()) widget.setText(wording(entry.caption()));
     widget.setEnabled(entry.enabled());
   });
 }

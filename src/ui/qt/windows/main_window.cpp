@@ -15,10 +15,12 @@
 #include "ui/qt/windows/navigation_bar.h"
 #include "ui/qt/windows/selection_window.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <array>
@@ -46,10 +48,12 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   addPages();
   addMenusAndStatus();
   addKeys();
+  greyUnset();
   binding().afterChanges = [this] {
     bar_->showGame();
     madeUp_->showGame();
     searches_->showHints();
+    greyUnset();
     winnings_->showChanges();
   };
   binding().onPress = [this, press = binding().onPress](Control& control) {
@@ -132,9 +136,66 @@ void MainWindow::addDrawsEntry() {
 
 void MainWindow::addKeys() {
   answerHelpKey();
-  auto* print = new QShortcut(QKeySequence::Print, this);
-  connect(print, &QShortcut::activated, this,
+  addFileEntries();
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    auto* list = qobject_cast<LineList*>(now);
+    if (list != nullptr && pages_->isAncestorOf(list)) lastList_ = list;
+  });
+}
+
+void MainWindow::addFileEntries() {
+  auto* exit = findChild<QAction*>(toQString(main_.menu.mnuExit.name()));
+  auto* file = findChild<QAction*>(toQString(main_.menu.mnuFile.name()))->menu();
+  auto* draws = new QAction(u"&Draws Page"_s, this);
+  connect(draws, &QAction::triggered, this, [this] { pages_->setCurrentIndex(pages_->count() - 1); });
+  auto* print = new QAction(u"Pr&int Summary…"_s, this);
+  print->setShortcut(QKeySequence::Print);
+  connect(print, &QAction::triggered, this,
           [this] { desk().runner.attempt([this] { printSummary(main_, *this); }); });
+  // The list's own action and the settings' button have the shortcuts.
+  auto* save = listEntry(u"Sa&ve List…\tCtrl+S"_s, u"&Save…"_s);
+  auto* printList = listEntry(u"Print &List…\tCtrl+Shift+P"_s, u"&Print…"_s);
+  auto* settings = new QAction(u"S&ettings…\tCtrl+,"_s, this);
+  connect(settings, &QAction::triggered, this, [this] {
+    desk().runner.attempt([this] { desk().editSettings(); });
+    binding().showChanges();
+  });
+  file->insertActions(exit, {draws});
+  file->insertSeparator(exit);
+  file->insertActions(exit, {print, printList, save});
+  file->insertSeparator(exit);
+  file->insertActions(exit, {settings});
+  file->insertSeparator(exit);
+}
+
+QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {
+  auto* entry = new QAction(text, this);
+  entry->setToolTip(u"The list in use, else the first one of the page"_s);
+  connect(entry, &QAction::triggered, this, [this, actionText] {
+    const LineList* list = listInUse();
+    if (list == nullptr) return;
+    for (QAction* action : list->actions()) {
+      if (action->text() == actionText) action->trigger();
+    }
+  });
+  const QMenu* file = findChild<QAction*>(toQString(main_.menu.mnuFile.name()))->menu();
+  connect(file, &QMenu::aboutToShow, entry, [this, entry] { entry->setEnabled(listInUse() != nullptr); });
+  return entry;
+}
+
+LineList* MainWindow::listInUse() const {
+  if (lastList_ && lastList_->isVisible()) return lastList_;
+  for (auto* list : pages_->currentWidget()->findChildren<LineList*>()) {
+    if (list->isVisible() && qobject_cast<QComboBox*>(list->parentWidget()) == nullptr) return list;
+  }
+  return nullptr;
+}
+
+void MainWindow::greyUnset() {
+  for (const MenuEntry* entry : {&main_.menu.mnuQZRHelp, &main_.menu.mnuGameInfo}) {
+    const bool set = !desk().isSet || desk().isSet(*entry);
+    findChild<QAction*>(toQString(entry->name()))->setEnabled(entry->enabled() && set);
+  }
 }
 
 QString MainWindow::helpPage() const {

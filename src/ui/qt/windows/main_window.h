@@ -2,8 +2,12 @@
 // The main window: the bar, the four pages, the menus and the status bar.
 #pragma once
 
+#include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/form_window.h"
 
+#include <QPointer>
+
+class QAction;
 class QTabWidget;
 
 namespace tallywick {
@@ -29,6 +33,14 @@ class MainWindow : public FormWindow {
   void addMenusAndStatus();
   void addDrawsEntry();
   void addKeys();
+  /// The window's own entries of the menu File, over Exit.
+  void addFileEntries();
+  /// An entry that does to the list in use what the list's own action of that text does.
+  QAction* listEntry(const QString& text, const QString& actionText);
+  /// The list that was in front last, else the first one of the page.
+  LineList* listInUse() const;
+  /// Greys what the settings have no address for.
+  void greyUnset();
   QWidget* gameShown();
   /// Whether a press takes no selected plays away, or the user wants it.
   bool mayPress(const Control& control);
@@ -37,6 +49,7 @@ class MainWindow : public FormWindow {
   NavigationBarView* bar_;
   MadeUpStrip* madeUp_;
   QTabWidget* pages_;
+  QPointer<LineList> lastList_;
   SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
 };

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
+#include <iterator>
 #include <unordered_map>
 
 namespace tallywick {
@@ -18,6 +20,27 @@ std::vector<MenuEntry*> entriesOf(const Form& form) {
     if (control->type() == ControlType::menu) entries.push_back(static_cast<MenuEntry*>(control));
   }
   return entries;
+}
+
+struct Key {
+  std::string_view entry;
+  char mnemonic;
+};
+
+/// Different ones within a menu; the menus of the bar have theirs in their captions.
+constexpr Key keys[] = {
+    {"mnuPowerBall", 'P'},  {"mnuMegaMillions", 'M'}, {"munSearches", 'S'},      {"mnuWinnings", 'W'},
+    {"mnuExit", 'X'},       {"mnuUpdate", 'U'},       {"mnuPowerBall2", 'P'},    {"mnuMegaMillions2", 'M'},
+    {"mnuSelections", 'S'}, {"mnuPowerBall3", 'P'},   {"mnuMegaMillions3", 'M'}, {"mnuHelp", 'H'},
+    {"mnuQZRHelp", 'O'},    {"mnuGameInfo", 'G'},     {"mnuAbout", 'A'},
+};
+
+/// How the entry is worded: its own mnemonic, or that of the table.
+Wording wordingOf(const MenuEntry& entry) {
+  const auto* const key =
+      std::ranges::find_if(keys, [&](const Key& each) { return each.entry == entry.name(); });
+  return key == std::end(keys) ? Wording([](std::string_view caption) { return toQString(caption); })
+                               : withMnemonic(key->mnemonic);
 }
 
 QMenu* newMenu(QMenuBar& bar, QMenu* parent) {
@@ -42,11 +65,12 @@ void fillMenuBar(QMenuBar& bar, Form& form, Binding& binding) {
     QMenu* parent = entry->parent() != nullptr ? menus.at(entry->parent()) : nullptr;
     if (parent == nullptr || opensList(entry)) {
       QMenu* menu = menus.emplace(entry, newMenu(bar, parent)).first->second;
-      binding.bind(*entry, *menu->menuAction());
+      binding.bind(*entry, *menu->menuAction(), wordingOf(*entry));
     } else {
       QAction* action = entry->isSeparator() ? parent->addSeparator() : parent->addAction(QString());
       action->setMenuRole(QAction::NoRole);
-      binding.bind(*entry, *action);
+      if (entry->name() == "mnuExit") action->setShortcut(QKeySequence::Quit);
+      binding.bind(*entry, *action, wordingOf(*entry));
     }
   }
 }
