@@ -79,6 +79,12 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
   const Counts counts = countsOf(listed, judgement);
   const bool isByDate = page.Option2.value();
   std::vector<std::string> sentences = {judgedSentence(game, counts)};
+  if (!page.Option1.value() && !isByDate) {
+    sentences.insert(sentences.begin(),
+                     join("Nothing was checked: choose ", page.Option1.caption(), " or ",
+                          page.Option2.caption(), ", then press ", page.Command47.caption(), "."));
+    return sentences;
+  }
   const auto say = [&](std::string_view what, std::size_t count, std::string_view why) {
     if (count > 0) sentences.push_back(join(what, ": ", plays(count), ". ", why));
   };

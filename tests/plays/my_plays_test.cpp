@@ -169,6 +169,8 @@ TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
 TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   Form form("Form1");
   WinningsPage page(form);
+  EXPECT_EQ(checkExplained(page, powerBall, judgement()).front(),
+            "Nothing was checked: choose Latest draw or Draw of each play's date, then press Check Tickets.");
   const auto explained = [&](OptionButton& option) {
     page.Option1.setValue(&option == &page.Option1);
     page.Option2.setValue(&option == &page.Option2);
