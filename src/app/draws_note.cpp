@@ -48,6 +48,33 @@ std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Cloc
   return join(weekdayOf(next), "'s draw", date, " is not published yet");
 }
 
+std::string doublePlayNote(const DataFolder& folder) {
+  std::size_t records = 0;
+  std::size_t known = 0;
+  std::string newest;
+  std::string oldest;
+  try {
+    SequentialReader reader(folder, inFolder(powerBall, doublePlayFile));
+    forEachRecord<doublePlayFields>(reader, [&](const Fields<doublePlayFields>& record) {
+      ++records;
+      const Draw draw = doublePlayDrawOf(record);
+      if (trimmed(draw.white.front()).empty()) return;
+      ++known;
+      oldest = draw.displayDate();
+      if (newest.empty()) newest = oldest;
+    });
+  } catch (const std::exception&) {
+    return "";  // What is wrong with the file is reported where it is read for its draws.
+  }
+  if (known == records) return "";
+  if (known == 0) {
+    return "Double Play: no numbers are known for these draws yet, so their balls, bars and lines are blank.";
+  }
+  return join("Double Play: numbers are known for ", std::to_string(known), " of ", std::to_string(records),
+              " draws, ", known == 1 ? "that of " : "from " + oldest + " to ", newest,
+              "; the balls, bars and lines of the others are blank.");
+}
+
 std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history) {
   constexpr std::size_t mostNamed = 10;
   if (!history.first || !history.newest) return join("There are no draws of ", game.name, " yet.");

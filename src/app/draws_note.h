@@ -20,6 +20,10 @@ std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder)
 /// A sentence for the player: which draw is not published yet, or when the next one takes place.
 std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock);
 
+/// For which draws there are Double Play numbers; empty where every Double Play record has them, or none is
+/// there.
+std::string doublePlayNote(const DataFolder& folder);
+
 /// How many draws there are, from when to when, and which scheduled ones are missing; a line each.
 std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history);
 

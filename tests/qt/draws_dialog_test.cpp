@@ -88,5 +88,19 @@ TEST_F(Draws, AreTypedInAmendedAndRemoved) {
   EXPECT_FALSE(part<QPushButton>(*dialog, "removeDraw").isEnabled());
 }
 
+TEST_F(Draws, OfDoublePlayHaveASentenceWhereNumbersAreMissing) {
+  const std::string blank = "11,18,2026,05,14,23,41,60,07,2,DP,,,,,,,1";
+  const std::string known = "11,16,2026,05,14,23,41,60,07,2,DP,11,12,13,14,15,16,1";
+  const auto note = [this](std::initializer_list<std::string> draws) {
+    std::string text;
+    for (const std::string& draw : draws) text += records({draw});
+    scratch.write("QzrNumbers/QZR6PWR/QZRNUM72.Dat", text);
+    return doublePlayNote(scratch.folder());
+  };
+  EXPECT_EQ(note({known, known}), "");
+  EXPECT_NE(note({blank}).find("no numbers are known"), std::string::npos);
+  EXPECT_NE(note({blank, known}).find("for 1 of 2 draws, that of 11-16-2026;"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tallywick::test

@@ -2,6 +2,7 @@
 #include "ui/qt/program/program.h"
 
 #include "app/application.h"
+#include "app/draws_note.h"
 #include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/dialogs/real_book.h"
@@ -87,6 +88,7 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
   };
   platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
   platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
+  platform.onDoublePlayNote = [&application] { return doublePlayNote(application.surroundings().folder); };
   platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };
   platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
   platform.onStartRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };

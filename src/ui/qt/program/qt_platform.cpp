@@ -168,7 +168,8 @@ void QtPlatform::openWindow(Form& form) {
                      onAskIfSet,
                      onShowsMadeUpDraws,
                      onStartRealBook,
-                     onEditDraws};
+                     onEditDraws,
+                     onDoublePlayNote};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);
   window->move(centred(*window));

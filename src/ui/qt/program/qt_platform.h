@@ -35,6 +35,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<bool()> onShowsMadeUpDraws;
   std::function<void()> onStartRealBook;
   std::function<void()> onEditDraws;
+  std::function<std::string()> onDoublePlayNote;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

@@ -42,6 +42,8 @@ struct Desk {
   std::function<void()> startRealBook = {};
   /// Shows the draws of both games and lets the user bring more.
   std::function<void()> editDraws = {};
+  /// For which draws there are Double Play numbers; empty where for all.
+  std::function<std::string()> doublePlayNote = {};
 };
 
 class TransferPanel;

@@ -44,6 +44,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       main_(form),
       bar_(new NavigationBarView(form, *this)),
       madeUp_(new MadeUpStrip(*this)),
+      doublePlayNote_(new QLabel),
       pages_(new QTabWidget) {
   addPages();
   addMenusAndStatus();
@@ -52,6 +53,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   binding().afterChanges = [this] {
     bar_->showGame();
     madeUp_->showGame();
+    showDoublePlayNote();
     searches_->showHints();
     greyUnset();
     winnings_->showChanges();
@@ -77,10 +79,14 @@ void MainWindow::addPages() {
   pages_->setCornerWidget(gameShown());
   binding().bind(main_.bar.SSTab1, *pages_);
 
+  doublePlayNote_->setTextFormat(Qt::PlainText);
+  doublePlayNote_->setWordWrap(true);
+  doublePlayNote_->hide();
   auto* content = new QWidget;
   auto* column = columnIn(content, theme::gap);
   column->addWidget(madeUp_);
   column->addWidget(bar_);
+  column->addWidget(doublePlayNote_);
   column->addWidget(pages_, 1);
   // On a screen too small for the pages they scroll.
   auto* scroller = new QScrollArea;
@@ -119,6 +125,17 @@ void MainWindow::addMenusAndStatus() {
     panels.push_back(panel);
   }
   binding().bind(main_.update.StatusBar1, panels);
+}
+
+/// Double Play is what its display shows, and a part of the searches and of the page of draws.
+void MainWindow::showDoublePlayNote() {
+  constexpr int searches = 1;
+  constexpr int draws = 3;
+  const int page = main_.bar.SSTab1.tab();
+  const bool isShown = main_.frames.Frame6.visible() || page == searches || page == draws;
+  const QString note = isShown && desk().doublePlayNote ? toQString(desk().doublePlayNote()) : QString();
+  doublePlayNote_->setText(note);
+  doublePlayNote_->setVisible(!note.isEmpty());
 }
 
 void MainWindow::addDrawsEntry() {

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 class QAction;
+class QLabel;
 class QTabWidget;
 
 namespace tallywick {
@@ -32,6 +33,7 @@ class MainWindow : public FormWindow {
   void addPages();
   void addMenusAndStatus();
   void addDrawsEntry();
+  void showDoublePlayNote();
   void addKeys();
   /// The window's own entries of the menu File, over Exit.
   void addFileEntries();
@@ -48,6 +50,7 @@ class MainWindow : public FormWindow {
   MainForm& main_;
   NavigationBarView* bar_;
   MadeUpStrip* madeUp_;
+  QLabel* doublePlayNote_;
   QTabWidget* pages_;
   QPointer<LineList> lastList_;
   SearchView* searches_ = nullptr;
