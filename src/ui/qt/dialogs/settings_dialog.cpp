@@ -20,7 +20,7 @@ namespace {
 const QString exportExplanation =
     u"The web address of the game's public export; empty for that of the state of New York's open data."_s;
 
-const QString priceExplanation = u"In dollars, for the sums of My Plays; empty for none."_s;
+const QString priceExplanation = u"What a play costs in dollars, for the sums of My Plays; empty for none."_s;
 
 /// A field with its explanation close below it.
 void addField(QFormLayout& form, const QString& label, QWidget& field, const QString& explanation) {
@@ -65,9 +65,9 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
                      u"The page about the games that the Help menu opens."_s);
   webHelp_ = addText(*form, u"Web &help:"_s, settings.webHelp, u"The help page that the Help menu opens."_s);
   powerBallPrice_ =
-      addText(*form, u"P&rice of a PowerBall play:"_s, priceText(settings.powerBallPrice), priceExplanation);
-  megaMillionsPrice_ = addText(*form, u"Price of a Mega Millions p&lay:"_s,
-                               priceText(settings.megaMillionsPrice), priceExplanation);
+      addText(*form, u"PowerBall p&rice:"_s, priceText(settings.powerBallPrice), priceExplanation);
+  megaMillionsPrice_ =
+      addText(*form, u"Mega Mi&llions price:"_s, priceText(settings.megaMillionsPrice), priceExplanation);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -75,7 +75,8 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   column->addLayout(form);
   column->addStretch();
   column->addWidget(buttons);
-  resize(72 * theme::gap, sizeHint().height());
+  constexpr int width = 80 * theme::gap;
+  resize(width, column->hasHeightForWidth() ? column->heightForWidth(width) : sizeHint().height());
 }
 
 QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, const std::string& value,
