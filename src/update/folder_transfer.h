@@ -32,6 +32,8 @@ class FolderTransfer {
   void setSourceFolder(std::string_view folder) { sourceFolder_ = folder; }
   const std::string& TargetFolder() const { return targetFolder_; }
   void setTargetFolder(std::string_view folder) { targetFolder_ = folder; }
+  // Properties of the transfer classes that the program leaves as they are: so its progress window never
+  // opens.
   bool Passive() const { return passive_; }
   void setPassive(bool passive) { passive_ = passive; }
   bool ShowTransferWindow() const { return showTransferWindow_; }

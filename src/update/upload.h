@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Copies every file of a local folder into a server folder, and tests for and creates server folders.
+// Copies every file of a local folder into a server folder, and tests for and creates server folders. The
+// other half of the transfer classes: the program itself uploads nothing, and so this class alone calls the
+// component's upload().
 #pragma once
 
 #include "update/folder_transfer.h"
