@@ -210,7 +210,6 @@ Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vecto
   for (const DrawEntry& draw : draws) byDay.emplace(draw.day, &draw);
   Merge merge;
   merge.report.draws = draws.size();
-  merge.report.amounts = amounts.size();
 
   RecordList main(base.draws, drawFields);
   RecordList search(base.searchDraws, drawFields);

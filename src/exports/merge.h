@@ -17,9 +17,8 @@ namespace tallywick::exports {
 struct MergeReport {
   /// Whether a file changes.
   bool changesFiles = false;
-  /// How many draws and amounts were given to it.
+  /// How many draws were given to it.
   std::size_t draws = 0;
-  std::size_t amounts = 0;
   std::size_t newDraws = 0;
   /// Days whose draw had been there with other numbers or another multiplier, newest first.
   std::vector<Day> changedDraws;

@@ -52,8 +52,6 @@ const SelectionRules& selectionRulesOf(Game game);
 
 /// Numbers at which an extra mark is refused by name. Kept slip: these ten and no others.
 inline constexpr NumberRange refusedExtras = {43, 52};
-/// Where an extra mark is looked for to move its number to the play's last place.
-inline constexpr NumberRange extrasThatMove = {1, 52};
 /// Where an extra mark is looked for to make five marks a play: four main numbers and one extra.
 inline constexpr NumberRange extrasThatFillUp = {1, 55};
 

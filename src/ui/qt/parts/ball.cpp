@@ -148,11 +148,6 @@ void BallButton::setColor(Color color) {
   refresh();
 }
 
-void BallButton::setMark(BallMark mark) {
-  mark_ = mark;
-  refresh();
-}
-
 void BallButton::refresh() {
   tellAccessibly();
   update();

@@ -61,9 +61,6 @@ class BallButton : public QAbstractButton {
   void setCaption(const QString& number);
   /// Takes over the colour with the mark or the dots that it means; a system colour is an unmarked ball.
   void setColor(Color color);
-  /// Another mark than the colour's, for example for an extra ball in a colour of its own.
-  void setMark(BallMark mark);
-  Color color() const { return color_; }
   BallMark mark() const { return mark_; }
 
   QSize sizeHint() const override;
