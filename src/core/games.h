@@ -23,12 +23,30 @@ struct GameInfo {
   std::string_view baseAmount;
   /// The numbers of a play go from 01 to this one; more than the game has ever drawn.
   int lastNumber;
+  /// Where the update server keeps the game's files: as the update button spells it, and as the menus do. A
+  /// server takes both letter cases alike.
+  std::string_view serverFolder;
+  std::string_view serverFolderOfMenus;
 };
 
-inline constexpr GameInfo powerBall = {Game::powerBall, "PowerBall", "PWR", R"(QzrNumbers\QZR6PWR\)",
-                                       "QzrPwr.Win",    "40",        69};
-inline constexpr GameInfo megaMillions = {
-    Game::megaMillions, "Mega Millions", "MEG", R"(QzrNumbers\QZR6MEG\)", "QzrMeg.Win", "12", 79};
+inline constexpr GameInfo powerBall = {.game = Game::powerBall,
+                                       .name = "PowerBall",
+                                       .code = "PWR",
+                                       .folder = R"(QzrNumbers\QZR6PWR\)",
+                                       .winningsFile = "QzrPwr.Win",
+                                       .baseAmount = "40",
+                                       .lastNumber = 69,
+                                       .serverFolder = "/D:/QZR/Z1-Pwr/Qzr6",
+                                       .serverFolderOfMenus = "/D:/QZR/Z1-PWR/QZR6"};
+inline constexpr GameInfo megaMillions = {.game = Game::megaMillions,
+                                          .name = "Mega Millions",
+                                          .code = "MEG",
+                                          .folder = R"(QzrNumbers\QZR6MEG\)",
+                                          .winningsFile = "QzrMeg.Win",
+                                          .baseAmount = "12",
+                                          .lastNumber = 79,
+                                          .serverFolder = "/D:/QZR/Z2-Meg/Qzr6",
+                                          .serverFolderOfMenus = "/D:/QZR/Z2-MEG/QZR6"};
 
 constexpr const GameInfo& infoOf(Game game) {
   return game == Game::powerBall ? powerBall : megaMillions;

@@ -12,7 +12,6 @@
 #include "core/winnings.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <ostream>
 #include <stdexcept>
@@ -27,25 +26,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Where the server keeps a game, below the drive's folder "QZR". The program spells both parts in two ways,
-/// the first with its update button, the second from its menus.
-struct ServerFolder {
-  const GameInfo& game;
-  std::array<std::string_view, 2> outer;
-  std::array<std::string_view, 2> inner;
-};
-
-constexpr std::array<std::string_view, 2> innerNames = {"Qzr6", "QZR6"};
-constexpr std::array serverFolders = {ServerFolder{powerBall, {"Z1-Pwr", "Z1-PWR"}, innerNames},
-                                      ServerFolder{megaMillions, {"Z2-Meg", "Z2-MEG"}, innerNames}};
-
 struct PublishedFile {
   std::string name;
   std::string bytes;
 };
 
 struct PublishedGame {
-  const ServerFolder& place;
+  const GameInfo& game;
   std::vector<PublishedFile> files;
   std::string newestDraw;
 };
@@ -84,10 +71,9 @@ std::optional<os::FileLock> lockSource(const fs::path& folder) {
   }
 }
 
-PublishedGame readGame(const DataFolder& folder, const ServerFolder& place) {
-  const GameInfo& game = place.game;
+PublishedGame readGame(const DataFolder& folder, const GameInfo& game) {
   const std::optional<os::FileLock> lock = lockSource(folder.resolve(game.folder));
-  PublishedGame published{place, {}, {}};
+  PublishedGame published{game, {}, {}};
   published.files.push_back(readPublished<winningsFields>(folder, game, game.winningsFile));
   published.files.push_back(readPublished<drawFields>(folder, game, searchDrawsFile));
   if (game.game == Game::powerBall) {
@@ -108,7 +94,7 @@ fs::path driveFolder(const fs::path& tree) {
 
 /// Makes `folder / spelling` the same folder as `made`: it is already where the letter case counts for
 /// nothing, else by a link that stays within the tree, else by a second folder.
-fs::path spelledAlso(const fs::path& made, std::string_view spelling) {
+fs::path spelledAlso(const fs::path& made, const fs::path& spelling) {
   fs::path other = made.parent_path() / spelling;
   std::error_code noLinks;
   if (!fs::exists(other)) fs::create_directory_symlink(made.filename(), other, noLinks);
@@ -116,20 +102,23 @@ fs::path spelledAlso(const fs::path& made, std::string_view spelling) {
   return other;
 }
 
-/// All the folders in which a game is looked for: one, or several where there are no links.
-std::vector<fs::path> foldersOf(const fs::path& tree, const ServerFolder& place) {
+/// All the folders in which a game is looked for, with both spellings of the last two parts of its path: one,
+/// or several where there are no links.
+std::vector<fs::path> foldersOf(const fs::path& tree, const GameInfo& game) {
   std::vector<fs::path> folders;
   const auto add = [&](const fs::path& folder) {
     const auto isSame = [&](const fs::path& known) { return fs::equivalent(known, folder); };
     if (std::ranges::none_of(folders, isSame)) folders.push_back(folder);
   };
-  const fs::path outer = driveFolder(tree) / "QZR" / place.outer[0];
+  const fs::path first = game.serverFolder;
+  const fs::path second = game.serverFolderOfMenus;
+  const fs::path outer = driveFolder(tree) / "QZR" / first.parent_path().filename();
   fs::create_directories(outer);
-  for (const fs::path& spelled : {outer, spelledAlso(outer, place.outer[1])}) {
-    const fs::path inner = spelled / place.inner[0];
+  for (const fs::path& spelled : {outer, spelledAlso(outer, second.parent_path().filename())}) {
+    const fs::path inner = spelled / first.filename();
     fs::create_directories(inner);
     add(inner);
-    add(spelledAlso(inner, place.inner[1]));
+    add(spelledAlso(inner, second.filename()));
   }
   return folders;
 }
@@ -165,19 +154,19 @@ void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files
 void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
   const DataFolder folder(from);
   std::vector<PublishedGame> games;
-  for (const ServerFolder& place : serverFolders) games.push_back(readGame(folder, place));
+  for (const GameInfo* game : {&powerBall, &megaMillions}) games.push_back(readGame(folder, *game));
   fs::create_directories(tree);
   const os::FileLock lock(tree / lockName, os::FileLock::Wait::yes);
   std::vector<std::vector<fs::path>> targets;
   for (const PublishedGame& game : games) {
-    targets.push_back(foldersOf(tree, game.place));
+    targets.push_back(foldersOf(tree, game.game));
     for (const fs::path& target : targets.back()) requireReplaceable(target, game.files);
   }
   for (std::size_t i = 0; i < games.size(); ++i) {
     const PublishedGame& game = games[i];
     for (const fs::path& target : targets[i]) publishInto(target, game.files);
-    out << game.place.game.name << ": " << game.files.size() << " files, newest draw " << game.newestDraw
-        << ", in " << targets[i].front().string() << "\n";
+    out << game.game.name << ": " << game.files.size() << " files, newest draw " << game.newestDraw << ", in "
+        << targets[i].front().string() << "\n";
   }
 }
 

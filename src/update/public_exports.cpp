@@ -13,7 +13,6 @@
 #include "update/transfer_errors.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <optional>
 #include <stdexcept>
@@ -26,12 +25,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Game>, 2> serverFolders = {
-    {{"/D:/QZR/Z1-Pwr/Qzr6/", Game::powerBall}, {"/D:/QZR/Z2-Meg/Qzr6/", Game::megaMillions}}};
-
 std::optional<Game> gameOf(std::string_view serverFolder) {
-  for (const auto& [folder, game] : serverFolders) {
-    if (equalIgnoringCase(folder, closedWith('/', serverFolder))) return game;
+  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    if (equalIgnoringCase(closedWith('/', game->serverFolder), closedWith('/', serverFolder)))
+      return game->game;
   }
   return std::nullopt;
 }

@@ -17,17 +17,6 @@ namespace tallywick {
 
 namespace {
 
-/// What differs between the two games. The server's folders are written in two letter cases, which the server
-/// takes alike.
-struct GameUpdate {
-  const GameInfo& game;
-  std::string_view folderForButton;
-  std::string_view folderForMenu;
-};
-
-constexpr GameUpdate powerBallUpdate = {powerBall, "/D:/QZR/Z1-Pwr/Qzr6", "/D:/QZR/Z1-PWR/QZR6"};
-constexpr GameUpdate megaMillionsUpdate = {megaMillions, "/D:/QZR/Z2-Meg/Qzr6", "/D:/QZR/Z2-MEG/QZR6"};
-
 constexpr std::string_view lastClosedTime = "07:00:00";
 
 void tell(MessageBoxes& boxes, std::string_view text, MessageBox::Icon icon = MessageBox::Icon::none) {
@@ -109,17 +98,17 @@ void untilCancelled(UpdateSurroundings& update, const DisabledEntries& entries, 
   }
 }
 
-void updateOneGame(UpdateSurroundings& update, const GameUpdate& one, MenuEntry& entry) {
+void updateOneGame(UpdateSurroundings& update, const GameInfo& game, MenuEntry& entry) {
   UpdatePage& page = update.page;
-  tell(update.boxes, join("Updating The Tallywick Software ", one.game.name, " game"));
+  tell(update.boxes, join("Updating The Tallywick Software ", game.name, " game"));
   page.ProgressBar1.setValue(1);
   page.ProgressBar1.show();
   page.Command2.hide();
   const DisabledEntries disabled({&entry});
   update.screen.refresh();
-  untilCancelled(update, disabled, [&] { Fetcher(update).fetch(one.game, one.folderForMenu); });
+  untilCancelled(update, disabled, [&] { Fetcher(update).fetch(game, game.serverFolderOfMenus); });
   progressTo(update, 100);
-  maintainPlayFiles(one.game, update.folder, update.programs);
+  maintainPlayFiles(game, update.folder, update.programs);
   update.refreshPictures();
   page.ProgressBar1.hide();
   tellCompleted(update.boxes);
@@ -146,9 +135,9 @@ void Command2_Click(UpdateSurroundings& update) {
   update.screen.refresh();
   untilCancelled(update, disabled, [&] {
     Fetcher fetcher(update);
-    fetcher.fetch(powerBall, powerBallUpdate.folderForButton);
+    fetcher.fetch(powerBall, powerBall.serverFolder);
     progressTo(update, 50);
-    fetcher.fetch(megaMillions, megaMillionsUpdate.folderForButton);
+    fetcher.fetch(megaMillions, megaMillions.serverFolder);
   });
   progressTo(update, 100);
   Command1_Click(update.folder, update.programs);
@@ -159,11 +148,11 @@ void Command2_Click(UpdateSurroundings& update) {
 }
 
 void mnuPowerBall2_Click(UpdateSurroundings& update) {
-  updateOneGame(update, powerBallUpdate, update.mnuPowerBall2);
+  updateOneGame(update, powerBall, update.mnuPowerBall2);
 }
 
 void mnuMegaMillions2_Click(UpdateSurroundings& update) {
-  updateOneGame(update, megaMillionsUpdate, update.mnuMegaMillions2);
+  updateOneGame(update, megaMillions, update.mnuMegaMillions2);
 }
 
 }  // namespace tallywick
