@@ -15,6 +15,11 @@ inline constexpr std::size_t drawFields = 10;
 /// Date, main draw, two fields, the Double Play draw's six numbers, a field.
 inline constexpr std::size_t doublePlayFields = 18;
 
+/// How many draws the displays read without looking for the end of the file.
+inline constexpr std::size_t shownDraws = 15;
+/// How many draws the charts read in the same way.
+inline constexpr std::size_t chartedDraws = 100;
+
 /// One draw as views into its record. Numbers stay text and are compared as text.
 struct Draw {
   std::string_view month;

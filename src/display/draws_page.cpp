@@ -32,7 +32,6 @@ struct ChartSource {
 constexpr ChartSource powerBallChart = {"Tallywick Last 100 Draws", searchDrawsFile, nextDraw};
 constexpr ChartSource doublePlayChart = {"Tallywick Double Play Last 100 Draws", doublePlayFile,
                                          nextDoublePlay};
-constexpr std::size_t chartedDraws = 100;
 
 /// The bars' colours in the order of colors::recurring, strong enough for a page.
 constexpr std::array<Color, colors::recurring.size()> barColors = {

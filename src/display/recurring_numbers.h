@@ -11,9 +11,6 @@
 
 namespace tallywick {
 
-/// How many draws the summary looks back.
-inline constexpr std::size_t recentDraws = 15;
-
 /// A draw as the summary keeps it: its six numbers and the record's last field, which counts as a number too.
 struct KeptDraw {
   Draw draw;

@@ -86,7 +86,7 @@ void fillLastFifteen(SummaryPage& page, const DataFolder& folder, const GameInfo
   } catch (const RuntimeError&) {
     if (missing == MissingAmounts::raise) throw;
   }
-  for (std::size_t i = 0; i < recentDraws && !reader.atEnd(); ++i) {
+  for (std::size_t i = 0; i < shownDraws && !reader.atEnd(); ++i) {
     const Draw draw = drawOf(reader.record<drawFields>());
     const auto [amount, mark] = amounts.of(draw.dateKey());
     page.List1.add(join(" ", draw.line(), " ", mark, " ", amount));
@@ -125,7 +125,7 @@ void fillFrequentNumbers(SummaryPage& page, const DataFolder& folder, const Game
   SequentialReader reader(folder, inFolder(game, drawsFile));
   std::vector<KeptDraw> kept;
   try {
-    while (kept.size() < recentDraws) {
+    while (kept.size() < shownDraws) {
       const auto record = reader.record<drawFields>();
       kept.push_back({drawOf(record), record.back()});
     }
@@ -142,7 +142,7 @@ void showDoublePlay(SummaryPage& page, const DataFolder& folder) {
   page.List2.clear();
   SequentialReader reader(folder, inFolder(powerBall, doublePlayFile));
   std::vector<KeptDraw> kept;
-  while (kept.size() < recentDraws) {
+  while (kept.size() < shownDraws) {
     const auto record = reader.record<doublePlayFields>();
     kept.push_back({doublePlayDrawOf(record), record.back()});
     page.List2.add(join(" ", kept.back().draw.line()));

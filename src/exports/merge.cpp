@@ -17,8 +17,6 @@ namespace tallywick::exports {
 
 namespace {
 
-/// The charts read a hundred draws in the same way.
-constexpr std::size_t chartedDraws = 100;
 /// The fewest that the last draw, the displays and the charts need.
 constexpr std::size_t fewestDraws = 101;
 

@@ -36,9 +36,6 @@ struct Merge {
   MergeReport report;
 };
 
-/// The displays read so many draws without looking for the end of the file.
-inline constexpr std::size_t shownDraws = 15;
-
 /// Whether the draws and amounts of a folder are real.
 enum class Standing { real, madeUp };
 
