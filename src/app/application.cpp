@@ -55,8 +55,7 @@ void Application::recover() const {
 
 void Application::showRecoveryNotices() const {
   for (std::string& notice : takeRecoveryNotices()) {
-    surroundings_.platform.show(
-        {std::move(notice), std::string(programTitle), MessageBox::Icon::exclamation});
+    showMessage(surroundings_.platform, std::move(notice), MessageBox::Icon::exclamation);
   }
 }
 

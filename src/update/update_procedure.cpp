@@ -19,12 +19,8 @@ namespace {
 
 constexpr std::string_view lastClosedTime = "07:00:00";
 
-void tell(MessageBoxes& boxes, std::string_view text, MessageBox::Icon icon = MessageBox::Icon::none) {
-  boxes.show({std::string(text), std::string(programTitle), icon});
-}
-
-void tellCompleted(MessageBoxes& boxes) {
-  tell(boxes, "The updates for The Tallywick Software is completed", MessageBox::Icon::information);
+void showCompleted(MessageBoxes& boxes) {
+  showMessage(boxes, "The updates for The Tallywick Software is completed", MessageBox::Icon::information);
 }
 
 std::string firstField(const DataFolder& folder, std::string_view file) {
@@ -100,7 +96,7 @@ void untilCancelled(UpdateSurroundings& update, const DisabledEntries& entries, 
 
 void updateOneGame(UpdateSurroundings& update, const GameInfo& game, MenuEntry& entry) {
   UpdatePage& page = update.page;
-  tell(update.boxes, join("Updating The Tallywick Software ", game.name, " game"));
+  showMessage(update.boxes, join("Updating The Tallywick Software ", game.name, " game"));
   page.ProgressBar1.setValue(1);
   page.ProgressBar1.show();
   page.Command2.hide();
@@ -111,7 +107,7 @@ void updateOneGame(UpdateSurroundings& update, const GameInfo& game, MenuEntry& 
   maintainPlayFiles(game, update.folder, update.programs);
   update.refreshPictures();
   page.ProgressBar1.hide();
-  tellCompleted(update.boxes);
+  showCompleted(update.boxes);
 }
 
 }  // namespace
@@ -122,15 +118,16 @@ bool updatesAreClosed(const Clock& clock) {
 
 void Command2_Click(UpdateSurroundings& update) {
   if (updatesAreClosed(update.clock)) {
-    tell(update.boxes,
-         "The Tallywick Software servers are unavailable,\r\nPlease retry your request after 07:00 AM EST",
-         MessageBox::Icon::exclamation);
+    showMessage(
+        update.boxes,
+        "The Tallywick Software servers are unavailable,\r\nPlease retry your request after 07:00 AM EST",
+        MessageBox::Icon::exclamation);
     return;
   }
   UpdatePage& page = update.page;
   page.Command2.hide();
   const DisabledEntries disabled({&update.mnuPowerBall2, &update.mnuMegaMillions2});
-  tell(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
+  showMessage(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
   page.ProgressBar1.show();
   update.screen.refresh();
   untilCancelled(update, disabled, [&] {
@@ -143,7 +140,7 @@ void Command2_Click(UpdateSurroundings& update) {
   Command1_Click(update.folder, update.programs);
   Command51_Click(update.folder, update.programs);
   page.ProgressBar1.hide();
-  tellCompleted(update.boxes);
+  showCompleted(update.boxes);
   update.refreshPictures();
 }
 

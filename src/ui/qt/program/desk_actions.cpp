@@ -59,7 +59,7 @@ Settings settingsAtStart(const DataFolder& folder, QtPlatform& platform) {
     const std::string text =
         join(error.what(), "\n\nThe file is left as it is; correct it with a text editor.");
     std::cerr << "tallywick: " << error.what() << '\n';
-    platform.show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+    showMessage(platform, text, MessageBox::Icon::exclamation);
   }
   Settings none;
   none.source = Settings::Source::server;
@@ -78,7 +78,7 @@ void editSettings(Application& application, QtPlatform& platform) {
       application.setSettings(settings);
       return;
     } catch (const std::exception& error) {
-      platform.show({error.what(), std::string(programTitle), MessageBox::Icon::exclamation});
+      showMessage(platform, error.what(), MessageBox::Icon::exclamation);
     }
   }
 }

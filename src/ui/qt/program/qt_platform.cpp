@@ -269,7 +269,7 @@ void QtPlatform::showError(const RuntimeError& error) {
 /// Shows a message as far as that is still possible: what stopped an action may stop the box too.
 void QtPlatform::tell(const std::string& text) {
   try {
-    show({text, std::string(programTitle), MessageBox::Icon::exclamation});
+    showMessage(*this, text, MessageBox::Icon::exclamation);
   } catch (...) {
     std::cerr << "tallywick: " << text << std::endl;
   }
