@@ -2,6 +2,7 @@
 #include "app/data_folder_choice.h"
 
 #include "core/data_folder.h"
+#include "core/games.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
 
@@ -37,7 +38,7 @@ fs::path chooseDataFolder(const std::string& named) {
 
 bool isDataFolder(const fs::path& folder) {
   try {
-    return fs::is_directory(DataFolder(folder).resolve("QzrNumbers"));
+    return fs::is_directory(DataFolder(folder).resolve(numbersFolder));
   } catch (const std::exception&) {
     return false;  // A folder that cannot be looked into is no record book of this user's.
   }

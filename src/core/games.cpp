@@ -25,6 +25,10 @@ std::string savedTextsFileName(const GameInfo& game) {
   return numbered(game, '9', ".Sel");
 }
 
+std::string pictureFileName(bool isExtraBall, std::string_view number) {
+  return join(isExtraBall ? "%" : "#", number, ".bmp");
+}
+
 std::string playFilePath(const GameInfo& game, PlaySlot slot) {
   return inFolder(game, playFileName(game, slot));
 }

@@ -64,6 +64,8 @@ inline constexpr std::string_view sortToolFile = "QZRSRT3.EXE";
 inline constexpr std::string_view hoosierFolder = R"(QzrNumbers\Qzr6Ind\)";
 inline constexpr std::string_view hoosierPlayedFile = R"(QzrNumbers\Qzr6Ind\Qzr6Ind2.Ply)";
 
+/// The folder of a record book that has the folders of the games and the pictures.
+inline constexpr std::string_view numbersFolder = "QzrNumbers";
 inline constexpr std::string_view pictureFolder = R"(QzrNumbers\PlyNumbers\)";
 /// One record a day, with the day code of the draw days.
 inline constexpr std::string_view calendarFile = "QZRNUM22.DTE";
@@ -87,6 +89,9 @@ std::string playFileName(const GameInfo& game, PlaySlot slot);
 std::string saveFileName(const GameInfo& game, PlaySlot slot);
 /// The saved play texts: "QZR6PWR9.Sel".
 std::string savedTextsFileName(const GameInfo& game);
+
+/// The picture of a white ball or an extra ball with this number of two digits: "#07.bmp", "%07.bmp".
+std::string pictureFileName(bool isExtraBall, std::string_view number);
 
 /// A play file as the handlers write its path.
 std::string playFilePath(const GameInfo& game, PlaySlot slot);

@@ -89,8 +89,8 @@ bool hasPicture(std::string_view number) {
 }
 
 void showBall(Image& image, std::string_view number) {
-  const std::string_view kind = image.isExtraBall() ? "%" : "#";
-  image.load(hasPicture(number) ? join(pictureFolder, kind, number, ".bmp") : "", number);
+  image.load(hasPicture(number) ? join(pictureFolder, pictureFileName(image.isExtraBall(), number)) : "",
+             number);
 }
 
 /// Shows the first draw of a draw history.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup/ball_bitmap.h"
 
+#include "core/games.h"
 #include "core/text.h"
 #include "setup/digits.h"
 
@@ -94,7 +95,7 @@ std::string bitmapHeaders() {
 }  // namespace
 
 std::string ballPictureName(BallKind kind, int number) {
-  return join(kind == BallKind::white ? "#" : "%", twoDigits(number), ".bmp");
+  return pictureFileName(kind == BallKind::extra, twoDigits(number));
 }
 
 std::string ballPicture(BallKind kind, int number) {

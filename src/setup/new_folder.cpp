@@ -5,6 +5,8 @@
 #include "core/data_folder.h"
 #include "core/eras.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
+#include "core/games.h"
 #include "core/text.h"
 #include "exports/import_report.h"
 #include "exports/made_up.h"
@@ -25,9 +27,6 @@ namespace tallywick::setup {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Has a folder for each game and one for the pictures.
-constexpr std::string_view numbersFolder = "QzrNumbers";
 
 bool isThere(const fs::path& entry) {
   std::error_code ignored;
@@ -184,10 +183,9 @@ void makeBook(const fs::path& folder, const Settings& settings,
 }
 
 bool isRecordFile(std::string_view name, const GameInfo& game) {
-  const std::string small = lowered(name);
-  return small.ends_with(".ply") || small.ends_with(".sav") || small.ends_with(".sel") ||
-         equalIgnoringCase(name, game.winningsFile) || equalIgnoringCase(name, drawsFile) ||
-         equalIgnoringCase(name, searchDrawsFile) || equalIgnoringCase(name, doublePlayFile);
+  return isPlayFileName(name) || equalIgnoringCase(name, game.winningsFile) ||
+         equalIgnoringCase(name, drawsFile) || equalIgnoringCase(name, searchDrawsFile) ||
+         equalIgnoringCase(name, doublePlayFile);
 }
 
 }  // namespace

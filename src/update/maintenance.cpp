@@ -79,7 +79,7 @@ void maintainPlayFiles(const GameInfo& game, const DataFolder& folder, ProgramSt
   // The folder's lock is free again before the sort tool asks for it.
   moveDrawnPlays(game, folder);
   programs.start(
-      join(R"(C:\Program Files\TALLYWICK SOFTWARE\TALLYWICK\QZRNUMBERS\QZR6)", game.code, R"(\QZRSRT3.EXE)"),
+      join(R"(C:\Program Files\TALLYWICK SOFTWARE\TALLYWICK\QZRNUMBERS\QZR6)", game.code, "\\", sortToolFile),
       R"(C:\)");
 }
 

@@ -50,7 +50,7 @@ class Fetcher {
   void fetch(const GameInfo& game, std::string_view serverFolder) {
     download_.setServer(update_.serverOf(game.game));
     download_.setSourceFolder(serverFolder);
-    download_.setTargetFolder(join(installFolder, R"(\QzrNumbers\QZR6)", game.code));
+    download_.setTargetFolder(join(installFolder, "\\", game.folder.substr(0, game.folder.size() - 1)));
     download_.Start();
   }
 
