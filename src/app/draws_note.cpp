@@ -9,21 +9,10 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <string_view>
 
 namespace tallywick {
-
-namespace {
-
-std::string_view weekdayOf(Day day) {
-  constexpr std::array<std::string_view, 7> names = {"Monday", "Tuesday",  "Wednesday", "Thursday",
-                                                     "Friday", "Saturday", "Sunday"};
-  return names.at(static_cast<std::size_t>(day.weekday() - 1));
-}
-
-}  // namespace
 
 std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
   try {
@@ -40,12 +29,12 @@ std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Cloc
   if (!newest) return "There is no draw yet";
   const Day drawn = lastDrawnDay(clock.date(), clock.time());
   const Day next = drawDayAfter(game.game, *newest);
-  if (next > drawn) return join("Next draw: ", weekdayOf(next), ", ", displayDate(next));
+  if (next > drawn) return join("Next draw: ", weekdayName(next), ", ", displayDate(next));
   if (drawDayAfter(game.game, next) <= drawn) {
-    return join("The draws since ", weekdayOf(next), ", ", displayDate(next), ", are not published yet");
+    return join("The draws since ", weekdayName(next), ", ", displayDate(next), ", are not published yet");
   }
   const std::string date = drawn - next < daysOfWeek ? "" : join(" (", displayDate(next), ")");
-  return join(weekdayOf(next), "'s draw", date, " is not published yet");
+  return join(weekdayName(next), "'s draw", date, " is not published yet");
 }
 
 std::string doublePlayNote(const DataFolder& folder) {

@@ -29,6 +29,16 @@ std::optional<Day> parseDay(std::string_view text) {
   return Day::from(year, month, day);
 }
 
+std::optional<Day> parseDay(std::string_view month, std::string_view day, std::string_view year) {
+  return parseDay(join(trimmed(month), "-", trimmed(day), "-", trimmed(year)));
+}
+
+std::string_view weekdayName(Day day) {
+  constexpr std::array<std::string_view, 7> names = {"Monday", "Tuesday",  "Wednesday", "Thursday",
+                                                     "Friday", "Saturday", "Sunday"};
+  return names.at(static_cast<std::size_t>(day.weekday() - 1));
+}
+
 DayFields fieldsOf(Day day) {
   const std::chrono::year_month_day date = day.date();
   return {twoDigits(static_cast<int>(static_cast<unsigned>(date.month()))),

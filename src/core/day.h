@@ -60,6 +60,12 @@ consteval Day dayOf(int year, int month, int day) {
 /// MM-DD-YYYY or MM/DD/YYYY, with or without leading zeros. None where it is no day of the calendar.
 std::optional<Day> parseDay(std::string_view text);
 
+/// The same of three fields, each with or without blanks around it.
+std::optional<Day> parseDay(std::string_view month, std::string_view day, std::string_view year);
+
+/// For example "Monday".
+std::string_view weekdayName(Day day);
+
 /// The three fields with which the records of draws, amounts and the calendar begin.
 struct DayFields {
   std::string month;

@@ -9,7 +9,6 @@ namespace tallywick {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> weekdays = {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
 constexpr std::array<std::string_view, 11> numberWords = {"no",  "one",   "two",   "three", "four", "five",
                                                           "six", "seven", "eight", "nine",  "ten"};
 
@@ -20,7 +19,7 @@ std::string_view extraBallName(Game game) {
 }
 
 std::string weekdayDate(Day day) {
-  return join(weekdays.at(static_cast<std::size_t>(day.weekday()) - 1), " ", displayDate(day));
+  return join(weekdayName(day).substr(0, 3), " ", displayDate(day));
 }
 
 std::string weekdayDate(std::string_view date) {

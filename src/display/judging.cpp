@@ -34,7 +34,7 @@ void forEachWhole(std::string_view text, std::string_view file, Judgement& judge
 }
 
 std::optional<Day> dayOfDraw(const Draw& draw) {
-  return parseDay(join(trimmed(draw.month), "-", trimmed(draw.day), "-", trimmed(draw.year)));
+  return parseDay(draw.month, draw.day, draw.year);
 }
 
 void addPlays(const GameInfo& game, PlaySlot slot, std::string_view text, Judgement& judgement) {
@@ -135,8 +135,7 @@ void addJackpots(const GameInfo& game, std::string_view amounts, const PlaysByDa
         const std::optional<Fields<winningsFields>> record = std::exchange(inHand, next);
         if (!record) return;
         const auto& [month, day, year, amount, marks] = *record;
-        const std::optional<Day> drawn =
-            parseDay(join(trimmed(month), "-", trimmed(day), "-", trimmed(year)));
+        const std::optional<Day> drawn = parseDay(month, day, year);
         const auto found = drawn ? plays.find(drawn->number()) : plays.end();
         if (found == plays.end()) return;
         for (std::size_t play : found->second) {

@@ -25,7 +25,7 @@ std::vector<std::string> nextFields(SequentialReader& reader, std::size_t count)
 }
 
 std::optional<Day> dayOfFields(const std::vector<std::string>& fields) {
-  return parseDay(join(trimmed(fields[0]), "-", trimmed(fields[1]), "-", trimmed(fields[2])));
+  return parseDay(fields[0], fields[1], fields[2]);
 }
 
 void append(std::string& text, const std::vector<std::string>& fields) {

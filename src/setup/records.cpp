@@ -31,17 +31,12 @@ std::string savedTexts(const std::vector<Balls>& texts) {
 }
 
 std::string calendarText(Day first, Day last) {
-  constexpr std::array names = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
   std::string text;
   for (Day day = first; day <= last; day += 1) {
     const int code = day.weekday();
     std::string ordinal = std::to_string(day.dayOfYear());
     ordinal.insert(0, 3 - ordinal.size(), '0');
-    QuotedRecord(text)
-        .day(day)
-        .field(names.at(static_cast<std::size_t>(code - 1)))
-        .field(ordinal)
-        .field(std::to_string(code));
+    QuotedRecord(text).day(day).field(weekdayName(day)).field(ordinal).field(std::to_string(code));
   }
   return text;
 }
