@@ -7,6 +7,9 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 
+#include <iostream>
+#include <system_error>
+
 namespace tallywick {
 
 namespace fs = std::filesystem;
@@ -47,6 +50,19 @@ StartedProgram startedProgram(const DataFolder& folder, std::string_view program
     throw RuntimeError(ErrorNumber::fileNotFound, join(textOf(file), " is a file of the record book"));
   }
   return {file, {}, startsIn};
+}
+
+void startAsked(const DataFolder& folder, std::string_view program, std::string_view workingFolder,
+                std::string_view reporter) {
+  const StartedProgram really = startedProgram(folder, program, workingFolder);
+  if (os::canRun(really.program)) {
+    os::startProgram(really.program, really.argument, really.workingFolder);
+    return;
+  }
+  std::error_code ignored;
+  const std::string_view why =
+      fs::exists(really.program, ignored) ? "it is no program that may run here" : "there is no such file";
+  std::cerr << join(reporter, ": ", textOf(really.program), " cannot be started, ", why, "\n");
 }
 
 }  // namespace tallywick

@@ -23,4 +23,9 @@ struct StartedProgram {
 StartedProgram startedProgram(const DataFolder& folder, std::string_view program,
                               std::string_view workingFolder);
 
+/// Starts what startedProgram() gives. Where the platform cannot run it, standard error says so and why,
+/// after the name of the running program, `reporter`.
+void startAsked(const DataFolder& folder, std::string_view program, std::string_view workingFolder,
+                std::string_view reporter);
+
 }  // namespace tallywick

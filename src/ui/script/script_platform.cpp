@@ -4,7 +4,6 @@
 #include "app/started_program.h"
 #include "core/day.h"
 #include "core/file_names.h"
-#include "core/os.h"
 #include "core/text.h"
 #include "ui/script/control_json.h"
 
@@ -82,12 +81,7 @@ void ScriptPlatform::start(std::string_view program, std::string_view workingFol
   json["program"] = program;
   json["workingFolder"] = workingFolder;
   out_ << oneLine({{"started", json}}) << std::endl;
-  const StartedProgram really = startedProgram(folder_, program, workingFolder);
-  if (os::canRun(really.program)) {
-    os::startProgram(really.program, really.argument, really.workingFolder);
-  } else {
-    std::cerr << "tallywick-script: " << really.program.string() << " cannot be started\n";
-  }
+  startAsked(folder_, program, workingFolder, "tallywick-script");
 }
 
 void ScriptPlatform::openPage(std::string_view address) {

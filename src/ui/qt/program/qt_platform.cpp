@@ -145,12 +145,7 @@ bool QtPlatform::cancelled() {
 }
 
 void QtPlatform::start(std::string_view program, std::string_view workingFolder) {
-  const StartedProgram really = startedProgram(folder_, program, workingFolder);
-  if (os::canRun(really.program)) {
-    os::startProgram(really.program, really.argument, really.workingFolder);
-  } else {
-    std::cerr << "tallywick: " << really.program.string() << " cannot be started\n";
-  }
+  startAsked(folder_, program, workingFolder, "tallywick");
 }
 
 void QtPlatform::openWindow(Form& form) {
