@@ -165,8 +165,7 @@ TransferFactory Application::transferFactory() const {
 
 std::string Application::serverOf(Game game) const {
   const Settings& settings = surroundings_.settings;
-  if (settings.source == Settings::Source::server) return settings.server;
-  return game == Game::powerBall ? settings.powerBallDraws : settings.megaMillionsDraws;
+  return settings.source == Settings::Source::server ? settings.server : exportAddress(settings, game);
 }
 
 UpdateSurroundings Application::updateSurroundings() {

@@ -114,6 +114,10 @@ std::string inQuotes(std::string_view value) {
 
 }  // namespace
 
+const std::string& exportAddress(const Settings& settings, Game game) {
+  return game == Game::powerBall ? settings.powerBallDraws : settings.megaMillionsDraws;
+}
+
 Settings::Source sourceNamed(std::string_view word) {
   if (equalIgnoringCase(word, "public")) return Settings::Source::publicExports;
   if (equalIgnoringCase(word, "server")) return Settings::Source::server;

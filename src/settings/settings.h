@@ -2,6 +2,8 @@
 // The settings in "tallywick.ini" of the data folder.
 #pragma once
 
+#include "core/games.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -40,6 +42,9 @@ struct Settings {
 
   bool operator==(const Settings&) const = default;
 };
+
+/// Where the public export of a game's draws is.
+const std::string& exportAddress(const Settings& settings, Game game);
 
 /// The source that a word of the settings file or the command line names: "public" or "server". Raises
 /// std::invalid_argument for any other.

@@ -232,7 +232,8 @@ void writeFolder(const fs::path& folder, const FolderContents& contents, const S
 }
 
 std::vector<ExportAddress> exportAddresses(const Settings& settings) {
-  return {{Game::powerBall, settings.powerBallDraws}, {Game::megaMillions, settings.megaMillionsDraws}};
+  return {{Game::powerBall, exportAddress(settings, Game::powerBall)},
+          {Game::megaMillions, exportAddress(settings, Game::megaMillions)}};
 }
 
 std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& clock,
