@@ -109,8 +109,8 @@ class Application {
   bool fetchesFirst() const;
   /// Fetches the exports of `games`, runs `update` on them, and reports what fails.
   void fetchThenUpdate(const std::vector<const GameInfo*>& games, const std::function<void()>& update);
-  /// Whether everything has come; else the user has been told why not.
-  bool hasFetched(FetchedExports& exports, const std::vector<const GameInfo*>& games);
+  /// False where something could not be fetched; the user has been shown why.
+  bool fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games);
   void showNothingNew(const std::vector<const GameInfo*>& games);
   void openSettingPage(const std::string& address, std::string_view what);
   void showAbout();

@@ -70,7 +70,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
   recover();
   showRecoveryNotices();
   FetchedExports exports(folder, surroundings_.clock, &surroundings_.platform, games.size());
-  if (!hasFetched(exports, games)) return;
+  if (!fetchAll(exports, games)) return;
   const UpdateControls controls(*main_);
   const std::vector<const GameInfo*> madeUp = madeUpGames();
   try {
@@ -96,7 +96,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
   showGameAnew();
 }
 
-bool Application::hasFetched(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
+bool Application::fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
   StatusBar& status = main_->update.StatusBar1;
   const GameInfo* asked = games.front();
   try {

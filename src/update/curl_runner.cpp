@@ -68,8 +68,8 @@ class Supervision {
   Supervision(const Supervision&) = delete;
   Supervision& operator=(const Supervision&) = delete;
 
-  /// False once a limit has been passed; the operation then knows which.
-  bool goesOn() {
+  /// Looks around and at the limits. False once a limit has been passed; the operation then knows which.
+  bool supervise() {
     if (failure_) std::rethrow_exception(failure_);
     lookAround();
     const Steady::time_point now = Steady::now();
@@ -92,7 +92,7 @@ class Supervision {
   PassedLimit limitPassedAt(Steady::time_point now) {
     if (now > deadline_) return PassedLimit::folder;
     if (now - lastSign_ > patience()) return PassedLimit::silence;
-    return isTooSlowAt(now) ? PassedLimit::rate : PassedLimit::none;
+    return endSpan(now) ? PassedLimit::rate : PassedLimit::none;
   }
 
   std::chrono::milliseconds patience() const {
@@ -100,8 +100,9 @@ class Supervision {
     return operation_.bytesDone() == 0 ? operation_.times().answer : operation_.times().stall;
   }
 
-  /// Looked at once at the end of each span; the first one begins with the first byte.
-  bool isTooSlowAt(Steady::time_point now) {
+  /// Begins the next span where one ends; true where too little came in it. The first one begins with the
+  /// first byte.
+  bool endSpan(Steady::time_point now) {
     const std::uint64_t bytes = operation_.bytesDone();
     if (bytes == 0) spanStart_ = now;
     if (now - spanStart_ < operation_.times().rateSpan) return false;
@@ -114,7 +115,7 @@ class Supervision {
   static int askedByLibrary(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
     auto& supervision = *static_cast<Supervision*>(self);
     try {
-      return supervision.goesOn() ? 0 : 1;
+      return supervision.supervise() ? 0 : 1;
     } catch (...) {
       supervision.failure_ = std::current_exception();
       return 1;
@@ -170,7 +171,7 @@ CURLcode CurlRunner::run(CurlOperation& operation, const std::function<void()>& 
     const bool isRunning = perform(multi());
     if (operation.bytesDone() != std::exchange(bytes, operation.bytesDone())) flowed();
     if (operation.isConnected() && !std::exchange(wasConnected, true)) operation.allowLogin();
-    const bool goesOn = supervision.goesOn();
+    const bool goesOn = supervision.supervise();
     if (!isRunning) {
       connected_ = leavesConnection(operation);
       return resultOf(operation);
@@ -190,7 +191,7 @@ void CurlRunner::leave(CurlOperation& farewell) {
   connected_ = false;
   Supervision supervision(farewell, Steady::time_point::max(), [this] { look(); });
   const Attached attached(multi(), farewell.handle());
-  while (perform(multi()) && !farewell.hasAnswer() && supervision.goesOn()) waitForServer(multi());
+  while (perform(multi()) && !farewell.hasAnswer() && supervision.supervise()) waitForServer(multi());
 }
 
 CURLM* CurlRunner::multi() {

@@ -31,11 +31,12 @@ namespace tallywick {
 
 namespace {
 
-/// Whether lines have changed since it was asked last.
+/// Notices changes of lines.
 class LineWatch {
  public:
   explicit LineWatch(const TextLines& lines) : lines_(lines) {}
-  bool changed() { return std::exchange(seen_, lines_.revision()) != lines_.revision(); }
+  /// Whether they have changed since the last change was taken.
+  bool takeChange() { return std::exchange(seen_, lines_.revision()) != lines_.revision(); }
 
  private:
   const TextLines& lines_;
@@ -123,7 +124,7 @@ void Binding::bind(Label& label, LineList& columns) {
 void Binding::bind(ListBox& list, LineList& widget) {
   addLineActions(widget, runner_);
   enter(list, widget, [&list, &widget, watch = LineWatch(list.items())]() mutable {
-    if (watch.changed()) widget.reload();
+    if (watch.takeChange()) widget.reload();
     widget.setEmphasis(list.emphasis());
     widget.setVisible(list.visible());
   });
@@ -136,7 +137,7 @@ void Binding::bind(ComboBox& combo, Picker& widget) {
   connect(widget.lineEdit(), &QLineEdit::textEdited, this,
           [this, &combo](const QString& text) { take([&] { combo.setText(toText(text)); }); });
   enter(combo, widget, [&combo, &widget, watch = LineWatch(combo.items())]() mutable {
-    if (watch.changed()) widget.reload();
+    if (watch.takeChange()) widget.reload();
     widget.showText(toQString(combo.text()));
     widget.setVisible(combo.visible());
   });
@@ -148,7 +149,7 @@ void Binding::bind(ComboBox& combo, ChoiceList& widget) {
     if (form_ != nullptr) take([&] { combo.setText(toText(item)); });
   };
   enter(combo, widget, [&combo, &widget, watch = LineWatch(combo.items())]() mutable {
-    if (watch.changed()) widget.list().reload();
+    if (watch.takeChange()) widget.list().reload();
     widget.showText(toQString(combo.text()));
     widget.setVisible(combo.visible());
   });
