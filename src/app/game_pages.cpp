@@ -152,6 +152,21 @@ void fillGameOnShow(MainForm& form, const DataFolder& folder) {
   }
 }
 
+void munSearches_Click(NavigationBar& bar) {
+  bar.SSTab1.setTab(1);
+  bar.SSTab2.setTab(0);
+}
+
+void mnuWinnings_Click(NavigationBar& bar) {
+  bar.SSTab1.setTab(2);
+  bar.SSTab3.setTab(1);
+}
+
+void mnuHelp_Click(MessageBoxes& boxes) {
+  boxes.show(
+      {" Please...,   Press  'F1'  for Help\r\n", " Tallywick Software  ", MessageBox::Icon::exclamation});
+}
+
 void startUp(MainForm& form, const DataFolder& folder) {
   const auto& game = powerBall;
   showStartingState(form, game);

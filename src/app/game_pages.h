@@ -17,6 +17,13 @@ void mnuPowerBall_Click(MainForm& form, const DataFolder& folder, MessageBoxes& 
 /// Switches the frames and hides the update button, then does what Command4 does.
 void mnuMegaMillions_Click(MainForm& form, const DataFolder& folder);
 
+/// Shows the first panel of the searches.
+void munSearches_Click(NavigationBar& bar);
+/// Shows the winning-ticket check.
+void mnuWinnings_Click(NavigationBar& bar);
+/// Says in a message box that F1 opens the help.
+void mnuHelp_Click(MessageBoxes& boxes);
+
 /// Fills the lists of the game on show anew, for draws that have come meanwhile; tabs, menus and the game on
 /// show stay.
 void fillGameOnShow(MainForm& form, const DataFolder& folder);

@@ -43,21 +43,12 @@ void Application::wireMenus() {
   menu.mnuPowerBall.onClick =
       onFiles([&form, &folder, &platform] { mnuPowerBall_Click(form, folder, platform); });
   menu.mnuMegaMillions.onClick = onFiles([&form, &folder] { mnuMegaMillions_Click(form, folder); });
-  menu.munSearches.onClick = [&form] {
-    form.bar.SSTab1.setTab(1);
-    form.bar.SSTab2.setTab(0);
-  };
-  menu.mnuWinnings.onClick = [&form] {
-    form.bar.SSTab1.setTab(2);
-    form.bar.SSTab3.setTab(1);
-  };
+  menu.munSearches.onClick = [&form] { munSearches_Click(form.bar); };
+  menu.mnuWinnings.onClick = [&form] { mnuWinnings_Click(form.bar); };
   menu.mnuExit.onClick = [this] { exit(); };
   menu.mnuPowerBall3.onClick = onFiles([this] { openSelection(powerBall); });
   menu.mnuMegaMillions3.onClick = onFiles([this] { openSelection(megaMillions); });
-  menu.mnuHelp.onClick = [&platform] {
-    platform.show(
-        {" Please...,   Press  'F1'  for Help\r\n", " Tallywick Software  ", MessageBox::Icon::exclamation});
-  };
+  menu.mnuHelp.onClick = [&platform] { mnuHelp_Click(platform); };
   menu.mnuQZRHelp.onClick = [this] { openSettingPage(surroundings_.settings.webHelp, "web help page"); };
   menu.mnuGameInfo.onClick = [this] { openSettingPage(surroundings_.settings.webSite, "web site"); };
   menu.mnuAbout.onClick = [this] { showAbout(); };
@@ -109,14 +100,8 @@ void Application::wireDisplays() {
   const GameFrames& frames = main_->frames;
   const DataFolder& folder = surroundings_.folder;
 
-  winnings.Option1.onClick = [&winnings] {
-    winnings.Option1.setValue(true);
-    winnings.Option2.setValue(false);
-  };
-  winnings.Option2.onClick = [&winnings] {
-    winnings.Option2.setValue(true);
-    winnings.Option1.setValue(false);
-  };
+  winnings.Option1.onClick = [&winnings] { Option1_Click(winnings); };
+  winnings.Option2.onClick = [&winnings] { Option2_Click(winnings); };
   winnings.Command47.onClick =
       onFiles([&winnings, &frames, &folder] { Command47_Click(winnings, frames, folder); });
 

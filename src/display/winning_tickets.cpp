@@ -141,6 +141,16 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
   emphasise(page, std::move(winners));
 }
 
+void Option1_Click(WinningsPage& page) {
+  page.Option1.setValue(true);
+  page.Option2.setValue(false);
+}
+
+void Option2_Click(WinningsPage& page) {
+  page.Option2.setValue(true);
+  page.Option1.setValue(false);
+}
+
 void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFolder& folder) {
   const GameInfo* const game = gameOnShow(frames);
   if (game == nullptr) return;

@@ -58,6 +58,11 @@ void checkAgainstLatestDraw(WinningsPage& page, const DataFolder& folder, const 
 /// Checks every play against the first draw of its own date; a play without one is passed over.
 void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles& files);
 
+/// Chooses the check of all plays against the newest draw.
+void Option1_Click(WinningsPage& page);
+/// Chooses the check of each play against the draw of its own date.
+void Option2_Click(WinningsPage& page);
+
 /// Runs the check that the options and the visible game frame ask for; Double Play counts as PowerBall.
 void Command47_Click(WinningsPage& page, const GameFrames& frames, const DataFolder& folder);
 
