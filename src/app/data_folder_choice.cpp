@@ -2,6 +2,7 @@
 #include "app/data_folder_choice.h"
 
 #include "core/data_folder.h"
+#include "core/file_names.h"
 #include "core/games.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
@@ -19,7 +20,7 @@ namespace {
 fs::path seenFromHere(const fs::path& named) {
   std::error_code error;
   fs::path folder = fs::absolute(named, error);
-  if (error) throw RuntimeError(ErrorNumber::pathNotFound, named.string() + " (the working folder is gone)");
+  if (error) throw RuntimeError(ErrorNumber::pathNotFound, textOf(named) + " (the working folder is gone)");
   return folder;
 }
 

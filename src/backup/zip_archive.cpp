@@ -2,6 +2,7 @@
 #include "backup/zip_archive.h"
 
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/text.h"
 
 #include <memory>
@@ -20,7 +21,7 @@ constexpr zip_uint64_t mostBytes = zip_uint64_t{1} << 31U;
 
 template <typename... Pieces>
 [[noreturn]] void fail(const fs::path& file, const Pieces&... pieces) {
-  throw std::runtime_error(join(file.string(), ": ", pieces...));
+  throw std::runtime_error(join(textOf(file), ": ", pieces...));
 }
 
 std::string pathText(const fs::path& path) {

@@ -2,6 +2,7 @@
 #include "exports/import_report.h"
 
 #include "core/eras.h"
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
@@ -28,7 +29,7 @@ auto readFrom(const std::filesystem::path& file, Read read) {
     CsvReader rows([&input](char* to, std::size_t size) { return input.read(to, size); });
     return read(rows);
   } catch (const std::exception& error) {
-    throw std::runtime_error(join(file.string(), ": ", error.what()));
+    throw std::runtime_error(join(textOf(file), ": ", error.what()));
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/data_folder.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/os.h"
 #include "core/text.h"
 
@@ -170,7 +171,7 @@ Settings readSettings(const DataFolder& folder) {
   try {
     return settingsFrom(bytes.view());
   } catch (const std::invalid_argument& error) {
-    refuse(join(file.string(), ", ", error.what()));
+    refuse(join(textOf(file), ", ", error.what()));
   }
 }
 

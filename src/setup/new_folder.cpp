@@ -126,10 +126,10 @@ void requireFolder(const fs::path& folder) {
         join(textOf(folder), " and ", textOf(other), " are in each other's way. Nothing was changed"));
   }
   if (fs::is_symlink(folder)) {
-    throw std::runtime_error(folder.string() + " is in the way: it is a link. Nothing was changed");
+    throw std::runtime_error(textOf(folder) + " is in the way: it is a link. Nothing was changed");
   }
   if (!fs::is_directory(folder)) {
-    throw std::runtime_error(folder.string() + " is in the way: it is not a folder. Nothing was changed");
+    throw std::runtime_error(textOf(folder) + " is in the way: it is not a folder. Nothing was changed");
   }
 }
 
@@ -167,7 +167,7 @@ void makeBook(const fs::path& folder, const Settings& settings,
   requireGameFolders(folder);
   requireRoomFor(folder, pictureFolder);
   if (holdsRecords(folder)) {
-    throw std::runtime_error(folder.string() + " already contains draws or plays; nothing was changed");
+    throw std::runtime_error(textOf(folder) + " already contains draws or plays; nothing was changed");
   }
   fs::create_directories(folder);
   writeRoot(folder, settings);
@@ -215,7 +215,7 @@ bool holdsRecords(const fs::path& folder) {
 
 void requireGameFolders(const fs::path& root) {
   if (isThere(root) && !fs::is_directory(root)) {
-    throw std::runtime_error(root.string() + " is in the way: it is not a folder. Nothing was changed");
+    throw std::runtime_error(textOf(root) + " is in the way: it is not a folder. Nothing was changed");
   }
   for (const GameInfo* game : {&powerBall, &megaMillions}) requireRoomFor(root, game->folder);
 }

@@ -4,6 +4,7 @@
 #include "core/data_folder.h"
 #include "core/draws.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/games.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
@@ -166,7 +167,7 @@ void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
     const PublishedGame& game = games[i];
     for (const fs::path& target : targets[i]) publishInto(target, game.files);
     out << game.game.name << ": " << game.files.size() << " files, newest draw " << game.newestDraw << ", in "
-        << targets[i].front().string() << "\n";
+        << textOf(targets[i].front()) << "\n";
   }
 }
 

@@ -6,6 +6,7 @@
 #include "core/data_folder.h"
 #include "core/eras.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/restored_folder.h"
 #include "core/text.h"
 #include "exports/folder_merge.h"
@@ -269,13 +270,13 @@ void backUpFolder(const Options& options, std::ostream& out) {
   const fs::path to =
       options.backup.empty() ? datedBackup(options.folder, SystemClock()) : fs::path(options.backup);
   const std::size_t files = backUp(options.folder, to);
-  out << files << " files of " << options.folder << " written to " << to.string() << " and compared\n";
+  out << files << " files of " << options.folder << " written to " << textOf(to) << " and compared\n";
 }
 
 void restoreFolder(const Options& options, std::ostream& out) {
   const Restored restored = restore(options.restoredFrom, options.folder, SystemClock());
   out << restored.files << " files restored to " << options.folder << " and compared\n";
-  if (!restored.earlier.empty()) out << "What was there before is in " << restored.earlier.string() << "\n";
+  if (!restored.earlier.empty()) out << "What was there before is in " << textOf(restored.earlier) << "\n";
 }
 
 /// Writes how far a fetch is into one line of a terminal, which goes when the fetch ends.

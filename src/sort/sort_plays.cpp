@@ -4,6 +4,7 @@
 #include "core/data_folder.h"
 #include "core/day.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/games.h"
 #include "core/plays.h"
 #include "core/runtime_error.h"
@@ -89,10 +90,10 @@ std::optional<std::string> inDrawOrder(std::string_view plays, const std::string
 CommittedPlays::CommittedPlays(fs::path file) : file_(std::move(file)), read_(os::readFile(file_)) {}
 
 void CommittedPlays::putInOrder() const {
-  const std::optional<std::string> sorted = inDrawOrder(read_.view(), file_.string());
+  const std::optional<std::string> sorted = inDrawOrder(read_.view(), textOf(file_));
   if (!sorted) return;
   if (os::readFile(file_).view() != read_.view()) {
-    throw PlaysLeftAlone(join(file_.string(), ": changed meanwhile by another program; left as it is"));
+    throw PlaysLeftAlone(join(textOf(file_), ": changed meanwhile by another program; left as it is"));
   }
   replaceFile(file_, *sorted);
 }
@@ -102,7 +103,7 @@ void sortFolder(const fs::path& folder) {
   for (const GameInfo* game : {&powerBall, &megaMillions}) sortGame(folder, *game, found);
   if (found) return;
   throw RuntimeError(ErrorNumber::fileNotFound,
-                     join(folder.string(), " contains neither ", playFileName(powerBall, PlaySlot::committed),
+                     join(textOf(folder), " contains neither ", playFileName(powerBall, PlaySlot::committed),
                           " nor ", playFileName(megaMillions, PlaySlot::committed)));
 }
 

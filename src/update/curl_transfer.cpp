@@ -293,7 +293,7 @@ std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile&
 fs::path CurlTransfer::localFolderOf(std::string_view written) const {
   fs::path local = folder_.resolve(written);
   std::error_code ignored;
-  if (!fs::is_directory(local, ignored)) throw RuntimeError(ErrorNumber::pathNotFound, local.string());
+  if (!fs::is_directory(local, ignored)) throw RuntimeError(ErrorNumber::pathNotFound, textOf(local));
   return local;
 }
 

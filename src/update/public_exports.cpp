@@ -4,6 +4,7 @@
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "exports/csv_reader.h"
@@ -48,7 +49,7 @@ struct ExportNote {
 
 constexpr std::string_view noteHead = "tallywick-source 1";
 
-std::string textOf(const ExportNote& note) {
+std::string noteText(const ExportNote& note) {
   return join(noteHead, "\n", note.address, "\n", note.files, "\n", note.validators.entityTag, "\n",
               note.validators.lastModified, "\n");
 }
@@ -62,7 +63,7 @@ Validators validatorsIn(std::string_view note, const std::string& address, const
   if (end == std::string_view::npos || !note.ends_with('\n')) return {};
   const Validators validators{std::string(note.substr(0, end)),
                               std::string(note.substr(end + 1, note.size() - end - 2))};
-  return textOf({address, files, validators}) == join(head, note) ? validators : Validators{};
+  return noteText({address, files, validators}) == join(head, note) ? validators : Validators{};
 }
 
 /// A last row without a line end is whole where the transfer is known to be.
@@ -166,7 +167,7 @@ void PublicExports::download(std::string_view serverFolder, std::string_view /*w
   const GameInfo& game = infoOf(*asked);
   const fs::path local = folder_.resolve(game.folder);
   if (!fs::is_directory(local) || folder_.resolve(localFolder) != local) {
-    throw RuntimeError(ErrorNumber::pathNotFound, folder_.resolve(localFolder).string());
+    throw RuntimeError(ErrorNumber::pathNotFound, textOf(folder_.resolve(localFolder)));
   }
   tell(join("Asking for the draws of ", game.name));
   Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
@@ -266,7 +267,7 @@ exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& f
   // A row that is refused today may be good tomorrow.
   if (fetched.document.validators == Validators{} || fetched.draws.refused.count > 0) return merge;
   exports::GameFiles now = exports::withChanges(game, files, merge.files);
-  now.exportNote = textOf({fetched.address, fingerprintOf(now), fetched.document.validators});
+  now.exportNote = noteText({fetched.address, fingerprintOf(now), fetched.document.validators});
   merge.files = exports::changedFiles(game, files, std::move(now));
   return merge;
 }

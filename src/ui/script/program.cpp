@@ -2,6 +2,7 @@
 #include "ui/script/program.h"
 
 #include "app/data_folder_choice.h"
+#include "core/file_names.h"
 #include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
@@ -78,7 +79,7 @@ int runLines(Application& application, ScriptPlatform& platform, SettableClock& 
 int run(const Options& options) {
   const DataFolder folder(chooseDataFolder(options.folder));
   finishRestore(folder.root());
-  if (!isDataFolder(folder.root())) return complain("there is no record book in " + folder.root().string());
+  if (!isDataFolder(folder.root())) return complain("there is no record book in " + textOf(folder.root()));
   SettableClock clock;
   if (!options.now.empty() && !clock.set(options.now)) return complain("--now takes \"MM-DD-YYYY HH:MM:SS\"");
   std::ifstream file;

@@ -4,6 +4,7 @@
 #include "app/data_folder_choice.h"
 #include "core/data_folder.h"
 #include "core/file_commit.h"
+#include "core/file_names.h"
 #include "core/random.h"
 #include "core/restored_folder.h"
 #include "core/runtime_error.h"
@@ -167,7 +168,7 @@ std::optional<fs::path> findDataFolder(const std::string& named, Offer offer) {
   finishRestore(chosen);
   if (offer == Offer::no) {
     if (isDataFolder(chosen)) return chosen;
-    std::cerr << "tallywick: there is no record book in " << chosen.string() << '\n';
+    std::cerr << "tallywick: there is no record book in " << textOf(chosen) << '\n';
     return std::nullopt;
   }
   QSettings settings;
