@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 class Web : public testing::Test {
  protected:
   Web() {
-    settings.times = {1s, 500ms, 500ms, 600ms, 100, 20s};
+    settings.times = patientTimes;
     settings.largest = 1'000'000;
     settings.certificates = file("authority");
     makeCertificate(settings.certificates);
@@ -114,6 +114,7 @@ TEST_F(Web, SaysOfEachMisansweredRequestWhatIsWrong) {
            {"hops/6", "\"https://ADDRESS/hops/6\" redirects more than five times"},
            {"to/http/", "\"https://ADDRESS/to/http/\" leads to an address without encryption"},
            {"to/http/example.org", "\"http://example.org/draws\" is an address without encryption"}}) {
+    settings.times = timesFor(error);
     EXPECT_EQ(errorOf([&, path = path] { fetch(path); }), join("The transfer failed: ", error));
   }
 }

@@ -16,7 +16,7 @@ const std::string draws = "-rw-r--r-- 1 o g 20000 Nov 21 10:35 QZRNUM6.Dat\r\n";
 class BadServer : public TransferTest {
  protected:
   BadServer() {
-    settings.times = {500ms, 500ms, 500ms, 600ms, 100, 20s};
+    settings.times = patientTimes;
     watch.onLook = [this] {
       EXPECT_FALSE(scratch.exists(join(pwrHere, lockName))) << "the lock is taken before all has come";
     };
@@ -75,6 +75,7 @@ TEST_F(BadServer, LeavesTheFolderAsItWas) {
            {"endless", draws, "too large: \"QZRNUM6.Dat\""}}) {
     SCOPED_TRACE(misdeed.fault + (": " + misdeed.list));
     watch.looks = 0;
+    settings.times = timesFor(misdeed.error);
     EXPECT_EQ(errorOf([&] { download(misdeed.fault, misdeed.list); }),
               join("The transfer failed: ", misdeed.error));
     EXPECT_EQ(scratch.snapshot(), before);
@@ -137,6 +138,7 @@ TEST_F(BadServer, IsLeftByWhoeverCancels) {
 }
 
 TEST_F(BadServer, NeedNotAnswerTheFarewell) {
+  settings.times = hurriedTimes;
   download("no farewell", first);
   EXPECT_EQ(get("first.Dat"), "one");
   EXPECT_LT(watch.looks, patience);

@@ -27,7 +27,7 @@ std::string exported(Game game, int count, Day last = newest) {
 class Exports : public testing::Test {
  protected:
   Exports() {
-    settings.times = {1s, 500ms, 500ms, 600ms, 100, 20s};
+    settings.times = patientTimes;
     settings.certificates = file("authority");
     makeCertificate(settings.certificates);
     makeCertificate(file("certificate"), "IP:127.0.0.1", settings.certificates);

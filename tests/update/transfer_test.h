@@ -24,6 +24,22 @@ namespace tallywick::test {
 inline constexpr std::string_view pwrHere =
     R"(C:\Program Files\Tallywick Software\Tallywick\QzrNumbers\QZR6PWR\)";
 
+/// Long enough on a loaded machine, and short for servers that never answer.
+inline constexpr TransferTimes patientTimes = {std::chrono::seconds(15), std::chrono::seconds(15),
+                                               std::chrono::seconds(15), std::chrono::seconds(15), 100};
+inline constexpr TransferTimes hurriedTimes = {std::chrono::seconds(1), std::chrono::milliseconds(500),
+                                               std::chrono::milliseconds(500), std::chrono::seconds(15), 100};
+
+/// The limits for a misdeed that leads to `error`: only what must run into one gets it soon.
+inline TransferTimes timesFor(std::string_view error) {
+  if (error.find("too slow") == std::string_view::npos) {
+    return error.starts_with("timed out") ? hurriedTimes : patientTimes;
+  }
+  TransferTimes times = patientTimes;
+  times.rateSpan = std::chrono::milliseconds(600);
+  return times;
+}
+
 class CountingWatch : public TransferWatch {
  public:
   void progress(const TransferProgress& soFar) override {
