@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pieces that the windows are made of, each by itself.
-#include "app/main_form.h"
 #include "ui/qt/dialogs/settings_dialog.h"
-#include "ui/qt/pages/summary_print.h"
 #include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/chart_view.h"
 #include "ui/qt/parts/choice_list.h"
@@ -76,13 +74,25 @@ TEST(Lists, CopyTheLinesThatAreSelected) {
             QStringLiteral(" 11-16-2026    05 19   20\n 11-14-2026    09 10   04"));
 }
 
-TEST(Lists, AreSavedAsTextAndWithCommas) {
+TEST(Lists, AreSavedAsTextAndInColumns) {
   TextLines lines;
-  lines.add(" 11-18-2026    06 08   13  *  40");
+  lines.add(" 11-18-2026    06 08 30 51 55   13  *  40");
   lines.add(" 06, 4 draws before:");
-  const LineList list(lines);
-  EXPECT_EQ(asText(list), " 11-18-2026    06 08   13  *  40\n 06, 4 draws before:\n");
-  EXPECT_EQ(asCommaSeparated(list), "11-18-2026,06,08,13,*,40\r\n\"06,\",4,draws,before:\r\n");
+  LineList list(lines);
+  EXPECT_EQ(asText(list), " 11-18-2026    06 08 30 51 55   13  *  40\n 06, 4 draws before:\n");
+  EXPECT_EQ(asCommaSeparated(list), "11-18-2026,06,08,30,51,55,13,*,40\r\n\"06,\",4,draws,before:\r\n");
+  list.showColumns({{LineField::date, "Date"},
+                    {LineField::whites, "Numbers"},
+                    {LineField::extra, "PowerBall"},
+                    {LineField::amount, "Amount"}},
+                   Game::powerBall);
+  EXPECT_EQ(asCommaSeparated(list),
+            "Date,Number 1,Number 2,Number 3,Number 4,Number 5,PowerBall,Mark,Amount\r\n"
+            "11-18-2026,06,08,30,51,55,13,*,40\r\n\"06, 4 draws before:\",,,,,,,,\r\n");
+  const QString table = asTable(list, 1);
+  EXPECT_TRUE(table.contains(QStringLiteral("<td align=\"left\">06 08 30 51 55</td>")))
+      << table.toStdString();
+  EXPECT_TRUE(table.contains(QStringLiteral("The first 1 of 2 lines.")));
 }
 
 TEST(ChoiceLists, TellWhatIsChosenByMouseAndByKeyboard) {
@@ -156,16 +166,6 @@ TEST(SettingsDialogs, GiveBackWhatTheyWereGiven) {
   EXPECT_EQ(dialog.settings(), settings);
   for (auto* edit : dialog.findChildren<QLineEdit*>()) edit->clear();
   EXPECT_EQ(dialog.settings().powerBallDraws, powerBallExport) << "an empty address is the built-in one";
-}
-
-TEST(Summaries, ArePrintedWithTheirHeadings) {
-  MainForm form;
-  form.summary.Label16.setCaption("Your Play && Winning Lotto Ticket(s):");
-  form.summary.List2.add(" 11-18-2026    <05>");
-  const QString page = summaryPage(form);
-  EXPECT_TRUE(page.contains(
-      QStringLiteral("<h3>Your Play &amp; Winning Lotto Ticket(s):</h3><pre> 11-18-2026    &lt;05&gt;\n")))
-      << page.toStdString();
 }
 
 TEST(TransferWindows, ShowTheFileInHand) {

@@ -7,6 +7,9 @@
 #include "support/record_book.h"
 #include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
+#include "ui/qt/pages/summary_print.h"
+#include "ui/qt/parts/line_header.h"
+#include "ui/qt/parts/line_list.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/windows/layout_memory.h"
@@ -43,6 +46,38 @@ TEST_F(Windows, ShowABoxAsItIsAndGiveItsAnswerBack) {
     EXPECT_EQ(boxText, QStringLiteral(" A text,\nwith  blanks\n"));
     EXPECT_EQ(boxIcon, QMessageBox::Question);
   }
+}
+
+TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
+  writeRecordBook(scratch);
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply",
+                records({"12-28-2026,01,02,03,50,51,01,3000020", "12-27-2026,50,51,52,53,54,20,0000050"}));
+  FormWindow& main = open("Form1");
+  auto& wins = widget<LineList>("Form1", "List2");
+  const LineHighlights found = wins.lineModel()->highlightsOf(" 12-28-2026    01 02 03 50 51   01");
+  EXPECT_EQ(found.matched, "3 + PowerBall");
+  EXPECT_EQ(found.whites, (std::vector<std::string>{"01", "02", "03"}));
+  EXPECT_TRUE(found.wins && found.extra);
+  const QString page = summaryPage(static_cast<MainForm&>(main.form()), main);
+  EXPECT_TRUE(page.contains(QStringLiteral("<h3>Your Play &amp; Winning Lotto Ticket(s):</h3>")));
+  EXPECT_TRUE(page.contains(QStringLiteral("<td align=\"left\">3 + PowerBall</td>"))) << page.toStdString();
+  EXPECT_TRUE(page.contains(QStringLiteral("The first 15 of 119 lines.")));
+}
+
+TEST_F(Windows, SortTheNumberTableByAColumn) {
+  writeRecordBook(scratch);
+  open("Form1");
+  const auto lists = window("Form1").findChildren<LineList*>();
+  LineList& numbers = **std::ranges::find(lists, QStringLiteral("White Balls"), &QWidget::accessibleName);
+  for (QWidget* shown = &numbers; shown != nullptr; shown = shown->parentWidget()) {
+    QWidget* stack = shown->parentWidget();
+    auto* tabs = qobject_cast<QTabWidget*>(stack != nullptr ? stack->parentWidget() : nullptr);
+    if (tabs != nullptr) tabs->setCurrentWidget(shown);
+  }
+  ASSERT_EQ(numbers.lineModel()->lines().size(), 69U);
+  EXPECT_TRUE(numbers.lineModel()->lines()[0].starts_with(" 01"));
+  numbers.header()->sectionClicked(5);
+  EXPECT_TRUE(numbers.lineModel()->lines()[0].ends_with("never")) << numbers.lineModel()->lines()[0];
 }
 
 TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/pages/draws_view.h"
 
-#include "display/draws_page.h"
+#include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/pages/number_table_view.h"
 #include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/chart_view.h"
 #include "ui/qt/parts/layouts.h"
@@ -29,19 +30,27 @@ void addPictures(QGridLayout& grid, const QString& title, ImageRow& images, Bind
 
 }  // namespace
 
-DrawsView::DrawsView(DrawsPage& page, Binding& binding) {
-  auto* column = columnIn(this, theme::pageMargin);
-  column->addWidget(chart(page, binding), 1);
-  column->addWidget(pictures(page, binding));
+DrawsView::DrawsView(MainForm& form, Binding& binding) : numbers_(new NumberTableView(form, binding)) {
+  auto* newest = new QWidget;
+  auto* column = columnIn(newest, theme::pageMargin);
+  column->addWidget(chart(form.draws, binding), 1);
+  column->addWidget(pictures(form.draws, binding));
+  setDocumentMode(true);
+  addTab(newest, u"Char&ts and Newest Draws"_s);
+  addTab(numbers_, u"Number Tabl&e"_s);
+}
+
+void DrawsView::showChanges() {
+  numbers_->showChanges();
 }
 
 QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   auto* box = new QWidget;
   auto* view = new ChartView(binding.runner(), box);
-  auto* powerBall = new QPushButton(box);
+  auto* lastHundred = new QPushButton(box);
   auto* doublePlay = new QPushButton(box);
   auto* buttons = row();
-  buttons->addWidget(powerBall);
+  buttons->addWidget(lastHundred);
   buttons->addWidget(doublePlay);
   buttons->addStretch();
   auto* column = columnIn(box);
@@ -50,7 +59,7 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   view->setWords([](const Chart& chart) { return toQString(chartInWords(chart)); },
                  [](Color color) { return toQString(barMeaning(color)); });
   binding.bind(page.Draw1, *view);
-  binding.bind(page.Command52, *powerBall, withMnemonic('L'));
+  binding.bind(page.Command52, *lastHundred, withMnemonic('L'));
   binding.bind(page.Command27, *doublePlay, withMnemonic('B'));
   return box;
 }

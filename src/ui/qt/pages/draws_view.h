@@ -1,21 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The draws page: the chart of the last hundred draws, and the newest draws as pictures.
+// The draws page: the chart of the last hundred draws with the newest draws as pictures, and the number
+// table.
 #pragma once
 
-#include <QWidget>
+#include <QTabWidget>
 
 namespace tallywick {
 
 class Binding;
+class MainForm;
+class NumberTableView;
 struct DrawsPage;
 
-class DrawsView : public QWidget {
+class DrawsView : public QTabWidget {
  public:
-  DrawsView(DrawsPage& page, Binding& binding);
+  DrawsView(MainForm& form, Binding& binding);
+
+  /// To be called after every change of the model.
+  void showChanges();
 
  private:
   QWidget* chart(DrawsPage& page, Binding& binding);
   QWidget* pictures(DrawsPage& page, Binding& binding);
+
+  NumberTableView* numbers_;
 };
 
 }  // namespace tallywick

@@ -9,8 +9,9 @@ namespace tallywick {
 
 class MainForm;
 
-/// The lists of the summary under their headings, as a page of HTML.
-QString summaryPage(const MainForm& form);
+/// The newest of what the summary's lists in the window show, under their headings, as HTML for a page or
+/// two.
+QString summaryPage(const MainForm& form, const QWidget& window);
 void printSummary(const MainForm& form, QWidget& window);
 
 }  // namespace tallywick

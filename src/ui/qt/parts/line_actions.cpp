@@ -4,7 +4,9 @@
 #include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/wording.h"
@@ -16,6 +18,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
+#include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 namespace tallywick {
@@ -45,9 +49,43 @@ void print(LineList& list) {
   QPrintDialog dialog(&printer, &list);
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument document;
-  document.setHtml(u"<h3>%1</h3><pre>%2</pre>"_s.arg(list.accessibleName().toHtmlEscaped(),
-                                                     toQString(asText(list)).toHtmlEscaped()));
+  document.setHtml(u"<h3>%1</h3>%2"_s.arg(list.accessibleName().toHtmlEscaped(),
+                                          asTable(list, std::numeric_limits<std::size_t>::max())));
   document.print(&printer);
+}
+
+std::optional<std::vector<std::string>> cellsOfLine(const LineList& list, std::string_view line) {
+  return cellsOf(list.columns(), line, list.lineModel()->highlightsOf(line).matched);
+}
+
+QString tableCell(const QString& tag, Qt::Alignment alignment, const QString& text) {
+  return u"<%1 align=\"%2\">%3</%1>"_s.arg(tag, alignment & Qt::AlignRight ? u"right"_s : u"left"_s,
+                                           text.toHtmlEscaped());
+}
+
+QString tableTitles(const LineColumns& columns) {
+  QString cells;
+  for (const LineColumn& column : columns)
+    cells += tableCell(u"th"_s, alignmentOf(column.field), toQString(column.title));
+  return u"<tr>%1</tr>"_s.arg(cells);
+}
+
+/// A line of a table: the white balls in one cell, the mark of an amount before it.
+QString tableRow(const LineList& list, std::string_view line) {
+  const LineColumns& columns = list.columns();
+  const auto cells = cellsOfLine(list, line);
+  if (!cells)
+    return u"<tr><td colspan=\"%1\">%2</td></tr>"_s.arg(std::max<std::size_t>(1, columns.size()))
+        .arg(toQString(trimmed(line)).toHtmlEscaped());
+  QString row;
+  auto next = cells->begin();
+  for (const LineColumn& column : columns) {
+    std::string text;
+    for (std::size_t i = 0; i < cellsIn(column.field); ++i, ++next)
+      text += column.field == LineField::date ? weekdayDate(*next) : *next + " ";
+    row += tableCell(u"td"_s, alignmentOf(column.field), toQString(trimmed(text)));
+  }
+  return u"<tr>%1</tr>"_s.arg(row);
 }
 
 template <typename Do>
@@ -80,11 +118,36 @@ std::string asText(const LineList& list) {
 }
 
 std::string asCommaSeparated(const LineList& list) {
+  const LineListModel* model = list.lineModel();
+  if (model == nullptr) return {};
+  const std::vector<std::string> titles = cellTitles(list.columns());
   std::string text;
-  if (const LineListModel* lines = list.lineModel()) {
-    for (std::size_t i = 0; i < lines->lines().size(); ++i)
-      text.append(csvLine(lines->lines()[i])).append("\r\n");
+  if (!titles.empty()) text.append(csvLine(titles)).append("\r\n");
+  for (std::size_t i = 0; i < model->lines().size(); ++i) {
+    const std::string_view line = model->lines()[i];
+    if (titles.empty()) {
+      text.append(csvLine(line));
+    } else if (const auto cells = cellsOfLine(list, line)) {
+      text.append(csvLine(*cells));
+    } else {
+      std::vector<std::string> alone(titles.size());
+      alone.front() = trimmed(line);
+      text.append(csvLine(alone));
+    }
+    text.append("\r\n");
   }
+  return text;
+}
+
+QString asTable(const LineList& list, std::size_t atMost) {
+  const LineListModel* model = list.lineModel();
+  if (model == nullptr) return {};
+  const std::size_t all = model->lines().size();
+  const std::size_t shown = std::min(all, atMost);
+  QString rows = tableTitles(list.columns());
+  for (std::size_t i = 0; i < shown; ++i) rows += tableRow(list, model->lines()[i]);
+  QString text = u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(rows);
+  if (shown < all) text += u"<p>The first %1 of %2 lines.</p>"_s.arg(shown).arg(all);
   return text;
 }
 

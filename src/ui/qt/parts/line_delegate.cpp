@@ -143,6 +143,7 @@ void LineDelegate::paintBalls(QPainter& painter, const QRect& cell, const QStyle
   const int side = std::min(lineBallSide(QFontMetricsF(option.font)), cell.height());
   QRectF area(cell.left(), cell.center().y() + 1 - side / 2.0, side, side);
   for (LineBall& ball : balls) {
+    if (list_.hasExtraBalls()) ball.kind = LineBallKind::roundRed;
     if (ball.kind != LineBallKind::white) ball.kind = extraBallOf(list_.game());
     paintLineBall(painter, area, ball, lineBallColors(ball.kind, ground, option.palette));
     area.translate(side + betweenLineBalls, 0);

@@ -145,6 +145,7 @@ const LineColumns& LineList::columns() const {
 void LineList::setSortable(std::function<void(int column)> sortBy) {
   header_->setSectionsClickable(true);
   header_->setSortIndicatorShown(true);
+  header_->fitTo(font());
   connect(header_, &QHeaderView::sectionClicked, this, std::move(sortBy));
 }
 

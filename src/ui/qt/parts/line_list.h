@@ -88,6 +88,9 @@ class LineList : public QListView {
 
   /// Shows the lines that fit the columns in them. The extra balls are those of `game`.
   void showColumns(const LineColumns& columns, Game game);
+  /// The balls of a table are extra balls.
+  void setExtraBalls(bool areExtra) { extraBalls_ = areExtra; }
+  bool hasExtraBalls() const { return extraBalls_; }
   /// Titles in the place of the columns' own.
   void setTitles(const std::vector<std::string>& titles);
   /// A list in a drop-down has columns and no header.
@@ -128,6 +131,7 @@ class LineList : public QListView {
 
   LineHeader* header_ = nullptr;
   bool headerHidden_ = false;
+  bool extraBalls_ = false;
   LineColumns untitled_;
   std::vector<std::string> titles_;
   Game game_ = Game::powerBall;

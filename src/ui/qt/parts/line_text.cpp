@@ -39,19 +39,24 @@ std::vector<std::string_view> fieldsOf(std::string_view line) {
   return fields;
 }
 
-std::string csvLine(std::string_view line) {
+std::string csvLine(std::span<const std::string> fields) {
   std::string text;
-  for (const std::string_view field : fieldsOf(line)) {
-    if (!text.empty()) text += ',';
-    if (field.find_first_of(",\"\r\n") == std::string_view::npos) {
-      text += field;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (i > 0) text += ',';
+    if (fields[i].find_first_of(",\"\r\n") == std::string_view::npos) {
+      text += fields[i];
       continue;
     }
     text += '"';
-    for (const char character : field) text.append(character == '"' ? 2 : 1, character);
+    for (const char character : fields[i]) text.append(character == '"' ? 2 : 1, character);
     text += '"';
   }
   return text;
+}
+
+std::string csvLine(std::string_view line) {
+  const std::vector<std::string_view> views = fieldsOf(line);
+  return csvLine(std::vector<std::string>(views.begin(), views.end()));
 }
 
 std::vector<TextRun> emphasisedRuns(std::string_view line, const std::vector<std::string>& texts) {

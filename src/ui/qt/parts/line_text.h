@@ -5,6 +5,7 @@
 #include "controls/text_lines.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,9 @@ namespace tallywick {
 /// The pieces of a line between its runs of blanks.
 std::vector<std::string_view> fieldsOf(std::string_view line);
 
-/// The fields of a line, separated by commas; a field with a comma or a quote is quoted. No line end.
+/// The fields separated by commas; a field with a comma or a quote is quoted. No line end.
+std::string csvLine(std::span<const std::string> fields);
+/// The same for the fields of a line.
 std::string csvLine(std::string_view line);
 
 struct TextRun {

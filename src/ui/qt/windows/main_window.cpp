@@ -57,6 +57,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     searches_->showHints();
     greyUnset();
     winnings_->showChanges();
+    draws_->showChanges();
   };
   binding().onPress = [this, press = binding().onPress](Control& control) {
     if (!mayPress(control)) return;
@@ -75,7 +76,8 @@ void MainWindow::addPages() {
   pages_->addTab(searches_, u"Sear&ches"_s);
   winnings_ = new WinningsView(main_, *this);
   pages_->addTab(winnings_, u"&Winnings"_s);
-  pages_->addTab(new DrawsView(main_.draws, binding()), u"&Draws"_s);
+  draws_ = new DrawsView(main_, binding());
+  pages_->addTab(draws_, u"&Draws"_s);
   pages_->setCornerWidget(gameShown());
   binding().bind(main_.bar.SSTab1, *pages_);
 

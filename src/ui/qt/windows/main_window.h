@@ -14,6 +14,7 @@ class QTabWidget;
 namespace tallywick {
 
 class MadeUpStrip;
+class DrawsView;
 class MainForm;
 class NavigationBarView;
 class SearchView;
@@ -53,6 +54,7 @@ class MainWindow : public FormWindow {
   QLabel* doublePlayNote_;
   QTabWidget* pages_;
   QPointer<LineList> lastList_;
+  DrawsView* draws_ = nullptr;
   SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
 };
