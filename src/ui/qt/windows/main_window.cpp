@@ -44,7 +44,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       main_(form),
       bar_(new NavigationBarView(form, *this)),
       madeUp_(new MadeUpStrip(*this)),
-      doublePlayNote_(new QLabel),
+      doublePlayNote_(sentences(this)),
       pages_(new QTabWidget) {
   addPages();
   addMenusAndStatus();
@@ -81,8 +81,6 @@ void MainWindow::addPages() {
   pages_->setCornerWidget(gameShown());
   binding().bind(main_.bar.SSTab1, *pages_);
 
-  doublePlayNote_->setTextFormat(Qt::PlainText);
-  doublePlayNote_->setWordWrap(true);
   doublePlayNote_->hide();
   auto* content = new QWidget;
   auto* column = columnIn(content, theme::gap);

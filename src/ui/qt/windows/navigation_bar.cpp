@@ -70,7 +70,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
       powerBall_(gameSwitch(this)),
       megaMillions_(gameSwitch(this)),
       transfer_(new TransferPanel(this)),
-      note_(new QLabel(this)),
+      note_(sentences(this)),
       again_(new QPushButton(u"Fetch A&gain"_s, this)) {
   auto* selection = new QPushButton(this);
   auto* update = new QPushButton(this);
@@ -121,8 +121,6 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
 
 QWidget* NavigationBarView::updateNote() {
   auto* box = new QWidget(this);
-  note_->setTextFormat(Qt::PlainText);
-  note_->setWordWrap(true);
   note_->setMinimumWidth(20 * theme::gap);
   again_->setToolTip(u"Asks once more for the draws of both games"_s);
   auto* line = new QHBoxLayout(box);
@@ -142,6 +140,10 @@ void NavigationBarView::showGame() {
   showSide(*megaMillions_, game == &megaMillions);
   const QString note = window_.desk().updateNote ? toQString(window_.desk().updateNote()) : QString();
   note_->setText(note);
+  // A new text lets the label's height follow from its width again, and then the pages scroll.
+  QSizePolicy policy = note_->sizePolicy();
+  policy.setHeightForWidth(false);
+  note_->setSizePolicy(policy);
   again_->setAccessibleDescription(note);
   note_->parentWidget()->setVisible(!note.isEmpty() && transfer_->isHidden());
 }
