@@ -218,7 +218,11 @@ TransferPanel* QtPlatform::transferPanel() const {
 }
 
 void QtPlatform::endTransfer() {
-  if (TransferPanel* panel = transferPanel()) panel->end();
+  if (TransferPanel* panel = transferPanel(); panel != nullptr && !panel->isHidden()) {
+    panel->end();
+    // What had made room for it comes back.
+    showChanges();
+  }
   for (const QPointer<FormWindow>& window : std::exchange(closing_, {})) {
     if (window) window->close();
   }
