@@ -4,6 +4,7 @@
 #include "app/draws_note.h"
 #include "app/game_pages.h"
 #include "app/sample_plays.h"
+#include "core/runtime_error.h"
 #include "core/text.h"
 #include "exports/made_up.h"
 #include "update/maintenance.h"
@@ -99,6 +100,12 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
 bool Application::fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
   StatusBar& status = main_->update.StatusBar1;
   const GameInfo* asked = games.front();
+  const auto fail = [this, &status, &asked](std::string_view why) {
+    status.setPanel(1, "");
+    showMessage(surroundings_.platform,
+                join("The draws of ", asked->name, " could not be fetched. Nothing was changed.\n\n", why),
+                MessageBox::Icon::exclamation);
+  };
   try {
     for (const GameInfo* game : games) {
       asked = game;
@@ -109,12 +116,11 @@ bool Application::fetchAll(FetchedExports& exports, const std::vector<const Game
     return true;
   } catch (const TransferCancelled&) {
     status.setPanel(1, "The update was cancelled; nothing was changed");
+  } catch (const RuntimeError& error) {
+    // Names the address already.
+    fail(error.description());
   } catch (const std::exception& error) {
-    status.setPanel(1, "");
-    showMessage(
-        surroundings_.platform,
-        join("The draws of ", asked->name, " could not be fetched. Nothing was changed.\n\n", error.what()),
-        MessageBox::Icon::exclamation);
+    fail(error.what());
   }
   return false;
 }

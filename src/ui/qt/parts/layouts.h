@@ -32,14 +32,18 @@ inline QLabel* heading(QWidget* parent, const QString& text = {}) {
 
 /// Sentences under each other, which wrap where they are long. The label's height does not follow from its
 /// width: where it does on one page, each page gets the height that it would like to have, and scrolls.
+class Sentences : public QLabel {
+ public:
+  explicit Sentences(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+  }
+  /// The toolkit's answer changes with each text.
+  bool hasHeightForWidth() const override { return false; }
+};
+
 inline QLabel* sentences(QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  QSizePolicy policy = label->sizePolicy();
-  policy.setHeightForWidth(false);
-  label->setSizePolicy(policy);
-  return label;
+  return new Sentences(parent);
 }
 
 inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {

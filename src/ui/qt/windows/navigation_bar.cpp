@@ -140,10 +140,6 @@ void NavigationBarView::showGame() {
   showSide(*megaMillions_, game == &megaMillions);
   const QString note = window_.desk().updateNote ? toQString(window_.desk().updateNote()) : QString();
   note_->setText(note);
-  // A new text lets the label's height follow from its width again, and then the pages scroll.
-  QSizePolicy policy = note_->sizePolicy();
-  policy.setHeightForWidth(false);
-  note_->setSizePolicy(policy);
   again_->setAccessibleDescription(note);
   note_->parentWidget()->setVisible(!note.isEmpty() && transfer_->isHidden());
 }
