@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "display/winning_tickets.h"
 #include "plays/check_explained.h"
+#include "plays/glance.h"
 #include "plays/play_changes.h"
 #include "plays/play_table.h"
 #include "plays/ticket.h"
@@ -80,6 +81,39 @@ TEST_F(MyPlays, AreInOneTableWithTheirSumsByYear) {
               ElementsAre(testing::HasSubstr("QZR6PWR1.Ply, record 2"),
                           "Drawn, and left among the next plays: 12-30-2025.",
                           "Moved to the played plays before their draw: 01-07-2026."));
+}
+
+TEST_F(MyPlays, AreSeenAtAGlance) {
+  const auto texts = [this](const Clock* now) {
+    const Glance seen = glanceAt(powerBall, scratch.folder(), now);
+    return join(seen.newest.text, "|", seen.next.text, "|", seen.waiting.text, "|", seen.wins.text);
+  };
+  const std::string wins = "|3, of which 3 won";
+  struct Row {
+    const char* date;
+    const char* time;
+    std::string nextAndWaiting;
+    bool isBehind = false;
+  };
+  for (const Row& row : {Row{"12-20-2025", "12:00:00", "Sat 01-03-2026|no plays (2 in all)"},
+                         Row{"01-03-2026", "12:00:00", "today, Sat 01-03-2026|no plays (2 in all)"},
+                         Row{"01-03-2026", "23:30:00", "Mon 01-05-2026|no plays (2 in all)", true},
+                         Row{"01-07-2026", "12:00:00", "today, Wed 01-07-2026|1 play (2 in all)", true}}) {
+    const StandingClock now(row.date, row.time);
+    EXPECT_EQ(texts(&now), join("Fri 01-02-2026|", row.nextAndWaiting, wins)) << row.date << row.time;
+    const std::string tip = glanceAt(powerBall, scratch.folder(), &now).newest.tip;
+    EXPECT_EQ(tip.find("Newer draws") != std::string::npos, row.isBehind) << tip;
+  }
+  EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026|no plays (2 in all)" + wins);
+  write(waiting + "\"01-1", "");
+  EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026|no plays (1 in all)|none yet");
+  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), nullptr).wins.tip,
+              testing::HasSubstr("QZR6PWR1.Ply, record 2"));
+  std::filesystem::remove(scratch.folder().resolve(game("QZRNUM72.Dat")));
+  EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026||");
+  scratch.write(game("QZRNUM6.Dat"), "");
+  EXPECT_EQ(texts(nullptr), "|||");
+  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), nullptr).waiting.tip, testing::HasSubstr("QZRNUM72.Dat"));
 }
 
 TEST_F(MyPlays, AChangeIsUndoneToTheByteAndWhatGoesStaysInACopy) {

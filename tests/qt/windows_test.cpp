@@ -288,6 +288,34 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   EXPECT_TRUE(boxText.startsWith(QStringLiteral("The play files have changed"))) << boxText.toStdString();
 }
 
+TEST_F(Windows, ShowTheGameAtAGlanceAndLeadToItsPages) {
+  writeRecordBook(scratch);
+  platform.clock = &clock;
+  FormWindow& main = open("Form1");
+  const auto press = [this](const char* name) {
+    QTest::keyClick(&named<QAbstractButton>("Form1", QString::fromLatin1(name)), Qt::Key_Return);
+  };
+  const auto& pages = *main.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+  const auto& plays = *named<QTableView>("Form1", QStringLiteral("My plays")).model();
+  press("Drawn plays: 2, of which 1 won");
+  EXPECT_EQ(pages.currentIndex(), 2);
+  EXPECT_TRUE(named<QTableView>("Form1", QStringLiteral("My plays")).isVisible());
+  EXPECT_EQ(plays.index(0, 0).data().toString(), QStringLiteral("Mon 12-28-2026"));
+  EXPECT_EQ(plays.rowCount(), 1);
+  press("Newest PowerBall draw: Mon 12-28-2026 01 02 03 04 05 and 01");
+  EXPECT_EQ(pages.currentIndex(), 0);
+  press("Next draw: Wed 12-30-2026");
+  EXPECT_EQ(plays.index(0, 0).data().toString(), QStringLiteral("Wed 12-30-2026"));
+  platform.run([this] { scratch.write("QzrNumbers/QZR6PWR/QZR6PWR1.Ply", ""); });
+  press("Waiting for it: no plays");
+  EXPECT_EQ(plays.rowCount(), 0);
+  platform.run([this] { std::filesystem::remove(scratch.root() / "QzrNumbers/QZR6PWR/QZRNUM6.Dat"); });
+  const auto& newest = named<QAbstractButton>("Form1", QStringLiteral("Newest PowerBall draw: not known"));
+  EXPECT_TRUE(newest.toolTip().contains(QStringLiteral("File not found"))) << newest.toolTip().toStdString();
+  platform.run([this] { click(*application.find("Form1")->find("Command4")); });
+  press("Newest Mega Millions draw: Mon 12-28-2026 01 02 03 04 05 and 01");
+}
+
 TEST_F(Windows, SelectedPlaysAreNotDroppedWithoutAQuestion) {
   platform.onPlaysSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR9.Sel", "\"01  03  34  53  63  11\"\r\n");

@@ -172,6 +172,11 @@ void MyPlaysView::refresh() {
   enableActions();
 }
 
+void MyPlaysView::showOnly(PlayFilter filter) {
+  filter_->setCurrentIndex(static_cast<int>(filter));
+  table_->setFocus();
+}
+
 bool MyPlaysView::read() {
   const GameInfo* const shownGame = std::exchange(game_, &actions_.game());
   Judgement judgement;

@@ -27,6 +27,8 @@ class MyPlaysView : public QWidget {
 
   /// Reads the plays anew where the page is visible.
   void refresh();
+  /// Shows what the filter lets through, and takes the focus there.
+  void showOnly(PlayFilter filter);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -99,6 +99,11 @@ void WinningsView::showChanges() {
   ticket_->refresh();
 }
 
+void WinningsView::showMyPlays(PlayFilter filter) {
+  setCurrentWidget(myPlays_);
+  myPlays_->showOnly(filter);
+}
+
 QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
   auto* page = new QWidget;
   auto* lists = splitter(Qt::Horizontal, u"plays"_s);

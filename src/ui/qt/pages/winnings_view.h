@@ -3,6 +3,7 @@
 // Plays and a ticket that is typed in, which are the window's own.
 #pragma once
 
+#include "plays/play_table.h"
 #include "ui/qt/pages/play_actions.h"
 
 #include <QTabWidget>
@@ -23,6 +24,7 @@ class WinningsView : public QTabWidget {
 
   /// To be called after every change of the model.
   void showChanges();
+  void showMyPlays(PlayFilter filter);
 
  private:
   QWidget* plays(MainForm& form, Binding& binding);

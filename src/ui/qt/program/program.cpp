@@ -89,6 +89,7 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
   platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
   platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
   platform.onDoublePlayNote = [&application] { return doublePlayNote(application.surroundings().folder); };
+  platform.clock = &application.surroundings().clock;
   platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };
   platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
   platform.onStartRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };

@@ -164,7 +164,8 @@ void QtPlatform::openWindow(Form& form) {
                      onShowsMadeUpDraws,
                      onStartRealBook,
                      onEditDraws,
-                     onDoublePlayNote};
+                     onDoublePlayNote,
+                     clock};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);
   window->move(centred(*window));

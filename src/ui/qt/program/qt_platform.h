@@ -36,6 +36,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void()> onStartRealBook;
   std::function<void()> onEditDraws;
   std::function<std::string()> onDoublePlayNote;
+  /// For what the windows say of today; null where the time plays no part.
+  const Clock* clock = nullptr;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

@@ -12,6 +12,8 @@
 
 namespace tallywick {
 
+class Clock;
+
 /// What a window needs of the program.
 struct Desk {
   HandlerRunner& runner;
@@ -44,6 +46,8 @@ struct Desk {
   std::function<void()> editDraws = {};
   /// For which draws there are Double Play numbers; empty where for all.
   std::function<std::string()> doublePlayNote = {};
+  /// The program's clock; null where the time plays no part.
+  const Clock* clock = nullptr;
 };
 
 class TransferPanel;

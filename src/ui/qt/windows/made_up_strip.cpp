@@ -5,6 +5,7 @@
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/windows/form_window.h"
 
+#include <QPainter>
 #include <QPushButton>
 
 namespace tallywick {
@@ -13,12 +14,8 @@ using namespace Qt::StringLiterals;
 
 MadeUpStrip::MadeUpStrip(FormWindow& window) : window_(window) {
   setFrameShape(QFrame::StyledPanel);
-  setBackgroundRole(QPalette::ToolTipBase);
-  setForegroundRole(QPalette::ToolTipText);
-  setAutoFillBackground(true);
   auto* text = new QLabel(
-      u"<b>Sample draws.</b> These draws were made up and never took place; an update brings the real ones into this folder."_s);
-  text->setForegroundRole(QPalette::ToolTipText);
+      u"<b>Sample draws.</b> They never took place; an update brings the real ones into this folder."_s);
   text->setWordWrap(true);
   QSizePolicy policy = text->sizePolicy();
   policy.setHeightForWidth(false);
@@ -33,6 +30,12 @@ MadeUpStrip::MadeUpStrip(FormWindow& window) : window_(window) {
   connect(start, &QPushButton::clicked, &window_,
           [this] { window_.desk().runner.attempt([this] { window_.desk().startRealBook(); }); });
   showGame();
+}
+
+void MadeUpStrip::paintEvent(QPaintEvent* event) {
+  const QColor amber(255, 190, 0);
+  QPainter(this).fillRect(rect(), theme::mixed(palette().color(QPalette::Window), amber, 0.2));
+  QFrame::paintEvent(event);
 }
 
 void MadeUpStrip::showGame() {

@@ -14,6 +14,9 @@ class MadeUpStrip : public QFrame {
   /// Appears with made-up draws and goes with real ones.
   void showGame();
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   FormWindow& window_;
 };

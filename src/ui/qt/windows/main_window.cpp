@@ -9,6 +9,7 @@
 #include "ui/qt/pages/winnings_view.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/windows/glance_strip.h"
 #include "ui/qt/windows/layout_memory.h"
 #include "ui/qt/windows/made_up_strip.h"
 #include "ui/qt/windows/menu_bar.h"
@@ -44,15 +45,18 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       main_(form),
       bar_(new NavigationBarView(form, *this)),
       madeUp_(new MadeUpStrip(*this)),
+      glance_(new GlanceStrip(form, *this)),
       doublePlayNote_(sentences(this)),
       pages_(new QTabWidget) {
   addPages();
   addMenusAndStatus();
   addKeys();
+  followGlance();
   greyUnset();
   binding().afterChanges = [this] {
     bar_->showGame();
     madeUp_->showGame();
+    glance_->showGame();
     showDoublePlayNote();
     searches_->showHints();
     greyUnset();
@@ -86,6 +90,7 @@ void MainWindow::addPages() {
   auto* column = columnIn(content, theme::gap);
   column->addWidget(madeUp_);
   column->addWidget(bar_);
+  column->addWidget(glance_);
   column->addWidget(doublePlayNote_);
   column->addWidget(pages_, 1);
   // On a screen too small for the pages they scroll.
@@ -183,6 +188,18 @@ void MainWindow::addFileEntries() {
   file->insertSeparator(exit);
   file->insertActions(exit, {settings});
   file->insertSeparator(exit);
+}
+
+void MainWindow::followGlance() {
+  constexpr int summary = 0;
+  constexpr int winnings = 2;
+  glance_->onNewest = [this] { pages_->setCurrentIndex(summary); };
+  const auto showPlays = [this](PlayFilter filter) {
+    pages_->setCurrentIndex(winnings);
+    winnings_->showMyPlays(filter);
+  };
+  glance_->onWaiting = [showPlays] { showPlays(PlayFilter::waiting); };
+  glance_->onWins = [showPlays] { showPlays(PlayFilter::won); };
 }
 
 QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {

@@ -13,6 +13,7 @@ class QTabWidget;
 
 namespace tallywick {
 
+class GlanceStrip;
 class MadeUpStrip;
 class DrawsView;
 class MainForm;
@@ -36,6 +37,8 @@ class MainWindow : public FormWindow {
   void addDrawsEntry();
   void showDoublePlayNote();
   void addKeys();
+  /// Lets the parts of the strip lead to their pages.
+  void followGlance();
   /// The window's own entries of the menu File, over Exit.
   void addFileEntries();
   /// An entry that does to the list in use what the list's own action of that text does.
@@ -51,6 +54,7 @@ class MainWindow : public FormWindow {
   MainForm& main_;
   NavigationBarView* bar_;
   MadeUpStrip* madeUp_;
+  GlanceStrip* glance_;
   QLabel* doublePlayNote_;
   QTabWidget* pages_;
   QPointer<LineList> lastList_;

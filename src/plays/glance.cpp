@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plays/glance.h"
+
+#include "core/clock.h"
+#include "core/data_folder.h"
+#include "core/draws.h"
+#include "core/eras.h"
+#include "core/text.h"
+#include "core/words.h"
+#include "plays/play_table.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace tallywick {
+
+namespace {
+
+/// "1 play", "12 plays".
+std::string playCount(std::size_t plays) {
+  return plays == 0 ? "no plays" : join(std::to_string(plays), plays == 1 ? " play" : " plays");
+}
+
+/// The day of the draw; none where it has none, or cannot be read.
+std::optional<Day> addNewest(Glance& glance, const GameInfo& game, const DataFolder& folder) {
+  try {
+    SequentialReader reader(folder, inFolder(game, drawsFile));
+    if (reader.atEnd()) {
+      glance.newest.tip = join("There is no draw of ", game.name, " in the record book yet.");
+      return std::nullopt;
+    }
+    const Draw draw = drawOf(reader.record<drawFields>());
+    glance.newest.text = weekdayDate(draw.displayDate());
+    Glance::Balls& balls = glance.balls.emplace();
+    std::ranges::transform(draw.white, balls.white.begin(), trimmed);
+    balls.extra = trimmed(draw.extra);
+    glance.newest.tip = join("The newest draw of ", game.name, " in the record book.");
+    return parseDay(draw.month, draw.day, draw.year);
+  } catch (const std::exception& error) {
+    glance.newest.tip = join("The draws cannot be read: ", error.what());
+    return std::nullopt;
+  }
+}
+
+std::optional<Day> addNext(Glance& glance, const GameInfo& game, std::optional<Day> newest,
+                           const Clock* clock) {
+  const std::optional<Day> today = clock != nullptr ? parseDay(clock->date()) : std::nullopt;
+  std::optional<Day> last = newest;
+  if (today) {
+    const Day drawn = lastDrawnDay(clock->date(), clock->time());
+    last = newest ? std::max(*newest, drawn) : drawn;
+    if (newest && drawDayAfter(game.game, *newest) <= drawn) {
+      glance.newest.tip += " Newer draws have taken place; Update looks for them.";
+    }
+  }
+  if (!last) {
+    glance.next.tip = "The next draw is not known while no draw is.";
+    return std::nullopt;
+  }
+  const Day next = drawDayAfter(game.game, *last);
+  glance.next.text = join(next == today ? "today, " : "", weekdayDate(next));
+  glance.next.tip = join("The day of the next draw of ", game.name, ".");
+  return next;
+}
+
+void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> next) {
+  std::size_t all = 0;
+  std::size_t forNext = 0;
+  std::size_t drawn = 0;
+  std::size_t won = 0;
+  for (const JudgedPlay& play : judgement.plays) {
+    if (play.state == DrawState::waiting) {
+      ++all;
+      if (play.day == next) ++forNext;
+    }
+    if (play.state == DrawState::drawn || isWinner(play)) ++drawn;
+    if (isWinner(play)) ++won;
+  }
+  glance.waiting.text =
+      join(playCount(forNext), forNext == all ? "" : join(" (", std::to_string(all), " in all)"));
+  glance.waiting.tip = "How many of your plays wait for the next draw";
+  glance.waiting.tip += forNext == all ? "." : ", and in all.";
+  glance.wins.text = drawn == 0 ? "none yet"
+                     : won == 0 ? join(std::to_string(drawn), ", none won")
+                                : join(std::to_string(drawn), ", of which ", std::to_string(won), " won");
+  glance.wins.tip =
+      "How many of your plays were drawn, and how many of them won in the draw of their own day.";
+  for (const std::string& torn : judgement.torn) {
+    for (Glance::Part* part : {&glance.waiting, &glance.wins})
+      part->tip += join(" A file ends in the middle of a record and is judged up to there: ", torn, ".");
+  }
+}
+
+}  // namespace
+
+Glance glanceAt(const GameInfo& game, const DataFolder& folder, const Clock* clock) {
+  Glance glance;
+  const std::optional<Day> newest = addNewest(glance, game, folder);
+  const std::optional<Day> next = addNext(glance, game, newest, clock);
+  try {
+    addPlays(glance, judgePlays(game, folder), next);
+  } catch (const std::exception& error) {
+    glance.waiting.tip = glance.wins.tip = join("The plays cannot be judged: ", error.what());
+  }
+  return glance;
+}
+
+}  // namespace tallywick
