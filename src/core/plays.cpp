@@ -6,6 +6,8 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace tallywick {
 
 std::string Play::dateKey() const {
@@ -38,6 +40,57 @@ void appendRecord(std::string& text, const Play& play) {
   text.append("\"").append(play.date);
   for (std::string_view number : play.main) text.append("\",\"").append(number);
   text.append("\",\"").append(play.extra).append("\",\"").append(play.decades).append("\"\r\n");
+}
+
+namespace {
+
+/// The length of the first line of `text` with its end, CR LF, LF or CR.
+std::size_t lineLength(std::string_view text) {
+  const std::size_t end = std::min(text.find('\n'), text.find('\r'));
+  if (end == std::string_view::npos) return text.size();
+  return end + (text.substr(end).starts_with("\r\n") ? 2 : 1);
+}
+
+std::size_t lineAt(std::string_view text, std::size_t position) {
+  std::size_t line = 1;
+  for (std::size_t begin = lineLength(text); begin <= position && begin < text.size(); ++line)
+    begin += lineLength(text.substr(begin));
+  return line;
+}
+
+}  // namespace
+
+WholePlays wholePlays(std::string_view text, const std::string& name) {
+  WholePlays whole;
+  const auto tear = [&](const std::string& where) {
+    if (!whole.torn.empty()) return;
+    whole.torn = where;
+    whole.beforeTorn = whole.plays.size();
+  };
+  SequentialReader reader(text, name);
+  std::size_t before = 0;
+  try {
+    while (!reader.atEnd()) {
+      const std::size_t begin = before + reader.position();
+      const Play play = playOf(reader.record<playFields>());
+      const std::size_t line = lineLength(text.substr(begin));
+      if (before + reader.position() <= begin + line) {
+        whole.plays.push_back(play);
+        whole.ends.push_back(before + reader.position());
+        continue;
+      }
+      const std::size_t number = lineAt(text, begin);
+      if (!whole.brokenLine) whole.brokenLine = number;
+      tear(join(name, ", line ", std::to_string(number), ": the record goes on in the next line"));
+      before = begin + line;
+      reader = SequentialReader(text.substr(before), name);
+    }
+  } catch (const RuntimeError& error) {
+    if (!error.is(ErrorNumber::inputPastEnd)) throw;
+    tear(error.where());
+  }
+  if (whole.torn.empty()) whole.beforeTorn = whole.plays.size();
+  return whole;
 }
 
 SequentialReader openPlays(const DataFolder& folder, std::string_view written) {

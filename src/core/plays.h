@@ -6,6 +6,8 @@
 #include "core/sequential_reader.h"
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,6 +52,27 @@ void appendRecord(std::string& text, const Play& play);
 
 /// Opens a play file for use record by record. A missing file reads as an empty one.
 SequentialReader openPlays(const DataFolder& folder, std::string_view written);
+
+/// The plays of a text that are each within one line. A record that lacks fields goes on in the next line and
+/// takes the numbers of another play for its own: it is no play.
+struct WholePlays {
+  /// Views into the text, those behind a torn record among them.
+  std::vector<Play> plays;
+  /// Where each record ends in the text, behind its separator.
+  std::vector<std::size_t> ends;
+  /// How many of them come before the first torn record.
+  std::size_t beforeTorn = 0;
+  /// The line, from 1, of the first record that goes on in the next line.
+  std::optional<std::size_t> brokenLine;
+  /// Where the first torn record is, which goes on in the next line or is cut short at the end; empty where
+  /// each is whole.
+  std::string torn;
+
+  std::size_t end() const { return ends.empty() ? 0 : ends.back(); }
+};
+
+/// `name` is the file's.
+WholePlays wholePlays(std::string_view text, const std::string& name);
 
 /// A play file, read whole. A missing file contains no plays.
 class PlayFile {

@@ -38,19 +38,19 @@ std::optional<Day> dayOfDraw(const Draw& draw) {
 }
 
 void addPlays(const GameInfo& game, PlaySlot slot, std::string_view text, Judgement& judgement) {
-  std::size_t number = 0;
-  forEachWhole<playFields>(text, playFileName(game, slot), judgement, [&](const Fields<playFields>& record) {
-    const Play play = playOf(record);
-    ++number;
-    if (trimmed(play.date) == noPlayDate) return;
+  const WholePlays whole = wholePlays(text, playFileName(game, slot));
+  if (!whole.torn.empty()) judgement.torn.push_back(whole.torn);
+  for (std::size_t i = 0; i < whole.beforeTorn; ++i) {
+    const Play& play = whole.plays[i];
+    if (trimmed(play.date) == noPlayDate) continue;
     JudgedPlay& judged = judgement.plays.emplace_back();
     judged.file = slot;
-    judged.record = number;
+    judged.record = i + 1;
     judged.date = play.date;
     judged.day = parseDay(trimmed(play.date));
     std::ranges::copy(play.main, judged.white.begin());
     judged.extra = play.extra;
-  });
+  }
 }
 
 PlaysByDay byDay(const Judgement& judgement) {

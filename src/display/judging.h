@@ -64,7 +64,7 @@ struct JudgedPlay {
 struct Judgement {
   /// The committed plays, then the played ones, in file order, but for records that are no real plays.
   std::vector<JudgedPlay> plays;
-  /// For each file that ends in a cut record: its name and what is missing. What comes before is judged.
+  /// For each file with a torn record: its name, and where the first one is. What comes before is judged.
   std::vector<std::string> torn;
 
   bool operator==(const Judgement&) const = default;

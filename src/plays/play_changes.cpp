@@ -6,7 +6,6 @@
 #include "core/day.h"
 #include "core/file_commit.h"
 #include "core/plays.h"
-#include "core/runtime_error.h"
 #include "core/text.h"
 #include "display/judging.h"
 
@@ -22,30 +21,6 @@ namespace {
 
 constexpr std::array slots = {PlaySlot::committed, PlaySlot::played};
 
-/// The whole records of a play file; one that is cut short at the end is not among them.
-struct Records {
-  /// Views into the text.
-  std::vector<Play> plays;
-  /// Where each record ends in the text.
-  std::vector<std::size_t> ends;
-
-  std::size_t end() const { return ends.empty() ? 0 : ends.back(); }
-};
-
-Records recordsOf(std::string_view text) {
-  Records records;
-  SequentialReader reader(text, {});
-  try {
-    forEachRecord<playFields>(reader, [&](const Fields<playFields>& record) {
-      records.plays.push_back(playOf(record));
-      records.ends.push_back(reader.position());
-    });
-  } catch (const RuntimeError& error) {
-    if (!error.is(ErrorNumber::inputPastEnd)) throw;
-  }
-  return records;
-}
-
 std::string recordText(const Play& play) {
   std::string text;
   appendRecord(text, play);
@@ -55,7 +30,7 @@ std::string recordText(const Play& play) {
 /// `text` with each whole record in lines of its own and a line end behind the last one. Nearly every file is
 /// so already and keeps its bytes.
 std::string inLines(std::string_view text) {
-  const Records records = recordsOf(text);
+  const WholePlays records = wholePlays(text, {});
   const auto endsLine = [&](std::size_t end) { return text[end - 1] == '\n' || text[end - 1] == '\r'; };
   if (std::ranges::all_of(records.ends, endsLine)) return std::string(text);
   const bool onlyLast =
@@ -73,7 +48,7 @@ std::optional<Day> dayOf(const Play& play) {
 
 /// Before which record a play of that day goes: the committed plays have the oldest day first, the played
 /// ones the newest.
-std::size_t placeFor(std::optional<Day> day, PlaySlot file, const Records& records) {
+std::size_t placeFor(std::optional<Day> day, PlaySlot file, const WholePlays& records) {
   const bool isPlayed = file == PlaySlot::played;
   const auto found = std::ranges::find_if(records.plays, [&](const Play& play) {
     const std::optional<Day> other = dayOf(play);
@@ -96,7 +71,7 @@ void insertAll(PlayTexts& texts, PlaySlot file, std::vector<Play> plays) {
   std::string& text = textIn(texts, file);
   for (const Play& play : plays) {
     text = inLines(text);
-    const Records records = recordsOf(text);
+    const WholePlays records = wholePlays(text, {});
     const std::size_t place = placeFor(dayOf(play), file, records);
     text.insert(place == 0 ? 0 : records.ends[place - 1], recordText(play));
   }
@@ -105,7 +80,7 @@ void insertAll(PlayTexts& texts, PlaySlot file, std::vector<Play> plays) {
 /// Cuts records out, by their numbers from 1.
 void cutOut(std::string& text, std::vector<std::size_t> numbers) {
   text = inLines(text);
-  const Records records = recordsOf(text);
+  const WholePlays records = wholePlays(text, {});
   std::ranges::sort(numbers, std::ranges::greater());
   for (const std::size_t number : numbers) {
     const std::size_t begin = number == 1 ? 0 : records.ends.at(number - 2);
@@ -118,7 +93,7 @@ class PlayCounts {
  public:
   explicit PlayCounts(const PlayTexts& texts) {
     for (const PlaySlot slot : slots) {
-      for (const Play& play : recordsOf(textIn(texts, slot)).plays) ++counts_[recordText(play)];
+      for (const Play& play : wholePlays(textIn(texts, slot), {}).plays) ++counts_[recordText(play)];
     }
   }
   /// Takes one away; false where there is none.
@@ -131,7 +106,7 @@ class PlayCounts {
 /// The real plays of `text` that are not among `others`.
 std::vector<Play> playsMissing(PlayCounts others, std::string_view text) {
   std::vector<Play> missing;
-  for (const Play& play : recordsOf(text).plays) {
+  for (const Play& play : wholePlays(text, {}).plays) {
     if (!others.take(play) && play.isListed()) missing.push_back(play);
   }
   return missing;
@@ -173,6 +148,7 @@ class OneChange {
                   std::string_view playedCopy) {
     change_.what = std::move(what);
     change_.after = std::move(after);
+    for (const PlaySlot slot : slots) requireWholeLines(slot);
     for (const PlaySlot slot : slots) keepWhatGoes(slot);
     stage(PlaySlot::committed, committedCopy);
     stage(PlaySlot::played, playedCopy);
@@ -182,6 +158,14 @@ class OneChange {
   }
 
  private:
+  bool changes(PlaySlot slot) const { return textIn(change_.after, slot) != textIn(change_.before, slot); }
+  /// A record that goes on in the next line can be put into no place of its own.
+  void requireWholeLines(PlaySlot slot) const {
+    if (!changes(slot)) return;
+    const WholePlays whole = wholePlays(textIn(change_.before, slot), playFileName(game_, slot));
+    if (whole.brokenLine)
+      throw std::runtime_error(join(whole.torn, ". Nothing was done; mend or delete that line."));
+  }
   void keepWhatGoes(PlaySlot slot) {
     if (playsMissing(PlayCounts(change_.after), textIn(change_.before, slot)).empty()) return;
     const std::string name = playFileName(game_, slot);
@@ -189,7 +173,7 @@ class OneChange {
   }
   void stage(PlaySlot slot, std::string_view copy) {
     const std::string& text = textIn(change_.after, slot);
-    if (text == textIn(change_.before, slot)) return;
+    if (!changes(slot)) return;
     files_.stage(playFileName(game_, slot), text);
     files_.stage(saveFileName(game_, slot), copy);
   }
@@ -244,7 +228,7 @@ PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std
   OneChange change(game_, folder_, clock_);
   change.require(shown);
   PlayTexts after = shown;
-  const Records committed = recordsOf(shown.committed);
+  const WholePlays committed = wholePlays(shown.committed, {});
   std::vector<Play> moved;
   for (const std::size_t number : records) moved.push_back(committed.plays.at(number - 1));
   insertAll(after, PlaySlot::played, std::move(moved));
@@ -255,7 +239,7 @@ PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std
 PlayChange PlayChanges::add(PlaySlot file, std::string_view record) const {
   OneChange change(game_, folder_, clock_);
   PlayTexts after = change.before();
-  insertAll(after, file, {recordsOf(record).plays.at(0)});
+  insertAll(after, file, {wholePlays(record, {}).plays.at(0)});
   return change.make("1 play added", std::move(after));
 }
 
@@ -266,7 +250,7 @@ std::vector<PlayCopy> PlayChanges::copies() const {
   for (const PlaySlot slot : slots) {
     for (const DatedCopy& copy : datedCopies(folder, playFileName(game_, slot))) {
       const os::FileBytes bytes = os::readFile(folder / pathOf(copy.name));
-      const auto plays = std::ranges::count_if(recordsOf(bytes.view()).plays, &Play::isListed);
+      const auto plays = std::ranges::count_if(wholePlays(bytes.view(), {}).plays, &Play::isListed);
       copies.push_back({copy.name, copy.date, static_cast<std::size_t>(plays),
                         playsMissing(present, bytes.view()).size()});
     }

@@ -164,7 +164,7 @@ YearSums totalOf(const std::vector<YearSums>& years) {
 std::vector<std::string> noticesOn(const Judgement& judgement) {
   std::vector<std::string> notices;
   for (const std::string& torn : judgement.torn) {
-    notices.push_back(join("A file ends in the middle of a record and is judged up to there: ", torn, "."));
+    notices.push_back(join("A record is torn, and the file is judged up to there: ", torn, "."));
   }
   if (const std::string dates = datesOf(judgement, Misplaced::leftBehind); !dates.empty()) {
     notices.push_back(join("Drawn, and left among the next plays: ", dates, "."));

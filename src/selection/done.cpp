@@ -4,7 +4,6 @@
 #include "core/eras.h"
 #include "core/file_commit.h"
 #include "core/plays.h"
-#include "core/runtime_error.h"
 #include "core/text.h"
 #include "selection/draw_dates.h"
 #include "selection/obstacles.h"
@@ -84,21 +83,13 @@ NextPlays nextPlays(const SelectionForm& form, const PlayFile& current, int draw
 /// The committed plays before a Done.
 struct EarlierFile {
   explicit EarlierFile(const SelectionForm& form)
-      : reader(openPlays(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed))) {
-    try {
-      forEachRecord<playFields>(reader,
-                                [&](const Fields<playFields>& record) { plays.push_back(playOf(record)); });
-    } catch (const RuntimeError& error) {
-      if (!error.is(ErrorNumber::inputPastEnd)) throw;
-      isTorn = true;
-    }
-  }
+      : reader(openPlays(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed))),
+        whole(wholePlays(reader.text(), playFileName(form.game, PlaySlot::committed))) {}
+
+  bool isTorn() const { return !whole.torn.empty(); }
 
   SequentialReader reader;
-  /// Views into the reader's text.
-  std::vector<Play> plays;
-  /// Whether the last record is cut short, so that `plays` lacks it.
-  bool isTorn = false;
+  WholePlays whole;
 };
 
 /// The earlier plays that are not among `next`. A play that is there twice needs two equal ones to stay.
@@ -128,11 +119,11 @@ Committed commit(const SelectionForm& form, int draws) {
   PlayFile history(folder, playFilePath(form.game, PlaySlot::played));
   auto [dates, plays] = nextPlays(form, current, draws);
   const EarlierFile earlier(form);
-  const std::vector<Play> gone = playsNotAmong(plays, earlier.plays);
+  const std::vector<Play> gone = playsNotAmong(plays, earlier.whole.plays);
   const bool bothKept = form.earlierPlays == EarlierPlays::kept && !gone.empty();
   if (bothKept) plays.insert(plays.end(), gone.begin(), gone.end());
   const std::string name = playFileName(form.game, PlaySlot::committed);
-  const bool somethingGoes = earlier.isTorn || (!gone.empty() && !bothKept);
+  const bool somethingGoes = earlier.isTorn() || (!gone.empty() && !bothKept);
   const std::string copy = somethingGoes ? stageDatedCopy(files, name, form.surroundings.clock) : "";
   const std::string text = textOf(plays);
   // Entered for one draw the current plays change their name only, and keep every byte.
@@ -187,8 +178,9 @@ std::size_t playsThatWouldGo(const SelectionForm& form) {
   const EarlierFile earlier(form);
   try {
     const NextPlays next = nextPlays(form, current, drawCountOf(form.Label1.caption()));
-    const std::vector<Play> gone = playsNotAmong(next.plays, earlier.plays);
-    return static_cast<std::size_t>(std::ranges::count_if(gone, &Play::isListed)) + (earlier.isTorn ? 1 : 0);
+    const std::vector<Play> gone = playsNotAmong(next.plays, earlier.whole.plays);
+    return static_cast<std::size_t>(std::ranges::count_if(gone, &Play::isListed)) +
+           (earlier.isTorn() ? 1 : 0);
   } catch (const CalendarGap&) {
     return 0;
   }

@@ -30,7 +30,7 @@ bool finishEarlierChange(const SelectionForm& form);
 bool showsCurrentPlays(const SelectionForm& form);
 
 /// How many committed plays are not among those that Done would commit now; 0 where the calendar has a gap,
-/// which Done itself reports. A record that is cut short counts as a play.
+/// which Done itself reports. A file with a torn record has a play more.
 std::size_t playsThatWouldGo(const SelectionForm& form);
 
 /// Done: the current plays replace the committed ones, once for each draw of the draw count, or come before

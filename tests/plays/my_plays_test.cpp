@@ -168,6 +168,23 @@ TEST_F(MyPlays, OddFilesKeepWhatCannotBeUnderstood) {
   }
 }
 
+TEST_F(MyPlays, ARecordThatGoesOnInTheNextLineIsNoPlayAndStaysWhereItIs) {
+  const std::string torn = "\"01-08-2026\",\"01\",\"02\"\r\n";
+  const std::string copy = "QZR6PWR2 2026-01-01 120000.Ply";
+  write(leftBehind + torn + torn + waiting, newest);
+  scratch.write(game(copy), torn + old);
+  const PlayTexts before = shown();
+  EXPECT_EQ(judgement().plays.size(), 2U);
+  EXPECT_THAT(
+      [&] {
+        changes.remove(before, std::vector<PlayPlace>{{PlaySlot::committed, 1}});
+      },
+      testing::ThrowsMessage<std::runtime_error>(testing::HasSubstr("QZR6PWR1.Ply, line 2: ")));
+  EXPECT_EQ(shown(), before);
+  changes.bringBack(before, copy);
+  EXPECT_EQ(shown().committed + shown().played, before.committed + newest + old);
+}
+
 TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
   const auto verdictOn = [&](const TypedTicket& typed) -> std::string {
     try {

@@ -64,6 +64,8 @@ TEST_F(Selection, DoneTakesNoCommittedPlayAway) {
        false},
       {"one of two equal ones", first + first, first, EarlierPlays::replaced, 1, first, true},
       {"cut short", first + torn, fresh, EarlierPlays::kept, 2, fresh + first, true},
+      {"torn in the middle", torn + "\r\n" + first + second, fresh, EarlierPlays::kept, 3,
+       fresh + first + second, true},
       {"no real play", records({"11-11-1111,,,,,,,"}), fresh, EarlierPlays::replaced, 0, fresh, true},
       {"none before", "", fresh, EarlierPlays::replaced, 0, fresh, false},
   };
