@@ -25,6 +25,8 @@ struct Counts {
   std::size_t wonButCommitted = 0;
   std::size_t wonButNotListed = 0;
   std::size_t listedButNotWon = 0;
+  /// Some of these: the main history has no draw of their day.
+  std::size_t listedButNotDrawn = 0;
 };
 
 std::string itemOf(const JudgedPlay& play) {
@@ -43,7 +45,7 @@ Counts countsOf(const std::vector<std::string>& listed, const Judgement& judgeme
     const bool isListed = !isCommitted && std::ranges::find(listed, itemOf(play)) != listed.end();
     if (play.state == DrawState::drawn) ++counts.drawn;
     if (isWon) ++counts.won;
-    if (play.doublePlay && play.doublePlay->wins()) {
+    if (winsDoublePlay(play)) {
       ++counts.doublePlayWon;
       if (!isCommitted && play.record == 1) counts.firstWonDoublePlay = true;
     }
@@ -51,6 +53,7 @@ Counts countsOf(const std::vector<std::string>& listed, const Judgement& judgeme
     if (isWon && isCommitted) ++counts.wonButCommitted;
     if (isWon && !isCommitted && !isListed) ++counts.wonButNotListed;
     if (isListed && !isWon) ++counts.listedButNotWon;
+    if (isListed && play.day && play.state != DrawState::drawn) ++counts.listedButNotDrawn;
   }
   return counts;
 }
@@ -78,7 +81,8 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
   const std::vector<std::string>& listed = page.List14.emphasis();
   const Counts counts = countsOf(listed, judgement);
   const bool isByDate = page.Option2.value();
-  std::vector<std::string> sentences = {judgedSentence(game, counts)};
+  std::vector<std::string> sentences = tornSentences(judgement);
+  sentences.insert(sentences.begin(), judgedSentence(game, counts));
   if (!page.Option1.value() && !isByDate) {
     sentences.insert(sentences.begin(),
                      join("Nothing was checked: choose ", page.Option1.caption(), " or ",
@@ -88,13 +92,18 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
   const auto say = [&](std::string_view what, std::size_t count, std::string_view why) {
     if (count > 0) sentences.push_back(join(what, ": ", plays(count), ". ", why));
   };
-  if (isByDate && !listed.empty() && page.Combo10.items().empty()) {
-    sentences.emplace_back("The verdict line is from a losing play; the lists have those that won.");
+  if (isByDate && !listed.empty()) {
+    sentences.emplace_back(page.Combo10.text().empty()
+                               ? "The verdict line stays empty: the check by date writes there only for a "
+                                 "play that comes before the first winner."
+                               : "The verdict line is from a losing play; the lists have those that won.");
   }
-  say("Listed, and not won", counts.listedButNotWon,
+  say("Listed, and not won", counts.listedButNotWon - (isByDate ? counts.listedButNotDrawn : 0),
       isByDate ? "The check counts blank and repeated numbers too."
                : "The check compares every play with the newest draw; a ticket counts in the draw of its own "
                  "date.");
+  say("Listed, and not drawn", isByDate ? counts.listedButNotDrawn : 0,
+      "The check reads the search history, which has a draw that the main one lacks.");
   say("Won, and not listed", counts.wonButNotListed,
       isByDate ? "The check compares dates as they are written."
                : "The check looks at the newest draw alone.");

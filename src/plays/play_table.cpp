@@ -58,7 +58,7 @@ YearSums sumsOf(const JudgedPlay& play, std::optional<std::int64_t> centsAPlay) 
   sums.waiting = play.state == DrawState::waiting ? 1 : 0;
   sums.wins = play.match.wins() ? 1 : 0;
   sums.winsWithoutPrize = play.match.wins() && !play.prize ? 1 : 0;
-  sums.doublePlayWins = play.doublePlay && play.doublePlay->wins() ? 1 : 0;
+  sums.doublePlayWins = winsDoublePlay(play) ? 1 : 0;
   sums.dollars = play.prize.value_or(0);
   sums.costInCents = centsAPlay;
   return sums;
@@ -72,8 +72,12 @@ Misplaced misplacedOf(const JudgedPlay& play) {
   return Misplaced::no;
 }
 
+bool winsDoublePlay(const JudgedPlay& play) {
+  return play.state == DrawState::drawn && play.doublePlay && play.doublePlay->wins();
+}
+
 bool isWinner(const JudgedPlay& play) {
-  return play.match.wins() || (play.doublePlay && play.doublePlay->wins());
+  return play.match.wins() || winsDoublePlay(play);
 }
 
 bool isRemovable(const JudgedPlay& play) {
@@ -132,7 +136,7 @@ std::string prizeText(const JudgedPlay& play) {
 
 std::string doublePlayText(const JudgedPlay& play) {
   if (!play.doublePlay) return "";
-  return join(matchText(*play.doublePlay, Game::powerBall), play.doublePlay->wins() ? ": won" : "");
+  return join(matchText(*play.doublePlay, Game::powerBall), winsDoublePlay(play) ? ": won" : "");
 }
 
 std::string moneyText(std::int64_t cents) {
@@ -161,11 +165,15 @@ YearSums totalOf(const std::vector<YearSums>& years) {
   return total;
 }
 
+std::vector<std::string> tornSentences(const Judgement& judgement) {
+  std::vector<std::string> sentences;
+  for (const std::string& torn : judgement.torn)
+    sentences.push_back(join("A record is torn, and the file is judged up to there: ", torn, "."));
+  return sentences;
+}
+
 std::vector<std::string> noticesOn(const Judgement& judgement) {
-  std::vector<std::string> notices;
-  for (const std::string& torn : judgement.torn) {
-    notices.push_back(join("A record is torn, and the file is judged up to there: ", torn, "."));
-  }
+  std::vector<std::string> notices = tornSentences(judgement);
   if (const std::string dates = datesOf(judgement, Misplaced::leftBehind); !dates.empty()) {
     notices.push_back(join("Drawn, and left among the next plays: ", dates, "."));
   }

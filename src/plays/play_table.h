@@ -26,6 +26,10 @@ enum class Misplaced {
 
 Misplaced misplacedOf(const JudgedPlay& play);
 
+/// Whether a drawn play won in the Double Play draw of its date. The Double Play history may have that draw
+/// before the main one does.
+bool winsDoublePlay(const JudgedPlay& play);
+
 /// Whether the play won in its draw or in the Double Play draw of its date.
 bool isWinner(const JudgedPlay& play);
 
@@ -73,6 +77,9 @@ struct YearSums {
 /// Newest year first, then plays without a day.
 std::vector<YearSums> sumsByYear(const Judgement& judgement, std::optional<std::int64_t> centsAPlay);
 YearSums totalOf(const std::vector<YearSums>& years);
+
+/// A sentence for each file that was judged only up to a torn record.
+std::vector<std::string> tornSentences(const Judgement& judgement);
 
 /// What the player should know of the files: where one was read only in part, and which plays are left behind
 /// or moved early, each with its date. A sentence a line.

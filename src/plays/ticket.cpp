@@ -93,7 +93,9 @@ std::string ticketVerdict(const GameInfo& game, const JudgedPlay& ticket) {
   const std::string text = describe(game, ticket);
   if (!ticket.doublePlay) return text;
   return join(text, " With Double Play: ", matchText(*ticket.doublePlay, game.game),
-              ticket.doublePlay->wins() ? ", it wins." : ", it does not win.");
+              winsDoublePlay(ticket)             ? ", it wins."
+              : ticket.state == DrawState::drawn ? ", it does not win."
+                                                 : ".");
 }
 
 bool canBeKept(const JudgedPlay& ticket) {

@@ -249,6 +249,21 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   EXPECT_EQ(explained(page.Option2),
             sum + "The verdict line is from a losing play; the lists have those that won.\n" + left +
                 "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
+  // Two histories have the draw of a play that the main one does not have yet.
+  scratch.write(game("QZRNUM62.Dat"), records({"01,07,2026,11,12,13,14,15,16,2"}));
+  scratch.write(game("QZRNUM72.Dat"), records({"01,07,2026,91,92,93,94,95,96,2,DP,11,12,13,14,15,16,1"}));
+  write("", movedEarly);
+  EXPECT_EQ(
+      explained(page.Option2),
+      "Judged by the draw of each play's own date, none of the 0 plays drawn of PowerBall won.\n"
+      "The verdict line stays empty: the check by date writes there only for a play that comes before the "
+      "first winner.\n"
+      "Listed, and not drawn: 1 play. The check reads the search history, which has a draw that the main "
+      "one lacks.\n");
+  EXPECT_EQ(
+      playsIn(judgement(), PlayFilter::won).size() + totalOf(sumsByYear(judgement(), {})).doublePlayWins, 0U);
+  EXPECT_THAT(ticketVerdict(powerBall, judgement().plays.at(0)),
+              testing::EndsWith("With Double Play: 11 12 13 14 15 and the PowerBall."));
 }
 
 }  // namespace
