@@ -4,6 +4,7 @@
 #include "core/plays.h"
 #include "qt/desk_fixture.h"
 #include "ui/qt/parts/ball.h"
+#include "ui/qt/windows/text_size.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -154,6 +155,27 @@ TEST_F(Keyboard, GoesOverTheSlipAsItsRowsStand) {
   type(QStringLiteral("0"));
   type(QStringLiteral("3"));
   EXPECT_EQ(focused(), "03");
+}
+
+TEST_F(Keyboard, ChangesTheTextSizeOfAllWindowsUntilTheNextChange) {
+  const QFont usual = QApplication::font();
+  FormWindow& main = open("Form1");
+  const int height = widget<QComboBox>("Form1", "Combo4").fontMetrics().height();
+  {
+    const TextSize size;
+    for (int i = 0; i < 9; ++i) QTest::keyClick(&main, Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(&main, Qt::Key_Minus, Qt::ControlModifier);
+  }
+  QApplication::setFont(usual);
+  const TextSize size;
+  EXPECT_EQ(QApplication::font().pointSizeF(), usual.pointSizeF() + 8);
+  for (const QWidget* each : main.findChildren<QWidget*>())
+    EXPECT_EQ(each->font().pointSizeF(), usual.pointSizeF() + 8) << each->metaObject()->className();
+  EXPECT_GT(widget<QComboBox>("Form1", "Combo4").fontMetrics().height(), height);
+  QTest::keyClick(&main, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::font().pointSizeF(), usual.pointSizeF());
+  EXPECT_EQ(widget<QComboBox>("Form1", "Combo4").fontMetrics().height(), height);
+  QApplication::setFont(usual);
 }
 
 TEST_F(Keyboard, AsksForTheHelpOfThePageInFront) {

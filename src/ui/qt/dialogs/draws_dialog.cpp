@@ -144,7 +144,7 @@ void DrawsDialog::addAmounts(QBoxLayout& column) {
   amounts_->setObjectName(u"amounts"_s);
   amounts_->verticalHeader()->hide();
   amounts_->setTabKeyNavigation(false);
-  amounts_->setFont(theme::listFont(amounts_->font()));
+  new ListFace(amounts_);
   amounts_->horizontalHeader()->setSectionResizeMode(amountColumn, QHeaderView::Stretch);
   save_ = action(u"saveAmounts"_s, u"&Save the Amounts"_s,
                  u"Keeps the amounts in the table; an empty one means that it is not known"_s,

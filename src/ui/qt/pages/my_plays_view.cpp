@@ -36,7 +36,6 @@ void makeReadable(QTableView& table) {
   table.setCornerButtonEnabled(false);
   table.verticalHeader()->hide();
   table.horizontalHeader()->setHighlightSections(false);
-  table.setMinimumHeight((leastRows + 1) * (table.fontMetrics().height() + theme::gap));
 }
 
 QPushButton* button(QBoxLayout& row, const QString& text, const QString& tip) {
@@ -73,6 +72,23 @@ MyPlaysView::MyPlaysView(PlayActions& actions, QWidget* parent) : QWidget(parent
   addFilter(*column);
   addTable(*column);
   addButtons(*column);
+  fitToFont();
+}
+
+void MyPlaysView::fitToFont() {
+  const QFontMetrics face = fontMetrics();
+  for (QTableView* table : {table_, static_cast<QTableView*>(sums_)})
+    table->setMinimumHeight((leastRows + 1) * (face.height() + theme::gap));
+  table_->verticalHeader()->setDefaultSectionSize(BallsDelegate::sideOf(face) + theme::halfGap);
+}
+
+void MyPlaysView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::FontChange || undo_ == nullptr) return;
+  fitToFont();
+  if (game_ == nullptr) return;
+  table_->resizeColumnsToContents();
+  showSums();
 }
 
 void MyPlaysView::addFilter(QBoxLayout& column) {
@@ -105,8 +121,6 @@ void MyPlaysView::addTable(QBoxLayout& column) {
   table_->setItemDelegateForColumn(PlayTableModel::NumbersColumn, balls);
   table_->setItemDelegateForColumn(PlayTableModel::ExtraColumn, balls);
   makeReadable(*table_);
-  table_->verticalHeader()->setDefaultSectionSize(BallsDelegate::sideOf(table_->fontMetrics()) +
-                                                  theme::halfGap);
   table_->setSortingEnabled(true);
   table_->sortByColumn(PlayTableModel::DateColumn, Qt::DescendingOrder);
   table_->horizontalHeader()->setStretchLastSection(true);

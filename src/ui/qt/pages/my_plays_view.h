@@ -32,9 +32,11 @@ class MyPlaysView : public QWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void addFilter(QBoxLayout& column);
+  void fitToFont();
   void addTable(QBoxLayout& column);
   void addButtons(QBoxLayout& column);
   /// Whether there is anything new.

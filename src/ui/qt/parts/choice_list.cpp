@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/choice_list.h"
 
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
-#include "ui/qt/parts/theme.h"
 
 #include <QItemSelectionModel>
 #include <QLineEdit>
@@ -19,7 +19,7 @@ ChoiceList::ChoiceList(const TextLines& lines, QWidget* parent)
   column->addWidget(list_, 1);
   text_->setReadOnly(true);
   text_->setFocusPolicy(Qt::NoFocus);
-  text_->setFont(theme::listFont(font()));
+  new ListFace(text_);
   setFocusProxy(list_);
   const auto choose = [this](const QModelIndex& index) {
     if (index.isValid() && onChosen) onChosen(index.data().toString());

@@ -5,6 +5,8 @@
 #include "ui/qt/parts/theme.h"
 
 #include <QBoxLayout>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QSplitter>
 #include <initializer_list>
@@ -29,6 +31,22 @@ inline QLabel* heading(QWidget* parent, const QString& text = {}) {
   label->setFont(theme::headingFont(label->font()));
   return label;
 }
+
+/// Keeps a widget in the list face, in the size of the application's text.
+class ListFace : public QObject {
+ public:
+  explicit ListFace(QWidget* widget) : QObject(widget) {
+    widget->setFont(theme::listFont(widget->font()));
+    widget->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ApplicationFontChange)
+      static_cast<QWidget*>(watched)->setFont(theme::listFont(QGuiApplication::font()));
+    return QObject::eventFilter(watched, event);
+  }
+};
 
 /// Sentences under each other, which wrap where they are long. The label's height does not follow from its
 /// width: where it does on one page, each page gets the height that it would like to have, and scrolls.

@@ -2,6 +2,7 @@
 #include "ui/qt/parts/line_list.h"
 
 #include "core/text.h"
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/line_delegate.h"
 #include "ui/qt/parts/line_header.h"
@@ -93,7 +94,7 @@ LineList::LineList(QWidget* parent) : QListView(parent) {
   setEditTriggers(NoEditTriggers);
   setTextElideMode(Qt::ElideNone);
   setItemDelegate(new LineDelegate(*this));
-  setFont(theme::listFont(font()));
+  new ListFace(this);
 }
 
 LineList::LineList(const TextLines& lines, QWidget* parent) : LineList(parent) {
@@ -251,7 +252,6 @@ void LineList::paintEvent(QPaintEvent* event) {
 
 void LineList::changeEvent(QEvent* event) {
   QListView::changeEvent(event);
-  if (event->type() == QEvent::ApplicationFontChange) setFont(theme::listFont(QGuiApplication::font()));
   if (event->type() == QEvent::FontChange && header_ != nullptr) header_->fitTo(font());
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/picker.h"
 
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
-#include "ui/qt/parts/theme.h"
 
 #include <QCompleter>
 #include <QLineEdit>
@@ -39,7 +39,7 @@ Picker::Picker(const TextLines& lines, QWidget* parent)
   setMaxVisibleItems(shownLines);
   setMinimumContentsLength(lineLength);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-  setFont(theme::listFont(font()));
+  new ListFace(this);
   list_->setSelectionMode(QAbstractItemView::SingleSelection);
   list_->hideHeader();
   setView(list_);

@@ -11,6 +11,7 @@
 #include "ui/qt/program/options.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/program/screenshot.h"
+#include "ui/qt/windows/text_size.h"
 #include "ui/qt/windows/transfer_window.h"
 
 #include <QIcon>
@@ -171,6 +172,7 @@ int runProgram(int argumentCount, char** arguments) {
     std::cerr << "tallywick: " << toolkit.pointers()[1] << " is not an option; --help lists them\n";
     return 2;
   }
+  const TextSize textSize;
   QGuiApplication::setWindowIcon(programIcon());
   try {
     return runOnFolderOf(options, qt);

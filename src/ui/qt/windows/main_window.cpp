@@ -15,6 +15,7 @@
 #include "ui/qt/windows/menu_bar.h"
 #include "ui/qt/windows/navigation_bar.h"
 #include "ui/qt/windows/selection_window.h"
+#include "ui/qt/windows/text_size.h"
 
 #include <QAction>
 #include <QApplication>
@@ -121,7 +122,7 @@ QWidget* MainWindow::gameShown() {
 
 void MainWindow::addMenusAndStatus() {
   fillMenuBar(*menuBar(), main_, binding());
-  addDrawsEntry();
+  addOptionEntries();
   std::vector<QLabel*> panels;
   for (std::size_t i = 0; i < main_.update.StatusBar1.panels().size(); ++i) {
     auto* panel = new QLabel;
@@ -143,7 +144,7 @@ void MainWindow::showDoublePlayNote() {
   doublePlayNote_->setVisible(!note.isEmpty());
 }
 
-void MainWindow::addDrawsEntry() {
+void MainWindow::addOptionEntries() {
   QMenu* options = nullptr;
   for (QAction* each : menuBar()->actions()) {
     if (each->objectName() == u"mnuOption"_s) options = each->menu();
@@ -154,6 +155,11 @@ void MainWindow::addDrawsEntry() {
   draws->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
   connect(draws, &QAction::triggered, this,
           [this] { desk().runner.attempt([this] { desk().editDraws(); }); });
+  options->addSeparator();
+  // TextSize answers the keys, in the other windows too.
+  connect(options->addAction(u"&Larger Text\tCtrl++"_s), &QAction::triggered, [] { TextSize::change(1); });
+  connect(options->addAction(u"S&maller Text\tCtrl+-"_s), &QAction::triggered, [] { TextSize::change(-1); });
+  connect(options->addAction(u"Usual &Text Size\tCtrl+0"_s), &QAction::triggered, [] { TextSize::reset(); });
 }
 
 void MainWindow::addKeys() {

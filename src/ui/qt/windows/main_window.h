@@ -34,7 +34,7 @@ class MainWindow : public FormWindow {
  private:
   void addPages();
   void addMenusAndStatus();
-  void addDrawsEntry();
+  void addOptionEntries();
   void showDoublePlayNote();
   void addKeys();
   /// Lets the parts of the strip lead to their pages.

@@ -122,7 +122,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   auto* step = new QPushButton(parent);
   auto* showCount = new QPushButton(parent);
   auto* count = heading(parent);
-  count->setFont(theme::listFont(count->font()));
+  new ListFace(count);
   auto* line = row();
   line->addWidget(title);
   line->addWidget(step);
