@@ -64,14 +64,14 @@ std::string plays(std::size_t count) {
 }
 
 std::string judgedSentence(const GameInfo& game, const Counts& counts) {
-  if (counts.won == 0) {
-    return join("Judged by the draw of each play's own date, none of the ", plays(counts.drawn), " drawn of ",
-                game.name, " won.");
-  }
+  if (counts.drawn == 0) return join("No play of ", game.name, " has been drawn yet.");
+  const std::string drawn =
+      join(std::to_string(counts.drawn), " drawn ", game.name, counts.drawn == 1 ? " play" : " plays");
+  if (counts.won == 0) return join("Judged by the draw of each play's own date, none of ", drawn, " won.");
   const std::string dollars =
       counts.dollars > 0 ? join(", ", moneyText(counts.dollars * 100), " in all before any multiplier") : "";
-  return join("Judged by the draw of each play's own date, ", std::to_string(counts.won), " of ",
-              plays(counts.drawn), " drawn of ", game.name, " won", dollars, ".");
+  return join("Judged by the draw of each play's own date, ", std::to_string(counts.won), " of ", drawn,
+              " won", dollars, ".");
 }
 
 }  // namespace

@@ -232,7 +232,7 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
     return text;
   };
   const std::string sum =
-      "Judged by the draw of each play's own date, 3 of 3 plays drawn of PowerBall won, $18 in all before "
+      "Judged by the draw of each play's own date, 3 of 3 drawn PowerBall plays won, $18 in all before "
       "any "
       "multiplier.\n";
   write(leftBehind + waiting, records({"12-26-2025,10,20,30,34,35,01,x"}) + old + newest);
@@ -255,7 +255,7 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   write("", movedEarly);
   EXPECT_EQ(
       explained(page.Option2),
-      "Judged by the draw of each play's own date, none of the 0 plays drawn of PowerBall won.\n"
+      "No play of PowerBall has been drawn yet.\n"
       "The verdict line stays empty: the check by date writes there only for a play that comes before the "
       "first winner.\n"
       "Listed, and not drawn: 1 play. The check reads the search history, which has a draw that the main "

@@ -185,7 +185,7 @@ void restoreAndTell(const std::filesystem::path& source, const std::filesystem::
                     u"%1 files were restored and compared."_s.arg(restored.files), QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
     if (!restored.earlier.empty())
-      box.setInformativeText(u"What the record book was is in %1."_s.arg(pathText(restored.earlier)));
+      box.setInformativeText(u"The earlier record book is in %1."_s.arg(pathText(restored.earlier)));
     box.exec();
   } catch (const std::exception& error) {
     tell(u"The backup was not restored: %1"_s.arg(QString::fromUtf8(error.what())));

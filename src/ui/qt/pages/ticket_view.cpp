@@ -28,7 +28,8 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
       verdict_(sentences(this)),
       keep_(new QPushButton(u"K&eep It"_s, this)) {
   auto* column = columnIn(this, theme::pageMargin);
-  column->addWidget(heading(this, u"A ticket is judged by the draw of its date, and not kept."_s));
+  column->addWidget(
+      heading(this, u"A ticket is judged by the draw of its date. It is kept only if you ask for it."_s));
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::gap);

@@ -33,7 +33,7 @@ void copy(const LineList& list) {
 }
 
 void save(LineList& list) {
-  const QString file = QFileDialog::getSaveFileName(&list, u"Save the Lines"_s, u"lines.txt"_s,
+  const QString file = QFileDialog::getSaveFileName(&list, u"Save the Lines"_s, u"tallywick list.txt"_s,
                                                     u"Text (*.txt);;Comma-separated (*.csv)"_s);
   if (file.isEmpty()) return;
   const bool commas = file.endsWith(u".csv"_s, Qt::CaseInsensitive);

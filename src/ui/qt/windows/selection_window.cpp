@@ -316,8 +316,8 @@ bool SelectionWindow::mayClose() {
                              : u"%1 selected plays are not saved yet."_s.arg(plays),
                   QMessageBox::NoButton, this);
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(u"Done saves them for their draws. Without it they are dropped."_s);
-  auto* drop = box.addButton(u"&Drop Them"_s, QMessageBox::DestructiveRole);
+  box.setInformativeText(u"Only plays that Done has saved are kept for their draws."_s);
+  auto* drop = box.addButton(plays == 1 ? u"&Drop It"_s : u"&Drop Them"_s, QMessageBox::DestructiveRole);
   auto* back = box.addButton(u"&Back to the Plays"_s, QMessageBox::RejectRole);
   box.setDefaultButton(back);
   box.setEscapeButton(back);
