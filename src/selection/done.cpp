@@ -173,16 +173,16 @@ bool showsCurrentPlays(const SelectionForm& form) {
   return true;
 }
 
-std::size_t playsThatWouldGo(const SelectionForm& form) {
+GoingPlays playsThatWouldGo(const SelectionForm& form) {
   const PlayFile current(form.surroundings.folder, playFilePath(form.game, PlaySlot::current));
   const EarlierFile earlier(form);
   try {
     const NextPlays next = nextPlays(form, current, drawCountOf(form.Label1.caption()));
-    const std::vector<Play> gone = playsNotAmong(next.plays, earlier.whole.plays);
-    return static_cast<std::size_t>(std::ranges::count_if(gone, &Play::isListed)) +
-           (earlier.isTorn() ? 1 : 0);
+    std::vector<Play> gone = playsNotAmong(next.plays, earlier.whole.plays);
+    std::erase_if(gone, [](const Play& play) { return !play.isListed(); });
+    return {gone.size(), textOf(gone), earlier.isTorn()};
   } catch (const CalendarGap&) {
-    return 0;
+    return {};
   }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace tallywick {
@@ -29,9 +30,17 @@ bool finishEarlierChange(const SelectionForm& form);
 /// the same folder, may have changed the file.
 bool showsCurrentPlays(const SelectionForm& form);
 
-/// How many committed plays are not among those that Done would commit now; 0 where the calendar has a gap,
-/// which Done itself reports. A file with a torn record has a play more.
-std::size_t playsThatWouldGo(const SelectionForm& form);
+/// The committed plays that are not among those that Done would commit now.
+struct GoingPlays {
+  std::size_t plays = 0;
+  /// The same plays as records, for whoever judges them.
+  std::string records;
+  /// Whether their file has a torn record besides.
+  bool isTorn = false;
+};
+
+/// None where the calendar has a gap, which Done itself reports.
+GoingPlays playsThatWouldGo(const SelectionForm& form);
 
 /// Done: the current plays replace the committed ones, once for each draw of the draw count, or come before
 /// them, as SelectionForm::earlierPlays says. Committed plays that are not among the new ones stay as a dated

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/selection_window.h"
 
+#include "core/runtime_error.h"
 #include "core/text.h"
 #include "core/words.h"
+#include "display/judging.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 #include "ui/qt/pages/drawn_lists.h"
@@ -51,6 +53,30 @@ Wording orElse(const QString& captionless) {
   return [captionless](std::string_view caption) {
     return caption.empty() ? captionless : literally()(caption);
   };
+}
+
+/// "one play that waits for its draw, 2 plays that are drawn already".
+QString sortsOf(const GoingPlays& going, const GameInfo& game, const DataFolder& folder) {
+  std::size_t waiting = 0;
+  std::size_t drawn = 0;
+  try {
+    for (const JudgedPlay& play : judgePlays(game, folder, {}, going.records).plays) {
+      if (play.state == DrawState::waiting) ++waiting;
+      if (play.state == DrawState::drawn) ++drawn;
+    }
+  } catch (const RuntimeError&) {
+    // Without a history of draws no play is known to be drawn or to wait.
+  }
+  QStringList sorts;
+  const auto add = [&](std::size_t plays, const QString& one, const QString& several) {
+    if (plays > 0) sorts += plays == 1 ? one : several.arg(plays);
+  };
+  add(waiting, u"one play that waits for its draw"_s, u"%1 plays that wait for their draws"_s);
+  add(drawn, u"one play that is drawn already"_s, u"%1 plays that are drawn already"_s);
+  add(going.plays - waiting - drawn, u"one play whose draw is not known"_s,
+      u"%1 plays whose draws are not known"_s);
+  if (going.isTorn) sorts += u"a torn record"_s;
+  return sorts.join(u", "_s);
 }
 
 }  // namespace
@@ -340,17 +366,17 @@ bool SelectionWindow::mayCommitTheFile() {
 
 bool SelectionWindow::mayReplace() {
   selection_.earlierPlays = EarlierPlays::replaced;
-  const std::size_t plays = playsThatWouldGo(selection_);
-  if (plays == 0) return true;
-  QMessageBox box(
-      QMessageBox::Question, toQString(programTitle),
-      plays == 1 ? u"One play that waits for its draw is not among the plays selected here."_s
-                 : u"%1 plays that wait for their draws are not among the plays selected here."_s.arg(plays),
-      QMessageBox::NoButton, this);
+  const GoingPlays going = playsThatWouldGo(selection_);
+  if (going.plays == 0 && !going.isTorn) return true;
+  QMessageBox box(QMessageBox::Question, toQString(programTitle),
+                  u"Not among the plays selected here: %1."_s.arg(
+                      sortsOf(going, selection_.game, selection_.surroundings.folder)),
+                  QMessageBox::NoButton, this);
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(
       u"Replace takes them off the list of next plays; a dated copy of their file stays in the "
-      u"record book. Keep Both puts them behind the new plays."_s);
+      u"record book. Keep Both puts %1 behind the new plays."_s.arg(
+          going.isTorn ? u"all but the torn record, which stays in such a copy,"_s : u"them"_s));
   auto* replace = box.addButton(u"&Replace"_s, QMessageBox::DestructiveRole);
   auto* keep = box.addButton(u"&Keep Both"_s, QMessageBox::AcceptRole);
   box.setEscapeButton(box.addButton(QMessageBox::Cancel));
