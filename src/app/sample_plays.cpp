@@ -18,6 +18,10 @@ namespace {
 
 constexpr std::array playSlots = {PlaySlot::committed, PlaySlot::played, PlaySlot::current};
 
+bool isSame(const DataFolder& folder, std::string_view left, std::string_view right) {
+  return openPlays(folder, left).text() == openPlays(folder, right).text();
+}
+
 }  // namespace
 
 std::size_t countPlays(const GameInfo& game, const DataFolder& folder) {
@@ -40,7 +44,11 @@ void takePlaysAway(const GameInfo& game, const DataFolder& folder, const Clock& 
   }
   for (const auto& [name, copy] : copies) change.stage(name, "");
   for (const PlaySlot slot : {PlaySlot::committed, PlaySlot::played}) {
-    if (isThere(saveFileName(game, slot))) change.stage(saveFileName(game, slot), "");
+    const std::string save = saveFileName(game, slot);
+    if (!isThere(save)) continue;
+    if (!isSame(folder, inFolder(game, save), playFilePath(game, slot)))
+      copies.emplace_back(save, stageDatedCopy(change, save, clock));
+    change.stage(save, "");
   }
   change.commit();
   for (const auto& [name, copy] : copies) pruneDatedCopies(change.folder(), name, copy);
