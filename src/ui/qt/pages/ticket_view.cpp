@@ -97,10 +97,13 @@ void TicketView::judge() {
 }
 
 void TicketView::keep() {
-  const JudgedPlay ticket = judgeTicket(actions_.game(), actions_.folder(), record_);
-  const PlaySlot file = fileForTicket(ticket);
+  PlaySlot file = PlaySlot::committed;
   const std::string record = record_;
-  if (!actions_.make([&](const PlayChanges& changes) { return changes.add(file, record); })) return;
+  const bool isKept = actions_.make([&](const PlayChanges& changes) {
+    file = fileForTicket(judgeTicket(actions_.game(), actions_.folder(), record));
+    return changes.add(file, record);
+  });
+  if (!isKept) return;
   forget();
   say(file == PlaySlot::played ? u"Kept among your played plays. My Plays can undo it."_s
                                : u"Kept among your next plays. My Plays can undo it."_s);
