@@ -85,9 +85,8 @@ void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> nex
                                 : join(std::to_string(drawn), ", of which ", std::to_string(won), " won");
   glance.wins.tip =
       "How many of your plays were drawn, and how many of them won in the draw of their own day.";
-  for (const std::string& torn : judgement.torn) {
-    for (Glance::Part* part : {&glance.waiting, &glance.wins})
-      part->tip += join(" A file ends in the middle of a record and is judged up to there: ", torn, ".");
+  for (const std::string& sentence : tornSentences(judgement)) {
+    for (Glance::Part* part : {&glance.waiting, &glance.wins}) part->tip += join(" ", sentence);
   }
 }
 

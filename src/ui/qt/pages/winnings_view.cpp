@@ -28,6 +28,8 @@ namespace {
 /// What screen readers say after a line that is emphasised.
 const QString winningMeaning = u"winning"_s;
 
+const QString beforeCheck = u"What each play's own draw says is shown here after a check."_s;
+
 /// What a line of a winning ticket says.
 constexpr std::string_view winningWords = "Winning Ticket";
 
@@ -87,6 +89,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, 
   addTab(myPlays_, u"My P&lays"_s);
   addTab(ticket_, u"Check a T&icket"_s);
   explainCheck(form);
+  connect(this, &QTabWidget::currentChanged, this, &WinningsView::dropStaleExplanation);
   // The model may have the check in front already, while the window shows a tab of its own.
   form.menu.mnuWinnings.onClick = [this, go = form.menu.mnuWinnings.onClick, &strip = form.bar.SSTab3] {
     go();
@@ -95,6 +98,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, 
 }
 
 void WinningsView::showChanges() {
+  dropStaleExplanation();
   myPlays_->refresh();
   ticket_->refresh();
 }
@@ -145,7 +149,7 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   verdictLabel->setBuddy(verdict);
   verdict->setAccessibleName(u"Verdict"_s);
   explained_ = sentences(page);
-  explained_->setText(u"What each play's own draw says is shown here after a check."_s);
+  explained_->setText(beforeCheck);
   auto* lists = splitter(Qt::Horizontal, u"check"_s);
   showWinningLines(*titledList(*lists, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
   showWinningLines(*titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding));
@@ -173,18 +177,32 @@ void WinningsView::explainCheck(MainForm& form) {
 
 void WinningsView::showExplanation(const MainForm& form) {
   QStringList lines;
+  explainedGame_ = nullptr;
   try {
     const GameInfo& game = actions_.game();
-    for (const std::string& sentence :
-         checkExplained(form.winnings, game, judgePlays(game, actions_.folder()))) {
+    explainedJudgement_ = judgePlays(game, actions_.folder());
+    for (const std::string& sentence : checkExplained(form.winnings, game, explainedJudgement_)) {
       lines += toQString(sentence);
     }
+    explainedGame_ = &game;
   } catch (const RuntimeError& error) {
     lines += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
   }
   explained_->setText(lines.join(u'\n'));
   QAccessibleEvent alert(explained_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
+}
+
+void WinningsView::dropStaleExplanation() {
+  if (explainedGame_ == nullptr || !explained_->isVisible()) return;
+  const GameInfo& game = actions_.game();
+  try {
+    if (explainedGame_ == &game && judgePlays(game, actions_.folder()) == explainedJudgement_) return;
+  } catch (const RuntimeError&) {
+    // A file of theirs is gone: nothing can be said of the plays.
+  }
+  explainedGame_ = nullptr;
+  explained_->setText(beforeCheck);
 }
 
 }  // namespace tallywick

@@ -3,6 +3,7 @@
 // Plays and a ticket that is typed in, which are the window's own.
 #pragma once
 
+#include "display/judging.h"
 #include "plays/play_table.h"
 #include "ui/qt/pages/play_actions.h"
 
@@ -32,9 +33,14 @@ class WinningsView : public QTabWidget {
   /// Says beside each check what the judging says, and why the two differ.
   void explainCheck(MainForm& form);
   void showExplanation(const MainForm& form);
+  /// Takes the explanation away where the game or what the judging says has changed.
+  void dropStaleExplanation();
 
   PlayActions actions_;
   QLabel* explained_ = nullptr;
+  /// What explained_ is about; none without a check.
+  const GameInfo* explainedGame_ = nullptr;
+  Judgement explainedJudgement_;
   MyPlaysView* myPlays_ = nullptr;
   TicketView* ticket_ = nullptr;
 };
