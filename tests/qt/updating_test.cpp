@@ -185,7 +185,9 @@ TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
   scratch.write("QzrNumbers/QZR6PWR/SAMPLE.TXT", "");
   scratch.write("QzrNumbers/QZR6MEG/QZR6MEG2.Ply", records({"11-17-2026,01,02,03,04,05,06,50000000"}));
   const std::string plays = records({"11-16-2026,01,02,03,04,05,06,5000000"});
+  const std::string before = records({"11-09-2026,01,02,03,04,05,06,5000000"});
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply", plays);
+  scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Sav", before);
   const QWidget& strip = *button("Start a Real Record Book…").parentWidget();
   platform.run([] {});
   EXPECT_FALSE(strip.isHidden());
@@ -196,8 +198,10 @@ TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
   EXPECT_TRUE(strip.isHidden());
   EXPECT_EQ(scratch.read("QzrNumbers/QZR6PWR/QZR6PWR2.Ply"), "");
   EXPECT_NE(scratch.read("QzrNumbers/QZR6MEG/QZR6MEG2.Ply"), "") << "its draws were real";
-  EXPECT_EQ(std::ranges::count(scratch.snapshot(), plays, [](const auto& file) { return file.second; }), 1)
-      << "there is no dated copy";
+  for (const std::string& text : {plays, before}) {
+    EXPECT_EQ(std::ranges::count(scratch.snapshot(), text, [](const auto& file) { return file.second; }), 1)
+        << "there is no dated copy";
+  }
 }
 
 TEST_F(Portal, AFailureOfTheUpdateItselfEndsNothing) {

@@ -228,11 +228,13 @@ TEST_F(Windows, DoneAsksWhereTheFileIsNotWhatTheWindowShows) {
   }
 }
 
-TEST_F(Windows, DoneAsksBeforeWaitingPlaysGo) {
+TEST_F(Windows, DoneAsksBeforeEarlierPlaysGo) {
+  writeRecordBook(scratch);
   const std::string file = "QzrNumbers/QZR6PWR/QZR6PWR1.Ply";
-  const std::string waiting = records({"11-23-2026,01,02,03,04,05,06,5000000"});
+  const std::string earlier =
+      records({"11-23-2026,01,02,03,04,05,06,5000000", "12-30-2026,01,02,03,04,05,06,5000000"});
   const std::string selected = records({"11-21-2026,05,11,23,42,60,07,1110101"});
-  scratch.write(file, waiting);
+  scratch.write(file, earlier);
   open("Form3");
   auto& form = static_cast<SelectionForm&>(*application.find("Form3"));
   for (const int number : {5, 11, 23, 42, 60, 7, 7}) click(form.button(number));
@@ -240,11 +242,13 @@ TEST_F(Windows, DoneAsksBeforeWaitingPlaysGo) {
   const auto done = [&](const QString& answer) {
     answerNextBox(answer);
     widget<QPushButton>("Form3", "Command5").click();
-    EXPECT_TRUE(boxText.contains(QStringLiteral("One play that waits")));
+    EXPECT_TRUE(
+        boxText.contains(QStringLiteral("one play that waits for its draw, one play that is drawn already")))
+        << boxText.toStdString();
     return scratch.read(file);
   };
-  EXPECT_EQ(done(QStringLiteral("Cancel")), waiting);
-  EXPECT_EQ(done(QStringLiteral("Keep Both")), selected + waiting);
+  EXPECT_EQ(done(QStringLiteral("Cancel")), earlier);
+  EXPECT_EQ(done(QStringLiteral("Keep Both")), selected + earlier);
 }
 
 TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
@@ -273,14 +277,24 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   EXPECT_EQ(press(3, "Move to Played"), waiting);
   EXPECT_EQ(itemsOf(static_cast<MainForm&>(main.form()).winnings.List14).size(), 3U);
 
+  winnings.setCurrentIndex(1);
+  widget<QPushButton>("Form1", "Command47").click();
+  const auto explains = [&](const QString& start) {
+    return std::ranges::any_of(winnings.findChildren<QLabel*>(),
+                               [&](const QLabel* label) { return label->text().startsWith(start); });
+  };
+  EXPECT_TRUE(explains(QStringLiteral("Nothing was checked")));
   winnings.setCurrentIndex(3);
   named<QLineEdit>("Form1", QStringLiteral("Numbers")).setText(QStringLiteral("1 2 3 4 5"));
   named<QLineEdit>("Form1", QStringLiteral("PowerBall")).setText(QStringLiteral("6"));
   named<QDateEdit>("Form1", QStringLiteral("Date of the draw")).setDate(QDate(2026, 12, 31));
   press(0, "Judge");
   EXPECT_EQ(press(0, "Keep It"), waiting + records({"12-31-2026,01,02,03,04,05,06,5000000"}));
+  winnings.setCurrentIndex(1);
+  EXPECT_FALSE(explains(QStringLiteral("Nothing was checked"))) << "the plays have changed since";
   winnings.setCurrentIndex(2);
   EXPECT_EQ(press(0, "Undo"), waiting);
+  EXPECT_EQ(press(0, "Undo"), drawn + waiting) << "the change before that";
   scratch.write(committed, "");
   QApplication::setActiveWindow(&main);
   answerNextBox(QMessageBox::Ok);

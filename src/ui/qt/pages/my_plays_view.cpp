@@ -155,7 +155,7 @@ void MyPlaysView::addButtons(QBoxLayout& column) {
   move_ = button(*line, u"Move &to Played"_s,
                  u"Moves drawn plays that are among the next plays to the played ones"_s);
   bringBack_ = button(*line, u"&Bring Back…"_s, u"Adds the plays of a dated copy that are not among yours"_s);
-  undo_ = button(*line, u"Undo"_s, u"Undoes the last change (Ctrl+Z)"_s);
+  undo_ = button(*line, u"Undo"_s, u"Undoes the last change, then the one before it (Ctrl+Z)"_s);
   undo_->setShortcut(QKeySequence::Undo);
   done_ = new QLabel(this);
   done_->setTextFormat(Qt::PlainText);
@@ -195,6 +195,7 @@ bool MyPlaysView::read() {
   const GameInfo* const shownGame = std::exchange(game_, &actions_.game());
   Judgement judgement;
   failure_.clear();
+  shown_ = {};
   try {
     shown_ = readPlayTexts(*game_, actions_.folder());
     judgement = judgePlays(*game_, actions_.folder(), shown_.played, shown_.committed);
@@ -262,7 +263,7 @@ void MyPlaysView::enableActions() {
   remove_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isRemovable));
   move_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isLeftBehind));
   bringBack_->setEnabled(failure_.empty());
-  undo_->setEnabled(actions_.canUndo());
+  undo_->setEnabled(actions_.canUndo(shown_));
 }
 
 void MyPlaysView::remove() {

@@ -10,6 +10,12 @@
 
 namespace tallywick {
 
+namespace {
+
+constexpr std::size_t mostUndone = 20;
+
+}  // namespace
+
 const GameInfo& PlayActions::game() const {
   const GameInfo* const shown = gameOnShow(form_.frames);
   return shown != nullptr ? *shown : powerBall;
@@ -43,22 +49,38 @@ bool PlayActions::make(const std::function<std::optional<PlayChange>(const PlayC
     const SystemClock clock;
     const std::optional<PlayChange> made = change(PlayChanges(game(), folder(), clock));
     if (!made) return;
-    last_.insert_or_assign(game().game, *made);
+    std::vector<PlayChange>& earlier = made_[game().game];
+    if (!earlier.empty() && earlier.back().after != made->before) earlier.clear();
+    if (earlier.size() == mostUndone) earlier.erase(earlier.begin());
+    earlier.push_back(*made);
     isMade = true;
   });
   return isMade;
 }
 
+bool PlayActions::canUndo(const PlayTexts& shown) const {
+  const auto found = made_.find(game().game);
+  return found != made_.end() && !found->second.empty() && found->second.back().after == shown;
+}
+
 QString PlayActions::lastDone() const {
-  const auto found = last_.find(game().game);
-  return found == last_.end() ? QString() : toQString(found->second.what);
+  const auto found = made_.find(game().game);
+  return found == made_.end() || found->second.empty() ? QString() : toQString(found->second.back().what);
 }
 
 void PlayActions::undo() {
   attempt([&] {
     const SystemClock clock;
-    PlayChanges(game(), folder(), clock).undo(last_.at(game().game));
-    last_.erase(game().game);
+    std::vector<PlayChange>& made = made_.at(game().game);
+    try {
+      PlayChanges(game(), folder(), clock).undo(made.back());
+      made.pop_back();
+    } catch (const PlaysChangedMeanwhile&) {
+      made.clear();
+      throw std::runtime_error(
+          "The play files have changed since, and this can no longer be undone. Nothing was done; Bring Back "
+          "adds the plays of a dated copy.");
+    }
   });
 }
 

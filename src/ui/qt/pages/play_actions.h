@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Changes of the plays as the windows make them: errors become messages, the lists of plays are shown anew,
-// and the last change of each game can be undone.
+// and the changes of each game can be undone, the last one first.
 #pragma once
 
 #include "plays/play_changes.h"
@@ -8,6 +8,7 @@
 #include <QString>
 #include <functional>
 #include <map>
+#include <vector>
 
 namespace tallywick {
 
@@ -26,8 +27,9 @@ class PlayActions {
 
   /// Makes a change; false where there was none, or where it failed and a message has said why.
   bool make(const std::function<std::optional<PlayChange>(const PlayChanges&)>& change);
-  bool canUndo() const { return last_.contains(game().game); }
-  /// What the last change of the game on show did; empty without one.
+  /// Whether the game on show has a change to undo, and the files are what it made of them.
+  bool canUndo(const PlayTexts& shown) const;
+  /// What the last change of the game on show did, if it has not been undone; else empty.
   QString lastDone() const;
   void undo();
 
@@ -36,7 +38,8 @@ class PlayActions {
 
   MainForm& form_;
   FormWindow& window_;
-  std::map<Game, PlayChange> last_;
+  /// Oldest first, each made of what the one before it left.
+  std::map<Game, std::vector<PlayChange>> made_;
 };
 
 }  // namespace tallywick
