@@ -55,8 +55,9 @@ DrawEntry drawOfRow(Game game, Day day, const DrawColumns& columns, const CsvRea
 }
 
 /// Takes note of a refused row.
-void addRefused(RefusedRows& refused, RefusedRow row, std::optional<Day> day) {
+void addRefused(RefusedRows& refused, RefusedRow row, std::optional<Day> day, Day today) {
   ++refused.count;
+  if (day && *day > today) refused.areLater = true;
   if (day && (!refused.newestDay || *day > *refused.newestDay)) {
     refused.newestDay = day;
     refused.newest = row;
@@ -74,14 +75,14 @@ RefusedRows takeRows(Game game, CsvReader& rows, std::size_t dateColumn, Day tod
   while (rows.next(row)) {
     std::optional<Day> day;
     try {
+      day = parseDay(row.field(dateColumn));
       const Day date = checkedDay(row.field(dateColumn), today);
-      day = date;
       if (row.isCut) refuse("the row has an opening quote and no closing one");
       if (!matrixOn(game, date)) refuse("the game was not drawn yet on ", displayDate(date));
       if (days.contains(date)) refuse("a second row for ", displayDate(date));
       if (take(row, date)) days.insert(date);
     } catch (const std::runtime_error& refusal) {
-      addRefused(refused, {row.line, visible(refusal.what(), 80)}, day);
+      addRefused(refused, {row.line, visible(refusal.what(), 80)}, day, today);
     }
   }
   return refused;

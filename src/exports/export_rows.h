@@ -26,7 +26,9 @@ struct RefusedRows {
 
   std::vector<RefusedRow> first;
   std::size_t count = 0;
-  /// The newest one that has a date not later than today.
+  /// Whether any is good only on a later day.
+  bool areLater = false;
+  /// The newest one that has a date.
   std::optional<Day> newestDay;
   RefusedRow newest = {};
 };

@@ -264,8 +264,8 @@ exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& f
                         join(inQuotes(fetched.address), " cannot be used: ", error.what()),
                         printable(fetched.address));
   }
-  // A row that is refused today may be good tomorrow.
-  if (fetched.document.validators == Validators{} || fetched.draws.refused.count > 0) return merge;
+  // A row that is later than today may be good tomorrow.
+  if (fetched.document.validators == Validators{} || fetched.draws.refused.areLater) return merge;
   exports::GameFiles now = exports::withChanges(game, files, merge.files);
   now.exportNote = noteText({fetched.address, fingerprintOf(now), fetched.document.validators});
   merge.files = exports::changedFiles(game, files, std::move(now));
