@@ -55,24 +55,45 @@ std::vector<os::FileLock> lockGames(const fs::path& folder) {
   return locks;
 }
 
-/// Fails where the desktop program has the record book open.
-void requireClosed(const fs::path& folder) {
+/// Keeps the desktop program from opening the record book; fails where it has it open.
+os::FileLock lockBook(const fs::path& folder) {
   try {
-    const os::FileLock lock(folder / lockName, os::FileLock::Wait::no);
+    return {folder / lockName, os::FileLock::Wait::no};
   } catch (const LockedByAnother&) {
     fail(folder, "the record book is open in Tallywick; please close it first");
   }
 }
 
+/// All files but `except`, locks and work files.
 BookContents contentsOf(const fs::path& folder, const fs::path& except) {
   BookContents contents;
-  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-    const std::string name = genericText(entry.path().lexically_relative(folder));
-    if (isOwnWorkName(nameOf(entry.path())) || entry.path() == except || entry.is_symlink()) continue;
-    if (entry.is_directory()) contents.emplace(name + "/", "");
-    if (entry.is_regular_file()) contents.emplace(name, os::readFile(entry.path()).view());
+  const fs::recursive_directory_iterator end;
+  for (fs::recursive_directory_iterator entry(folder); entry != end; ++entry) {
+    const std::string name = genericText(entry->path().lexically_relative(folder));
+    if (isOwnWorkName(nameOf(entry->path())) || entry->path() == except) {
+      entry.disable_recursion_pending();
+    } else if (entry->is_regular_file()) {
+      contents.emplace(name, os::readFile(entry->path()).view());
+    } else if (entry->is_symlink()) {
+      fail(entry->path(), "it is a link that does not lead to a file");
+    } else if (entry->is_directory()) {
+      contents.emplace(name + "/", "");
+    }
   }
   return contents;
+}
+
+/// Takes what cannot be brought back out of `contents`, and returns its names. A folder is named once for all
+/// that is in it.
+std::vector<std::string> takeOutOdd(BookContents& contents) {
+  std::vector<std::string> odd;
+  std::erase_if(contents, [&odd](const auto& entry) {
+    if (canBeRestored(entry.first)) return false;
+    const bool isInside = !odd.empty() && odd.back().ends_with('/') && entry.first.starts_with(odd.back());
+    if (!isInside) odd.push_back(entry.first);
+    return true;
+  });
+  return odd;
 }
 
 bool isRecordBook(const BookContents& contents) {
@@ -85,10 +106,6 @@ std::size_t filesIn(const BookContents& contents) {
   return static_cast<std::size_t>(std::ranges::count_if(contents, isFile));
 }
 
-void keepForOwner(const fs::path& file) {
-  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-}
-
 /// Writes the new folder and waits until all of it is on the disk.
 void writeFolder(const fs::path& folder, const BookContents& contents) {
   fs::create_directory(folder);
@@ -99,8 +116,8 @@ void writeFolder(const fs::path& folder, const BookContents& contents) {
     for (fs::path parent = file.parent_path(); parent != folder; parent = parent.parent_path())
       folders.insert(parent);
     if (name.ends_with('/')) continue;
-    os::writeDurably(file, bytes);
-    if (equalIgnoringCase(name, passwordFile) || equalIgnoringCase(name, loginFile)) keepForOwner(file);
+    const bool isSecret = equalIgnoringCase(name, passwordFile) || equalIgnoringCase(name, loginFile);
+    os::writeDurably(file, bytes, isSecret ? os::Access::ownerOnly : os::Access::usual);
   }
   for (const fs::path& written : folders) os::syncFolder(written);
   if (contentsOf(folder, {}) != contents)
@@ -125,10 +142,27 @@ class Unfinished {
 
 void writeBackup(const fs::path& work, const BookContents& contents, BackupForm form) {
   if (form == BackupForm::folder) return writeFolder(work, contents);
-  writeZip(work, contents);
-  keepForOwner(work);  // the password for the update server is in it
+  // The password for the update server is in it.
+  os::writeDurably(work, zipOf(work, contents), os::Access::ownerOnly);
   if (readZip(work) != contents) fail(work, "what was written differs from the record book");
-  os::syncFile(work);
+}
+
+/// Removes from `place` what killed backups of `book` under dated names have left.
+void removeLeftovers(const fs::path& book, const fs::path& place) {
+  const std::string begin = nameOf(book) + " 0000-00-00 000000";
+  std::vector<fs::path> leftovers;
+  for (const fs::directory_entry& entry : fs::directory_iterator(place)) {
+    std::string name = nameOf(entry.path());
+    if (name.size() < begin.size()) continue;
+    const std::string ending = name.substr(begin.size());
+    name.resize(begin.size());
+    std::replace_if(
+        name.begin() + static_cast<std::ptrdiff_t>(nameOf(book).size()), name.end(),
+        [](char letter) { return letter >= '0' && letter <= '9'; }, '0');
+    if (name == begin && (ending == stagedSuffix || ending.starts_with(join(".zip", stagedSuffix))))
+      leftovers.push_back(entry.path());
+  }
+  for (const fs::path& leftover : leftovers) fs::remove_all(leftover);
 }
 
 BookContents readBackup(const fs::path& source) {
@@ -142,7 +176,11 @@ bool isInside(const fs::path& path, const fs::path& folder) {
 }
 
 /// Lets the complete folder `restored` take the name of `book`. What `book` was takes the name `earlier`.
-void takeOver(const fs::path& restored, const fs::path& book, const fs::path& earlier) {
+/// `locks` are on files in `book`: they go right before it is renamed, because no platform lets a lock file
+/// be removed by its old name afterwards.
+void takeOver(const fs::path& restored, const fs::path& book, const fs::path& earlier,
+              std::vector<os::FileLock> locks) {
+  locks.clear();
   if (!earlier.empty()) {
     fs::rename(book, earlier);
   } else {
@@ -169,15 +207,18 @@ fs::path datedBackup(const fs::path& folder, const Clock& clock, BackupForm form
   return beside(realPath(folder), join(" ", dated(clock), form == BackupForm::zip ? ".zip" : ""));
 }
 
-std::size_t backUp(const fs::path& folder, const fs::path& to) {
+BackedUp backUp(const fs::path& folder, const fs::path& to) {
   const fs::path book = realPath(folder);
   const fs::path target = realPath(to);
   const BackupForm form = backupFormOf(target);
   if (fs::exists(target)) fail(target, "it exists already; nothing was written");
   if (form == BackupForm::folder && isInside(target, book)) fail(target, "it is inside the record book");
   const std::vector<os::FileLock> locks = lockGames(book);
-  const BookContents contents = contentsOf(book, target);
+  BookContents contents = contentsOf(book, target);
+  BackedUp backup;
+  if (form == BackupForm::zip) backup.leftOut = takeOutOdd(contents);
   if (!isRecordBook(contents)) fail(book, "it contains no record book");
+  removeLeftovers(book, target.parent_path());
   const fs::path work = beside(target, stagedSuffix);
   fs::remove_all(work);
   Unfinished unfinished(work);
@@ -185,7 +226,16 @@ std::size_t backUp(const fs::path& folder, const fs::path& to) {
   fs::rename(work, target);
   os::syncFolder(target.parent_path());
   unfinished.keep();
-  return filesIn(contents);
+  backup.files = filesIn(contents);
+  return backup;
+}
+
+std::string reportOf(const BackedUp& backup, const fs::path& to) {
+  std::string text = join(std::to_string(backup.files), " files written to ", textOf(to), " and compared.");
+  if (backup.leftOut.empty()) return text;
+  text += " Left out, because a zip cannot bring the name back everywhere:";
+  for (const std::string& name : backup.leftOut) text += join(" \"", name, "\"");
+  return text;
 }
 
 Restored restore(const fs::path& source, const fs::path& folder, const Clock& clock) {
@@ -199,16 +249,19 @@ Restored restore(const fs::path& source, const fs::path& folder, const Clock& cl
   writeFolder(work, contents);
 
   Restored restored{filesIn(contents), {}};
+  std::vector<os::FileLock> locks;
   if (fs::exists(book)) {
-    requireClosed(book);
-    lockGames(book);
-    if (!fs::is_empty(book)) restored.earlier = beside(book, join(earlierEnding, dated(clock)));
+    const bool isEmpty = fs::is_empty(book);
+    os::FileLock bookLock = lockBook(book);
+    locks = lockGames(book);
+    locks.push_back(std::move(bookLock));
+    if (!isEmpty) restored.earlier = beside(book, join(earlierEnding, dated(clock)));
     if (fs::exists(restored.earlier)) fail(restored.earlier, "it exists already; nothing was changed");
   }
   Unfinished unused(complete);
   fs::rename(work, complete);
   os::syncFolder(book.parent_path());
-  takeOver(complete, book, restored.earlier);
+  takeOver(complete, book, restored.earlier, std::move(locks));
   return restored;
 }
 

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace tallywick {
 
@@ -19,10 +21,20 @@ BackupForm backupFormOf(const std::filesystem::path& target);
 std::filesystem::path datedBackup(const std::filesystem::path& folder, const Clock& clock,
                                   BackupForm form = BackupForm::zip);
 
+struct BackedUp {
+  std::size_t files;
+  /// Paths from the folder that a zip cannot bring back on every platform, as for a name with a colon.
+  std::vector<std::string> leftOut;
+};
+
 /// Writes every file of the record book in `folder` to the new zip or folder `to`, but for locks and work
-/// files, reads it back and compares. Returns how many files it contains. No program changes the plays
-/// meanwhile. std::runtime_error that says what is wrong; nothing is left then.
-std::size_t backUp(const std::filesystem::path& folder, const std::filesystem::path& to);
+/// files, reads it back and compares. A link to a file is stored as that file; one to anything else is an
+/// error. Removes what a killed backup of this record book has left in the same place. No program changes the
+/// plays meanwhile. std::runtime_error that says what is wrong; nothing is left then.
+BackedUp backUp(const std::filesystem::path& folder, const std::filesystem::path& to);
+
+/// How many files were written to `to`, and which were left out.
+std::string reportOf(const BackedUp& backup, const std::filesystem::path& to);
 
 struct Restored {
   std::size_t files;

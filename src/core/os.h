@@ -63,9 +63,6 @@ void writeDurably(const std::filesystem::path& file, std::string_view contents,
 /// Waits until the names of the files in `folder` are on the disk.
 void syncFolder(const std::filesystem::path& folder);
 
-/// Waits until what was written to `file` by others (the transfer library) is on the disk.
-void syncFile(const std::filesystem::path& file);
-
 /// Gives `from` the name `to` in one step and waits until the folder knows it. An old file `to` is replaced
 /// with its rights; of a link `to` the link itself. Where `to` is a folder, a pipe or a device it is
 /// error 75.

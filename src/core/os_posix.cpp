@@ -182,10 +182,6 @@ void syncFolder(const fs::path& folder) {
   if (::fsync(descriptor.number()) != 0 && errno != EINVAL && errno != ENOTSUP) fail(errno, folder);
 }
 
-void syncFile(const fs::path& file) {
-  Descriptor(file, O_RDWR).sync();
-}
-
 void takeName(const fs::path& from, const fs::path& to) {
   struct stat old {};
   if (::lstat(to.c_str(), &old) == 0 && !S_ISLNK(old.st_mode)) requireFile(old, to);

@@ -194,10 +194,6 @@ void writeDurably(const fs::path& file, std::string_view contents, Access) {
 // The file system keeps the order in which names change, and takeName() writes through.
 void syncFolder(const fs::path&) {}
 
-void syncFile(const fs::path& file) {
-  Handle(file, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING).sync();
-}
-
 void takeName(const fs::path& from, const fs::path& to) {
   // Virus scanners and search indexes hold a file open for a moment after it has been written.
   using namespace std::chrono_literals;

@@ -47,7 +47,14 @@ void finishRestore(const fs::path& folder) {
   }
   std::error_code ignored;
   const fs::path restored = beside(book, restoredEnding);
-  if (fs::exists(fs::symlink_status(book, ignored)) || !fs::is_directory(restored, ignored)) return;
+  const fs::path unwanted = beside(book, unwantedEnding);
+  if (fs::exists(fs::symlink_status(book, ignored))) {
+    // In one step, so that a restore that is at work finds all of it or nothing.
+    fs::rename(restored, unwanted, ignored);
+    fs::remove_all(unwanted, ignored);
+    return;
+  }
+  if (!fs::is_directory(restored, ignored)) return;
   fs::rename(restored, book);
   os::syncFolder(book.parent_path());
   const fs::path earlier = newestEarlier(book);

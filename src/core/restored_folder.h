@@ -16,6 +16,8 @@ namespace tallywick {
 inline constexpr std::string_view restoringEnding = " restoring.tw~";
 inline constexpr std::string_view restoredEnding = " restored.tw~";
 inline constexpr std::string_view earlierEnding = " before ";
+/// A complete restored folder that is being removed.
+inline constexpr std::string_view unwantedEnding = " unwanted.tw~";
 
 /// An absolute path without a closing slash, with links followed as far as it exists.
 std::filesystem::path realPath(const std::filesystem::path& path);
@@ -24,8 +26,8 @@ std::filesystem::path realPath(const std::filesystem::path& path);
 std::filesystem::path beside(const std::filesystem::path& folder, std::string_view ending);
 
 /// Where `folder` is missing and a complete restored one is beside it, a restore was cut short: the restored
-/// folder takes the name, and takeRecoveryNotices() reports it with the place of what was there before. Does
-/// nothing otherwise.
+/// folder takes the name, and takeRecoveryNotices() reports it with the place of what was there before. Where
+/// `folder` exists, the restore was cut short before it changed anything, and the restored folder is removed.
 void finishRestore(const std::filesystem::path& folder);
 
 }  // namespace tallywick

@@ -269,8 +269,7 @@ void makeFolder(const Options& options, std::ostream& out) {
 void backUpFolder(const Options& options, std::ostream& out) {
   const fs::path to =
       options.backup.empty() ? datedBackup(options.folder, SystemClock()) : fs::path(options.backup);
-  const std::size_t files = backUp(options.folder, to);
-  out << files << " files of " << options.folder << " written to " << textOf(to) << " and compared\n";
+  out << reportOf(backUp(options.folder, to), to) << "\n";
 }
 
 void restoreFolder(const Options& options, std::ostream& out) {

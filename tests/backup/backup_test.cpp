@@ -56,10 +56,23 @@ class Backup : public testing::Test {
 TEST_F(Backup, BringsBackEveryByteAndKeepsWhatWasThere) {
   below();
   std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR7.Ply");
+  std::ofstream(holder / "elsewhere") << "linked";
+  fs::create_symlink(holder / "elsewhere", book / "notes.txt");
   const auto before = filesOf(book);
   std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR1.Ply.tw~") << "work";
   EXPECT_EQ(datedBackup(book, clock), zip);
-  EXPECT_EQ(backUp(book, zip), 10U);
+  fs::create_directory(book / "old.tw~");
+  std::ofstream(book / "old.tw~/x") << "work";
+  std::ofstream(book / "my: note.txt") << "odd";
+  fs::create_symlink(holder, book / "linked");
+  EXPECT_THAT(complaintOf([&] { backUp(book, zip); }), testing::HasSubstr("linked: it is a link"));
+  fs::remove(book / "linked");
+  std::ofstream(holder / "book 2026-11-20 101500.zip.tw~.AbCdEf") << "of a backup that was killed";
+  const BackedUp backup = backUp(book, zip);
+  EXPECT_EQ(backup.files, 11U);
+  EXPECT_THAT(backup.leftOut, testing::ElementsAre("my: note.txt"));
+  fs::remove_all(book / "old.tw~");
+  fs::remove(book / "my: note.txt");
   EXPECT_NE(complaintOf([&] { backUp(book, zip); }).find("exists already"), std::string::npos);
 
   std::ofstream(book / "QzrNumbers/QZR6PWR/QZR6PWR1.Ply") << "changed";
@@ -71,14 +84,14 @@ TEST_F(Backup, BringsBackEveryByteAndKeepsWhatWasThere) {
 
   // Emptied, the folder comes back from a copy that is a folder as well.
   const fs::path copy = datedBackup(holder / "copy", clock, BackupForm::folder);
-  EXPECT_EQ(backUp(book, copy), 10U);
+  EXPECT_EQ(backUp(book, copy).files, 11U);
   EXPECT_EQ(filesOf(copy), before);
   EXPECT_NE(complaintOf([&] { backUp(book, book / "copy"); }).find("inside the record book"),
             std::string::npos);
   for (const auto& entry : fs::directory_iterator(book)) fs::remove_all(entry);
   EXPECT_EQ(restore(copy, book, clock).earlier, "");
   EXPECT_EQ(filesOf(book), before);
-  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 4) << "something was left behind";
+  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 5) << "something was left behind";
 }
 
 TEST_F(Backup, ARestoreThatWasCutShortIsFinishedAndNamed) {
@@ -93,6 +106,10 @@ TEST_F(Backup, ARestoreThatWasCutShortIsFinishedAndNamed) {
   EXPECT_EQ(filesOf(book), restored);
   EXPECT_THAT(takeRecoveryNotices(),
               testing::ElementsAre(testing::HasSubstr("book before 2026-11-21 181500")));
+  // One that was cut short before it changed anything does not come back to life.
+  fs::create_directory(beside(book, restoredEnding));
+  finishRestore(book);
+  EXPECT_EQ(std::distance(fs::directory_iterator(holder), {}), 2);
 }
 
 TEST_F(Backup, RefusesWhatIsNoBackupAndLeavesTheFolder) {

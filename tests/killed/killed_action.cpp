@@ -70,8 +70,15 @@ void changeDraws(const DataFolder& folder, std::string_view action) {
 /// What the next start does, and the next restore with what is left of this one.
 void mendRestore(const std::filesystem::path& book) {
   finishRestore(book);
-  for (const std::string_view ending : {restoringEnding, restoredEnding})
-    std::filesystem::remove_all(beside(book, ending));
+  std::filesystem::remove_all(beside(book, restoringEnding));
+}
+
+/// The next day's backup, without the one before.
+void backUpNext(const std::filesystem::path& book) {
+  const StandingClock clock("11-22-2026", "12:00:00");
+  std::filesystem::remove(beside(book, " 2026-11-21 120000.zip"));
+  std::filesystem::remove(datedBackup(book, clock));
+  backUp(book, datedBackup(book, clock));
 }
 
 void run(const DataFolder& folder, std::string_view action) {
@@ -90,6 +97,8 @@ void run(const DataFolder& folder, std::string_view action) {
   if (action == "receive") takeIn({{"qzrnum6.dat", "new"}, {"QZR6PWR1.Ply", "theirs"}}, folder, game, clock);
   if (action == "publish") setup::publish(folder.resolve("tree"), folder.resolve(""), out);
   if (action == "restore") restore(folder.root() / "backup", folder.root() / "book", clock);
+  if (action == "backup") backUp(folder.root() / "book", datedBackup(folder.root() / "book", clock));
+  if (action == "backup-next") backUpNext(folder.root() / "book");
   if (action == "mend-restore") mendRestore(folder.root() / "book");
   if (action.starts_with("by-hand-")) changePlays(folder, clock, action.substr(8));
   changeDraws(folder, action);

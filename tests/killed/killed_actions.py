@@ -17,13 +17,14 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import zipfile
 
 PROGRAM = sys.argv[1]
 ACTIONS = {"selection": ["done-10", "done-1", "select", "open"], "files": ["maintain", "receive", "publish"],
            "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
-           "draws": ["fetch", "add-draw", "remove-draw"], "restore": ["restore"]}[sys.argv[2]]
+           "draws": ["fetch", "add-draw", "remove-draw"], "restore": ["restore"], "backup": ["backup"]}[sys.argv[2]]
 # What mends the traces of an action: the next start of the program, or the same command again.
-MENDING = collections.defaultdict(lambda: "recover", publish="publish", restore="mend-restore")
+MENDING = collections.defaultdict(lambda: "recover", publish="publish", restore="mend-restore", backup="backup-next")
 # A kill anywhere else leaves what one at the next of these does; an open changes something where it creates its file.
 CHANGES = {"openat", "write", "rename", "unlink", "unlinkat", "mkdir", "rmdir", "symlink", "ftruncate"}
 # What a full disk, a folder without permission and a broken disk answer, and the runtime error it becomes; in turn.
@@ -79,6 +80,10 @@ def state():
     """The files; the dates of copies are taken out of their names, and copies of one file are together."""
     found = collections.defaultdict(list)
     for name, text in files_now().items():
+        if name.suffix == ".zip":  # its bytes depend on the time
+            archive = zipfile.ZipFile(folder / name)
+            text = together(*(entry.encode() + archive.read(entry) for entry in archive.namelist()))
+            check((folder / name).stat().st_mode & 0o77 == 0, f"{name} can be read by all")
         found[pathlib.Path(re.sub(r"\d{4}-\d\d-\d\d \d{6}", "DATE", str(name)))].append(text)
     return {name: together(*texts) for name, texts in found.items()}
 
@@ -181,7 +186,7 @@ def test_action(action):
     if action in notes:
         text = (folder / PWR / "QZRNUM6.Dat").read_bytes() if action == "remove-draw" else b""
         (folder / PWR / notes[action]).write_bytes(text)
-    if action == "restore":
+    if action in ("restore", "backup"):
         for where, dated in (("book", "11-18-2026"), ("backup", "11-16-2026")):
             (folder / where / PWR).mkdir(parents=True)
             for name in (COMMITTED.name, "QZR6PWR2.Ply"):

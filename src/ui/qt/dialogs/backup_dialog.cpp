@@ -152,8 +152,7 @@ void BackupDialog::write() {
       throw std::runtime_error(form() == BackupForm::zip ? "The name of a zip file ends in \".zip\"."
                                                          : "The name of a folder does not end in \".zip\".");
     }
-    const std::size_t files = backUp(book_, target);
-    written_->setText(u"%1 files written to %2 and compared."_s.arg(files).arg(pathText(target)));
+    written_->setText(toQString(reportOf(backUp(book_, target), target)));
     QAccessibleEvent alert(written_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
   });
