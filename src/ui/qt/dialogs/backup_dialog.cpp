@@ -53,7 +53,8 @@ BackupDialog::BackupDialog(const std::filesystem::path& book, HandlerRunner& run
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
   suggest();
-  resize(80 * theme::gap, sizeHint().height());
+  const int width = sentencesWidth(*this, 80 * theme::gap);
+  resize(width, column->heightForWidth(width));
 }
 
 QWidget* BackupDialog::backUpPart() {

@@ -72,7 +72,7 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   auto* column = columnIn(this, theme::pageMargin);
   column->addLayout(gameRow());
   column->addWidget(summary_);
-  column->addLayout(actionRow());
+  column->addLayout(actionRows());
   column->addWidget(report_);
   addAmounts(*column);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
@@ -83,8 +83,9 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
     report_->clear();
     showGame();
   });
-  resize(88 * theme::gap, 80 * theme::gap);
   showGame();
+  const int width = sentencesWidth(*this, 88 * theme::gap);
+  resize(width, std::max(80 * theme::gap, column->heightForWidth(width)));
 }
 
 const GameInfo& DrawsDialog::game() const {
@@ -116,7 +117,7 @@ QPushButton* DrawsDialog::action(const QString& name, const QString& text, const
   return button;
 }
 
-QBoxLayout* DrawsDialog::actionRow() {
+QBoxLayout* DrawsDialog::actionRows() {
   auto* line = row();
   line->addWidget(action(u"fetchDraws"_s, u"&Fetch"_s,
                          u"Fetches the draws of both games from the public exports, at any time of the day"_s,
@@ -127,13 +128,19 @@ QBoxLayout* DrawsDialog::actionRow() {
   line->addWidget(action(u"importAmounts"_s, u"Import &Amounts…"_s,
                          u"Takes a file with the columns Draw Date, Amount and Mark Count"_s,
                          [this] { importAmounts(); }));
-  line->addWidget(action(u"typeIn"_s, u"&Type In a Draw…"_s,
-                         u"Adds one draw, checked by the rules of its date"_s, [this] { typeIn(); }));
+  line->addStretch();
+  auto* typed = row();
+  typed->addWidget(action(u"typeIn"_s, u"&Type In a Draw…"_s,
+                          u"Adds one draw, checked by the rules of its date"_s, [this] { typeIn(); }));
   remove_ = action(u"removeDraw"_s, u"&Remove…"_s,
                    u"Takes back a draw that was typed in and that no export has"_s, [this] { remove(); });
-  line->addWidget(remove_);
-  line->addStretch();
-  return line;
+  typed->addWidget(remove_);
+  typed->addStretch();
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(theme::gap);
+  rows->addLayout(line);
+  rows->addLayout(typed);
+  return rows;
 }
 
 void DrawsDialog::addAmounts(QBoxLayout& column) {

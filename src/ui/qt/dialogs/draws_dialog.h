@@ -33,7 +33,7 @@ class DrawsDialog : public QDialog {
   const GameInfo& game() const;
   Day today() const;
   QBoxLayout* gameRow();
-  QBoxLayout* actionRow();
+  QBoxLayout* actionRows();
   QPushButton* action(const QString& name, const QString& text, const QString& tip,
                       const std::function<void()>& act);
   void addAmounts(QBoxLayout& column);

@@ -10,6 +10,8 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QScreen>
+#include <QScrollArea>
 
 namespace tallywick {
 
@@ -46,7 +48,15 @@ std::string textOr(std::string_view whenEmpty, const QLineEdit& edit) {
 SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
     : QDialog(parent), source_(new QComboBox), tls_(new QCheckBox(u"Only with &encryption"_s)) {
   setWindowTitle(u"Settings"_s);
-  auto* form = new QFormLayout;
+  // On a screen too small for all fields they scroll.
+  auto* fields = new QWidget;
+  auto* scroller = new QScrollArea;
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setWidgetResizable(true);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setWidget(fields);
+  auto* form = new QFormLayout(fields);
+  form->setContentsMargins(0, 0, theme::gap, 0);
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::pageMargin);
   source_->addItem(u"Public exports of draws"_s);
@@ -72,11 +82,12 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* column = columnIn(this, theme::pageMargin);
-  column->addLayout(form);
-  column->addStretch();
+  column->addWidget(scroller, 1);
   column->addWidget(buttons);
-  constexpr int width = 80 * theme::gap;
-  resize(width, column->hasHeightForWidth() ? column->heightForWidth(width) : sizeHint().height());
+  const int width = sentencesWidth(*this, 80 * theme::gap);
+  const int height = form->heightForWidth(width - 2 * theme::pageMargin) + buttons->sizeHint().height() +
+                     2 * theme::pageMargin + 2 * theme::gap;
+  resize(width, std::min(height, screen()->availableGeometry().height() * 9 / 10));
 }
 
 QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, const std::string& value,

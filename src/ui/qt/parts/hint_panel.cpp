@@ -52,9 +52,7 @@ HintPanel::HintPanel(int lines, QWidget* parent)
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   sign_->setAutoFillBackground(true);
   sign_->setAlignment(Qt::AlignCenter);
-  sign_->setFixedWidth(2 * theme::gap);
-  sign_->setFont(theme::headingFont(font()));
-  heading_->setFont(theme::headingFont(font()));
+  fitToFont();
   auto* texts = new QVBoxLayout;
   texts->setContentsMargins(theme::gap, theme::halfGap, theme::gap, theme::halfGap);
   texts->setSpacing(theme::halfGap / 2);
@@ -93,6 +91,12 @@ QSize HintPanel::minimumSizeHint() const {
   return sizeHint();
 }
 
+void HintPanel::fitToFont() {
+  const QFont face = theme::headingFont(font());
+  for (QLabel* label : {sign_, heading_}) label->setFont(face);
+  sign_->setFixedWidth(std::max(2 * theme::gap, QFontMetrics(face).horizontalAdvance(u'✓') + theme::halfGap));
+}
+
 void HintPanel::color() {
   const QColor ground = colorOf(kind_, palette());
   QPalette colors = palette();
@@ -105,7 +109,7 @@ void HintPanel::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) color();
   if (event->type() == QEvent::FontChange) {
-    for (QLabel* label : {sign_, heading_}) label->setFont(theme::headingFont(font()));
+    fitToFont();
     updateGeometry();
   }
 }

@@ -29,6 +29,7 @@ class HintPanel : public QFrame {
 
  private:
   void color();
+  void fitToFont();
 
   int lines_;
   Kind kind_ = Kind::advice;

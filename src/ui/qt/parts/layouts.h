@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QSplitter>
+#include <algorithm>
 #include <initializer_list>
 
 namespace tallywick {
@@ -62,6 +63,11 @@ class Sentences : public QLabel {
 
 inline QLabel* sentences(QWidget* parent) {
   return new Sentences(parent);
+}
+
+/// The width of a dialog with wrapped sentences: `least`, or 45 characters where the text is large.
+inline int sentencesWidth(const QWidget& dialog, int least) {
+  return std::max(least, 45 * dialog.fontMetrics().averageCharWidth());
 }
 
 inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {

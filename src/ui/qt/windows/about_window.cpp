@@ -2,7 +2,7 @@
 #include "ui/qt/windows/about_window.h"
 
 #include "app/small_windows.h"
-#include "ui/qt/parts/theme.h"
+#include "ui/qt/parts/layouts.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -48,14 +48,14 @@ AboutWindow::AboutWindow(AboutForm& form, const Desk& desk) : FormWindow(form, d
   column->setSpacing(theme::pageMargin);
   column->addLayout(top, 1);
   column->addLayout(buttons);
-  resize(48 * theme::gap, 22 * theme::gap);
-
   binding().bind(form.lblTitle, *title);
   binding().bind(form.lblVersion, *version);
   binding().bind(form.lblDescription, *description);
   binding().bind(form.cmdOK, *ok, withMnemonic('O'));
   binding().bind(form.cmdSysInfo, *systemInformation, withMnemonic('S'));
   ok->setFocus();
+  const int width = sentencesWidth(*this, 48 * theme::gap);
+  resize(width, std::max(22 * theme::gap, column->heightForWidth(width)));
   answerHelpKey();
 }
 
