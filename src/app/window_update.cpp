@@ -84,16 +84,16 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
     fetched_ = &exports;
     update();
     fetched_ = nullptr;
-    offerToTakePlaysAway(madeUp);
   } catch (const std::exception& error) {
     fetched_ = nullptr;
     controls.restore();
     showMessage(
         surroundings_.platform,
         join("The update could not be completed.\n\n", error.what(),
-             "\n\nA game is updated as a whole or not at all; no play is lost. You can update again."),
+             "\n\nA game's draws come as a whole or not at all; no play is lost. You can update again."),
         MessageBox::Icon::exclamation);
   }
+  offerToTakePlaysAway(madeUp);
   showGameAnew();
 }
 
@@ -162,16 +162,16 @@ bool Application::showsMadeUpDraws() const {
 void Application::offerToTakePlaysAway(const std::vector<const GameInfo*>& before) {
   const DataFolder& folder = surroundings_.folder;
   for (const GameInfo* game : before) {
-    const std::size_t plays = exports::isMadeUp(folder, game->game) ? 0 : countPlays(*game, folder);
-    if (plays == 0) continue;
-    const MessageBox question = {
-        join("The draws of ", game->name, " are real now, but its ", std::to_string(plays),
-             " plays were there with the made-up draws. Take all of them away?\n\n"
-             "They stay in the folder as dated copies. With No they stay as they are."),
-        std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
-    if (surroundings_.platform.show(question) != MessageBox::Answer::yes) continue;
     try {
-      takePlaysAway(*game, folder, surroundings_.clock);
+      const std::size_t plays = exports::isMadeUp(folder, game->game) ? 0 : countPlays(*game, folder);
+      if (plays == 0) continue;
+      const MessageBox question = {
+          join("The draws of ", game->name, " are real now, but its ", std::to_string(plays),
+               " plays were there with the made-up draws. Take all of them away?\n\n"
+               "They stay in the folder as dated copies. With No they stay as they are."),
+          std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
+      if (surroundings_.platform.show(question) == MessageBox::Answer::yes)
+        takePlaysAway(*game, folder, surroundings_.clock);
     } catch (const std::exception& error) {
       showMessage(surroundings_.platform, join("The plays stay as they are.\n\n", error.what()),
                   MessageBox::Icon::exclamation);

@@ -206,8 +206,10 @@ TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
 
 TEST_F(Portal, AFailureOfTheUpdateItselfEndsNothing) {
   scratch.write("QzrNumbers/QZR6MEG/QZR6MEG1.Ply", "\"11-28-2026\",\"01\"\r\n");
+  scratch.write("QzrNumbers/QZR6MEG/SAMPLE.TXT", "");
   update();
-  EXPECT_EQ(boxes.back(), "The update could not be completed.") << "the plays cannot be read";
+  EXPECT_EQ(boxes.back(), "The plays stay as they are.") << "nobody is asked about the sample plays";
+  EXPECT_EQ(boxes.at(boxes.size() - 2), "The update could not be completed.") << "the plays cannot be read";
   EXPECT_FALSE(platform.ended());
   EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
   EXPECT_TRUE(newestLine().starts_with(" 11-18-2026")) << newestLine();

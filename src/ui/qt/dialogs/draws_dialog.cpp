@@ -217,6 +217,7 @@ void DrawsDialog::change(const std::function<void()>& act) {
     return;
   }
   showGame();
+  if (hasChanged_ && onChanged) onChanged();
 }
 
 void DrawsDialog::fetch() {

@@ -29,6 +29,9 @@ class DrawsDialog : public QDialog {
   /// Whether files may have changed.
   bool hasChanged() const { return hasChanged_; }
 
+  /// Called after each change of files.
+  std::function<void()> onChanged;
+
  private:
   const GameInfo& game() const;
   Day today() const;

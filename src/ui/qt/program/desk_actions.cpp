@@ -13,6 +13,7 @@
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/windows/help_window.h"
+#include "ui/qt/windows/selection_window.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -86,7 +87,8 @@ void editSettings(Application& application, QtPlatform& platform) {
 std::filesystem::path showBackups(Application& application, QtPlatform& platform) {
   BackupDialog dialog(application.surroundings().folder.root(), platform, QApplication::activeWindow());
   dialog.exec();
-  if (!dialog.restoreFrom().empty()) platform.run([&application] { application.exit(); });
+  if (dialog.restoreFrom().empty() || !maySelectionsClose()) return {};
+  platform.run([&application] { application.exit(); });
   return dialog.restoreFrom();
 }
 
@@ -95,6 +97,7 @@ void editDraws(Application& application, QtPlatform& platform) {
   const std::vector<const GameInfo*> madeUp = application.madeUpGames();
   DrawsDialog dialog(around.folder, around.clock, setup::exportAddresses(application.settings()),
                      application.gameShown(), QApplication::activeWindow());
+  dialog.onChanged = [&] { platform.run([&] { application.showGameAnew(); }); };
   dialog.exec();
   if (!dialog.hasChanged()) return;
   platform.run([&] {

@@ -11,6 +11,7 @@
 #include "ui/qt/program/options.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/program/screenshot.h"
+#include "ui/qt/windows/selection_window.h"
 #include "ui/qt/windows/text_size.h"
 #include "ui/qt/windows/transfer_window.h"
 
@@ -67,6 +68,7 @@ void nameProgram(bool forPicture) {
 
 /// Makes a record book with real draws elsewhere, and ends so that the program goes on with it.
 void startRealBook(Application& application, QtPlatform& platform, std::optional<fs::path>& next) {
+  if (!maySelectionsClose()) return;
   next = startBookElsewhere(application.settings(), QApplication::activeWindow());
   if (!next) return;
   rememberOwnFolder(*next);
