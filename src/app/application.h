@@ -111,7 +111,8 @@ class Application {
   void fetchThenUpdate(const std::vector<const GameInfo*>& games, const std::function<void()>& update);
   /// False where something could not be fetched; the user has been shown why.
   bool fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games);
-  void showNothingNew(const std::vector<const GameInfo*>& games);
+  /// `remarks` are sentences on the exports, a line each.
+  void showNothingNew(const std::vector<const GameInfo*>& games, std::string_view remarks);
   void openSettingPage(const std::string& address, std::string_view what);
   void showAbout();
   void showSystemInformation();

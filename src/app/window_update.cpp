@@ -78,12 +78,16 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
     const auto hasMoves = [&folder](const GameInfo* game) { return hasDrawnPlays(*game, folder); };
     if (!exports.bringDraws() && std::ranges::none_of(games, hasMoves)) {
       exports.merge();
-      showNothingNew(games);
+      showNothingNew(games, exports.remarks());
       return;
     }
     fetched_ = &exports;
     update();
     fetched_ = nullptr;
+    if (!exports.remarks().empty()) {
+      showMessage(surroundings_.platform, join("The draws have come. Of the exports:\n\n", exports.remarks()),
+                  MessageBox::Icon::information);
+    }
   } catch (const std::exception& error) {
     fetched_ = nullptr;
     controls.restore();
@@ -125,11 +129,12 @@ bool Application::fetchAll(FetchedExports& exports, const std::vector<const Game
   return false;
 }
 
-void Application::showNothingNew(const std::vector<const GameInfo*>& games) {
+void Application::showNothingNew(const std::vector<const GameInfo*>& games, std::string_view remarks) {
   std::string text = "There is no new draw. Nothing was changed.\n";
   for (const GameInfo* game : games) {
     text += join("\n", game->name, ": ", drawsNote(*game, surroundings_.folder, surroundings_.clock), ".");
   }
+  if (!remarks.empty()) text += join("\n\n", remarks);
   showMessage(surroundings_.platform, std::move(text), MessageBox::Icon::information);
 }
 

@@ -62,6 +62,7 @@ void stageDraws(FolderFiles& files, const FolderContents::Part& part) {
   for (const exports::NewFile& file :
        exports::mergeInto(part.game, part.book.draws, part.book.amounts, before, exports::Standing::madeUp)
            .files) {
+    if (file.isRemoval) continue;
     files.replace(file.name, file.contents);
   }
   if (part.madeUp) files.add(exports::madeUpMark, "");
@@ -161,6 +162,18 @@ void writeAside(const fs::path& root, const std::function<void(const fs::path& w
   fs::remove_all(work);
 }
 
+/// Removes a folder that contains nothing but folders. False, with nothing changed, where there is anything
+/// else.
+bool removeIfEmpty(const fs::path& folder) {
+  std::vector<fs::path> folders = {folder};
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_symlink() || !entry.is_directory()) return false;
+    folders.push_back(entry.path());
+  }
+  for (; !folders.empty(); folders.pop_back()) fs::remove(folders.back());
+  return true;
+}
+
 /// Makes a data folder whose games are written by `writeGames`.
 void makeBook(const fs::path& folder, const Settings& settings,
               const std::function<void(const fs::path& root)>& writeGames) {
@@ -175,7 +188,8 @@ void makeBook(const fs::path& folder, const Settings& settings,
     writePictures(root);
     writeGames(root);
   };
-  if (isThere(entryInAnyCase(folder, numbersFolder))) {
+  const fs::path numbers = entryInAnyCase(folder, numbersFolder);
+  if (isThere(numbers) && !removeIfEmpty(numbers)) {
     write(folder);
   } else {
     writeAside(folder, write);

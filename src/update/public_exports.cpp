@@ -357,7 +357,14 @@ void FetchedExports::fetch(Game game, const std::string& address) {
       exports::isMadeUp(folder_, game) ? exports::Standing::madeUp : exports::Standing::real;
   const exports::GameFiles files = exports::readGameFiles(info, folder_.resolve(info.folder));
   const auto isOfDraws = [](const exports::NewFile& file) { return !isOwnName(file.name); };
-  if (std::ranges::any_of(mergeOf(fetched, files, standing).files, isOfDraws)) bringDraws_ = true;
+  const exports::Merge merge = mergeOf(fetched, files, standing);
+  if (std::ranges::any_of(merge.files, isOfDraws)) bringDraws_ = true;
+  for (const std::string& notice : merge.report.notices) remarks_ += join(info.name, ": ", notice, "\n");
+  const exports::RefusedRows& refused = merge.report.refused;
+  if (refused.count == 0) return;
+  remarks_ += join(info.name, ": rows of the export that cannot be used: ", std::to_string(refused.count),
+                   "; the first is in line ", std::to_string(refused.first.front().line), ": ",
+                   refused.first.front().reason, "\n");
 }
 
 TransferFactory FetchedExports::components() const {

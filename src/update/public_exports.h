@@ -118,6 +118,9 @@ class FetchedExports {
   void fetch(Game game, const std::string& address);
   /// Whether merging what has been fetched changes a game's draws or amounts.
   bool bringDraws() const { return bringDraws_; }
+  /// What the player should know of the exports: rows that cannot be used, numbers beyond the known rules. A
+  /// sentence a line; empty where there is nothing.
+  const std::string& remarks() const { return remarks_; }
   /// Makes components that fetch nothing: they merge what has been fetched.
   TransferFactory components() const;
   /// Merges it without an update.
@@ -129,6 +132,7 @@ class FetchedExports {
   TransferWatch* watch_;
   TransferProgress soFar_;
   bool bringDraws_ = false;
+  std::string remarks_;
   std::shared_ptr<std::vector<FetchedExport>> fetched_ = std::make_shared<std::vector<FetchedExport>>();
 };
 

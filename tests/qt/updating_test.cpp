@@ -112,14 +112,14 @@ class Portal : public Desktop {
   }
 
   /// Both games' draws of 110 days up to `last`.
-  void put(Day last) const {
+  void put(Day last, const std::string& lastRow = "") const {
     std::string powerBallRows = "Draw Date,Winning Numbers,Multiplier\n";
     std::string megaMillionsRows = "Draw Date,Winning Numbers,Mega Ball,Multiplier\n";
     for (Day day = last; last - day < 110; day += -1) {
       powerBallRows += displayDate(day) + ",10 20 30 40 50 06,2\n";
       megaMillionsRows += displayDate(day) + ",10 20 30 40 50,06,2\n";
     }
-    putText(web.root() / "pwr.csv", powerBallRows);
+    putText(web.root() / "pwr.csv", powerBallRows + lastRow);
     putText(web.root() / "meg.csv", megaMillionsRows);
   }
   void use(const std::string& powerBallPath, const std::string& megaMillionsPath) {
@@ -179,6 +179,12 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   again.click();
   EXPECT_EQ(boxes.back(), "The updates for The Tallywick Software is completed");
   EXPECT_TRUE(newestLine().starts_with(" 11-20-2026")) << newestLine();
+  put(newest + 2, "02/30/2019,10 20 30 40 50 06,2\n");
+  again.click();
+  EXPECT_TRUE(
+      boxText.contains(QStringLiteral("PowerBall: rows of the export that cannot be used: 1; the first is in "
+                                      "line 112: \"02/30/2019\"")))
+      << boxText.toStdString();
 }
 
 TEST_F(Portal, BringsRealDrawsAndOffersToTakeTheSamplePlaysAway) {
