@@ -10,5 +10,5 @@ else()
     -Woverloaded-virtual -Wcast-align $<${gcc}:-Wduplicated-cond> $<${gcc}:-Wlogical-op> -Wnull-dereference -Wunused
     # GCC 12 sees overlaps, overflows, null pointers and uninitialized members in the library's own code that are not
     # there; GCC 13 no longer does.
-    $<$<AND:${gcc},$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict$<SEMICOLON>-Wno-array-bounds$<SEMICOLON>-Wno-stringop-overflow$<SEMICOLON>-Wno-null-dereference$<SEMICOLON>-Wno-maybe-uninitialized>)
+    $<$<AND:${gcc},$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict$<SEMICOLON>-Wno-array-bounds$<SEMICOLON>-Wno-stringop-overflow$<SEMICOLON>-Wno-stringop-overread$<SEMICOLON>-Wno-null-dereference$<SEMICOLON>-Wno-maybe-uninitialized>)
 endif()

@@ -44,7 +44,8 @@ class Day {
   friend constexpr Day operator+(Day day, int days) { return day += days; }
   friend constexpr Day operator-(Day day, int days) { return day += -days; }
   friend constexpr int operator-(Day later, Day earlier) { return later.number_ - earlier.number_; }
-  friend constexpr auto operator<=>(Day left, Day right) = default;
+  // clang-tidy 14 takes a comparison that the compiler writes for a 0.
+  friend constexpr auto operator<=>(Day left, Day right) = default;  // NOLINT(modernize-use-nullptr)
 
  private:
   constexpr explicit Day(int number) : number_(number) {}

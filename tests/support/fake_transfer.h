@@ -57,7 +57,7 @@ class FakeTransfer : public TransferComponent {
 };
 
 /// Makes components that all write to `log`.
-inline TransferFactory fakeTransfers(FakeTransfer::Log& log, FakeTransfer::Copy copy = {}) {
+inline TransferFactory fakeTransfers(FakeTransfer::Log& log, const FakeTransfer::Copy& copy = {}) {
   return [&log, copy] { return std::make_unique<FakeTransfer>(log, copy); };
 }
 

@@ -40,6 +40,7 @@ class ServerProcess {
     std::vector<std::string> words = {python, std::string(TALLYWICK_TEST_SERVERS) + "/" + script};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
 

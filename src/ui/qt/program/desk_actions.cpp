@@ -30,7 +30,7 @@ constexpr std::array viewers = {"hh", "kchmviewer", "uchmviewer", "xchm"};
 
 QString findViewer() {
   for (const char* viewer : viewers) {
-    const QString program = QStandardPaths::findExecutable(QString::fromLatin1(viewer));
+    QString program = QStandardPaths::findExecutable(QString::fromLatin1(viewer));
     if (!program.isEmpty()) return program;
   }
   return {};
