@@ -17,7 +17,7 @@ namespace tallywick {
 std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
   try {
     SequentialReader draws(folder, inFolder(game, drawsFile));
-    return parseDay(drawOf(draws.record<drawFields>()).displayDate());
+    return drawOf(draws.record<drawFields>()).drawnOn();
   } catch (const std::exception&) {
     return std::nullopt;  // What is wrong with the file is reported where it is read for its draws.
   }
@@ -47,7 +47,7 @@ std::string doublePlayNote(const DataFolder& folder) {
     forEachRecord<doublePlayFields>(reader, [&](const Fields<doublePlayFields>& record) {
       ++records;
       const Draw draw = doublePlayDrawOf(record);
-      if (trimmed(draw.white.front()).empty()) return;
+      if (!draw.hasNumbers()) return;
       ++known;
       oldest = draw.displayDate();
       if (newest.empty()) newest = oldest;

@@ -32,6 +32,11 @@ char* put(char* to, std::string_view piece) {
 
 }  // namespace
 
+bool Draw::hasNumbers() const {
+  const auto isBlank = [](std::string_view ball) { return trimmed(ball).empty(); };
+  return !isBlank(extra) && std::ranges::none_of(white, isBlank);
+}
+
 std::string Draw::dateKey() const {
   return join(month, day, year);
 }

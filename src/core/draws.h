@@ -2,9 +2,11 @@
 // Draw records and the texts that are built from them.
 #pragma once
 
+#include "core/day.h"
 #include "core/sequential_reader.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +30,10 @@ struct Draw {
   std::array<std::string_view, 5> white;
   std::string_view extra;
 
+  /// None where the date is no day of the calendar.
+  std::optional<Day> drawnOn() const { return parseDay(month, day, year); }
+  /// A draw whose numbers are not known is kept as a record of blanks.
+  bool hasNumbers() const;
   /// MMDDYYYY: the key that finds a draw's amount.
   std::string dateKey() const;
   /// MM-DD-YYYY.

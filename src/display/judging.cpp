@@ -33,10 +33,6 @@ void forEachWhole(std::string_view text, std::string_view file, Judgement& judge
   }
 }
 
-std::optional<Day> dayOfDraw(const Draw& draw) {
-  return parseDay(draw.month, draw.day, draw.year);
-}
-
 void addPlays(const GameInfo& game, PlaySlot slot, std::string_view text, Judgement& judgement) {
   const WholePlays whole = wholePlays(text, playFileName(game, slot));
   if (!whole.torn.empty()) judgement.torn.push_back(whole.torn);
@@ -91,7 +87,7 @@ void judgeMainDraws(const GameInfo& game, std::string_view draws, const PlaysByD
   std::optional<Day> newest;
   forEachWhole<drawFields>(draws, drawsFile, judgement, [&](const Fields<drawFields>& record) {
     const Draw draw = drawOf(record);
-    const std::optional<Day> day = dayOfDraw(draw);
+    const std::optional<Day> day = draw.drawnOn();
     if (!day) return;
     newest = newest ? std::max(*newest, *day) : *day;
     const auto found = plays.find(day->number());
@@ -105,18 +101,12 @@ void judgeMainDraws(const GameInfo& game, std::string_view draws, const PlaysByD
   }
 }
 
-/// A draw whose numbers are not known is kept as a record of blanks.
-bool hasNumbers(const Draw& draw) {
-  return !trimmed(draw.extra).empty() &&
-         std::ranges::none_of(draw.white, [](std::string_view ball) { return trimmed(ball).empty(); });
-}
-
 void judgeDoublePlays(std::string_view draws, const PlaysByDay& plays, Judgement& judgement) {
   forEachWhole<doublePlayFields>(draws, doublePlayFile, judgement,
                                  [&](const Fields<doublePlayFields>& record) {
                                    const Draw draw = doublePlayDrawOf(record);
-                                   const std::optional<Day> day = dayOfDraw(draw);
-                                   if (!day || !hasNumbers(draw)) return;
+                                   const std::optional<Day> day = draw.drawnOn();
+                                   if (!day || !draw.hasNumbers()) return;
                                    const auto found = plays.find(day->number());
                                    if (found == plays.end()) return;
                                    for (std::size_t index : found->second) {

@@ -11,12 +11,12 @@
 #include <array>
 #include <cstdio>
 #include <functional>
+#include <limits>
 
 namespace tallywick {
 
 namespace {
 
-constexpr std::size_t recentDrawCount = 100;
 constexpr std::size_t whitesOfDraw = 5;
 
 /// Counts the numbers from 1 on that are drawn from ranges, several a draw.
@@ -29,7 +29,7 @@ class Counter {
     const auto size = static_cast<std::size_t>(std::max(range, 0));
     if (size > counts_.size()) grow(size);
     ++drawsFrom_[size - 1].all;
-    if (draws_ <= recentDrawCount) ++drawsFrom_[size - 1].recent;
+    if (draws_ <= chartedDraws) ++drawsFrom_[size - 1].recent;
     range_ = range;
   }
 
@@ -38,7 +38,7 @@ class Counter {
     if (!number || *number < 1 || *number > range_) return;
     NumberCount& count = counts_[static_cast<std::size_t>(*number) - 1];
     ++count.all;
-    if (draws_ <= recentDrawCount) ++count.recent;
+    if (draws_ <= chartedDraws) ++count.recent;
     if (count.last) return;
     count.last = day;
     count.since = draws_ - 1;
@@ -82,18 +82,6 @@ class Counter {
   std::vector<Draws> drawsFrom_;
 };
 
-std::optional<Day> dayOfDraw(const Draw& draw) {
-  const auto month = wholeNumber<int>(trimmed(draw.month));
-  const auto day = wholeNumber<int>(trimmed(draw.day));
-  const auto year = wholeNumber<int>(trimmed(draw.year));
-  return month && day && year ? Day::from(*year, *month, *day) : std::nullopt;
-}
-
-/// A draw whose numbers are not known is kept as a record of blanks.
-bool hasNumbers(const Draw& draw) {
-  return !trimmed(draw.extra).empty();
-}
-
 void forEachDraw(SequentialReader& reader, DrawHistory history, const std::function<void(const Draw&)>& use) {
   if (history == DrawHistory::main) {
     forEachRecord<drawFields>(reader, [&](const Fields<drawFields>& record) { use(drawOf(record)); });
@@ -103,29 +91,25 @@ void forEachDraw(SequentialReader& reader, DrawHistory history, const std::funct
   }
 }
 
-template <typename Value>
-bool isBefore(const Value& left, const Value& right, bool descending) {
-  return descending ? right < left : left < right;
-}
-
-bool isBefore(const NumberCount& left, const NumberCount& right, NumberColumn column, bool descending) {
+/// What a column is sorted by; a number that never came up is before all days.
+double valueIn(const NumberCount& count, NumberColumn column) {
   switch (column) {
     case NumberColumn::number:
-      return isBefore(left.number, right.number, descending);
+      return count.number;
     case NumberColumn::recent:
-      return isBefore(left.recent, right.recent, descending);
+      return static_cast<double>(count.recent);
     case NumberColumn::recentByChance:
-      return isBefore(left.recentByChance, right.recentByChance, descending);
+      return count.recentByChance;
     case NumberColumn::all:
-      return isBefore(left.all, right.all, descending);
+      return static_cast<double>(count.all);
     case NumberColumn::allByChance:
-      return isBefore(left.allByChance, right.allByChance, descending);
+      return count.allByChance;
     case NumberColumn::since:
-      return isBefore(left.since, right.since, descending);
+      return static_cast<double>(count.since);
     case NumberColumn::last:
       break;
   }
-  return isBefore(left.last, right.last, descending);
+  return count.last ? count.last->number() : std::numeric_limits<double>::lowest();
 }
 
 }  // namespace
@@ -137,7 +121,7 @@ NumberTable countNumbers(Game game, DrawHistory history, std::string_view draws)
   SequentialReader reader(draws, std::string(history == DrawHistory::main ? drawsFile : doublePlayFile));
   try {
     forEachDraw(reader, history, [&](const Draw& draw) {
-      const std::optional<Day> day = hasNumbers(draw) ? dayOfDraw(draw) : std::nullopt;
+      const std::optional<Day> day = draw.hasNumbers() ? draw.drawnOn() : std::nullopt;
       const std::optional<Matrix> matrix = day ? matrixOn(game, *day) : std::nullopt;
       if (!matrix) return;
       ++table.draws;
@@ -163,9 +147,9 @@ NumberTable countNumbers(const GameInfo& game, DrawHistory history, const DataFo
 
 void sortNumbers(std::vector<NumberCount>& counts, NumberColumn column, bool descending) {
   std::ranges::sort(counts, {}, &NumberCount::number);
-  std::ranges::stable_sort(counts, [&](const NumberCount& left, const NumberCount& right) {
-    return isBefore(left, right, column, descending);
-  });
+  const double sign = descending ? -1 : 1;
+  std::ranges::stable_sort(counts, {},
+                           [&](const NumberCount& count) { return sign * valueIn(count, column); });
 }
 
 std::string numberLine(const NumberCount& count) {
