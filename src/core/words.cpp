@@ -35,6 +35,10 @@ std::string counted(std::size_t count, std::string_view thing) {
   return join(numberWord(count), " ", thing, count == 1 ? "" : "s");
 }
 
+std::string inFigures(std::size_t count, std::string_view thing) {
+  return join(std::to_string(count), " ", thing, count == 1 ? "" : "s");
+}
+
 std::string listed(const std::vector<std::string>& things) {
   std::string text;
   for (std::size_t i = 0; i < things.size(); ++i) {

@@ -24,6 +24,8 @@ std::string weekdayDate(std::string_view date);
 std::string numberWord(std::size_t count);
 /// "one play", "two plays".
 std::string counted(std::size_t count, std::string_view thing);
+/// "1 play", "12 plays".
+std::string inFigures(std::size_t count, std::string_view thing);
 /// "05", "05 and 07", "05, 07 and 11".
 std::string listed(const std::vector<std::string>& things);
 /// With its first letter as a capital.

@@ -3,6 +3,7 @@
 
 #include "core/plays.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "display/judging.h"
 #include "display/winning_tickets.h"
 #include "plays/play_table.h"
@@ -58,15 +59,9 @@ Counts countsOf(const std::vector<std::string>& listed, const Judgement& judgeme
   return counts;
 }
 
-/// "1 play", "3 plays".
-std::string plays(std::size_t count) {
-  return join(std::to_string(count), count == 1 ? " play" : " plays");
-}
-
 std::string judgedSentence(const GameInfo& game, const Counts& counts) {
   if (counts.drawn == 0) return join("No play of ", game.name, " has been drawn yet.");
-  const std::string drawn =
-      join(std::to_string(counts.drawn), " drawn ", game.name, counts.drawn == 1 ? " play" : " plays");
+  const std::string drawn = inFigures(counts.drawn, join("drawn ", game.name, " play"));
   if (counts.won == 0) return join("Judged by the draw of each play's own date, none of ", drawn, " won.");
   const std::string dollars =
       counts.dollars > 0 ? join(", ", moneyText(counts.dollars * 100), " in all before any multiplier") : "";
@@ -90,7 +85,7 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
     return sentences;
   }
   const auto say = [&](std::string_view what, std::size_t count, std::string_view why) {
-    if (count > 0) sentences.push_back(join(what, ": ", plays(count), ". ", why));
+    if (count > 0) sentences.push_back(join(what, ": ", inFigures(count, "play"), ". ", why));
   };
   if (isByDate && !listed.empty()) {
     sentences.emplace_back(page.Combo10.text().empty()
@@ -110,7 +105,7 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
   say("Won, and still among the next plays", counts.wonButCommitted, "The check does not look there.");
   const bool isFirstListed = !isByDate && page.List10.items().size() > 0;
   if (isFirstListed != counts.firstWonDoublePlay || counts.doublePlayWon > (isFirstListed ? 1U : 0U)) {
-    sentences.push_back(join("Won with Double Play: ", plays(counts.doublePlayWon), ". ",
+    sentences.push_back(join("Won with Double Play: ", inFigures(counts.doublePlayWon, "play"), ". ",
                              isByDate
                                  ? "The check by date does not look at Double Play."
                                  : "The check sets the first play against the newest Double Play draw."));

@@ -16,11 +16,6 @@ namespace tallywick {
 
 namespace {
 
-/// "1 play", "12 plays".
-std::string playCount(std::size_t plays) {
-  return plays == 0 ? "no plays" : join(std::to_string(plays), plays == 1 ? " play" : " plays");
-}
-
 /// The day of the draw; none where it has none, or cannot be read.
 std::optional<Day> addNewest(Glance& glance, const GameInfo& game, const DataFolder& folder) {
   try {
@@ -35,7 +30,7 @@ std::optional<Day> addNewest(Glance& glance, const GameInfo& game, const DataFol
     std::ranges::transform(draw.white, balls.white.begin(), trimmed);
     balls.extra = trimmed(draw.extra);
     glance.newest.tip = join("The newest draw of ", game.name, " in the record book.");
-    return parseDay(draw.month, draw.day, draw.year);
+    return draw.drawnOn();
   } catch (const std::exception& error) {
     glance.newest.tip = join("The draws cannot be read: ", error.what());
     return std::nullopt;
@@ -73,11 +68,11 @@ void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> nex
       ++all;
       if (play.day == next) ++forNext;
     }
-    if (play.state == DrawState::drawn || isWinner(play)) ++drawn;
+    if (play.state == DrawState::drawn) ++drawn;
     if (isWinner(play)) ++won;
   }
-  glance.waiting.text =
-      join(playCount(forNext), forNext == all ? "" : join(" (", std::to_string(all), " in all)"));
+  glance.waiting.text = join(forNext == 0 ? "no plays" : inFigures(forNext, "play"),
+                             forNext == all ? "" : join(" (", std::to_string(all), " in all)"));
   glance.waiting.tip = "How many of your plays wait for the next draw";
   glance.waiting.tip += forNext == all ? "." : ", and in all.";
   glance.wins.text = drawn == 0 ? "none yet"

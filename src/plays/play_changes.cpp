@@ -7,6 +7,7 @@
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "display/judging.h"
 
 #include <algorithm>
@@ -119,10 +120,6 @@ std::optional<std::string> readIfThere(const GameInfo& game, const DataFolder& f
   return std::string(os::readFile(folder.resolve(written)).view());
 }
 
-std::string counted(std::size_t plays, std::string_view done) {
-  return join(std::to_string(plays), plays == 1 ? " play " : " plays ", done);
-}
-
 /// A change from its lock to its end.
 class OneChange {
  public:
@@ -221,7 +218,7 @@ PlayChange PlayChanges::remove(const PlayTexts& shown, std::span<const PlayPlace
     }
     if (!numbers.empty()) cutOut(textIn(after, slot), std::move(numbers));
   }
-  return change.make(counted(plays.size(), "removed"), std::move(after));
+  return change.make(join(inFigures(plays.size(), "play"), " removed"), std::move(after));
 }
 
 PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std::size_t> records) const {
@@ -233,7 +230,7 @@ PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std
   for (const std::size_t number : records) moved.push_back(committed.plays.at(number - 1));
   insertAll(after, PlaySlot::played, std::move(moved));
   cutOut(after.committed, {records.begin(), records.end()});
-  return change.make(counted(records.size(), "moved to the played plays"), std::move(after));
+  return change.make(join(inFigures(records.size(), "play"), " moved to the played plays"), std::move(after));
 }
 
 PlayChange PlayChanges::add(PlaySlot file, std::string_view record) const {
@@ -278,7 +275,7 @@ PlayChange PlayChanges::bringBack(const PlayTexts& shown, std::string_view copy)
     }
     insertAll(after, slot, std::move(plays));
   }
-  return change.make(counted(missing.size(), "brought back"), std::move(after));
+  return change.make(join(inFigures(missing.size(), "play"), " brought back"), std::move(after));
 }
 
 PlayChange PlayChanges::undo(const PlayChange& earlier) const {
