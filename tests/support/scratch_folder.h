@@ -4,13 +4,12 @@
 
 #include "core/data_folder.h"
 
-#include <atomic>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
 #include <map>
+#include <random>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -67,10 +66,13 @@ class ScratchFolder {
     return !chosen && std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
   }
 
+  /// A folder that did not exist before.
   static std::filesystem::path freshPath() {
-    static std::atomic<int> counter = 0;
-    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    return holder() / ("tallywick-test-" + std::to_string(now) + "-" + std::to_string(++counter));
+    std::random_device random;
+    for (;;) {
+      std::filesystem::path path = holder() / ("tallywick-test-" + std::to_string(random()));
+      if (std::filesystem::create_directory(path)) return path;
+    }
   }
 
   std::filesystem::path root_;
