@@ -36,30 +36,30 @@ void showSide(QPushButton& button, bool on) {
   button.setPalette(colors);
 }
 
-QToolButton* settingsButton(QWidget* parent) {
+QToolButton* toolButton(QWidget* parent, const QString& text, const QString& tip) {
   auto* button = new QToolButton(parent);
-  button->setText(u"Settings…"_s);
-  button->setToolTip(u"Where updates come from, web pages and prices (Ctrl+,)"_s);
-  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+  button->setText(text);
+  button->setToolTip(tip);
   button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+QToolButton* settingsButton(QWidget* parent) {
+  auto* button =
+      toolButton(parent, u"Settings…"_s, u"Where updates come from, web pages and prices (Ctrl+,)"_s);
+  button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
   return button;
 }
 
 QToolButton* backupButton(QWidget* parent) {
-  auto* button = new QToolButton(parent);
-  button->setText(u"Backup…"_s);
-  button->setToolTip(u"Copies the record book, and brings a copy back (Ctrl+B)"_s);
+  auto* button =
+      toolButton(parent, u"Backup…"_s, u"Copies the record book, and brings a copy back (Ctrl+B)"_s);
   button->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_B));
-  button->setFocusPolicy(Qt::TabFocus);
   return button;
 }
 
 QToolButton* drawsButton(QWidget* parent) {
-  auto* button = new QToolButton(parent);
-  button->setText(u"Draws…"_s);
-  button->setToolTip(u"What draws there are; fetch, import or type in more (Ctrl+D)"_s);
-  button->setFocusPolicy(Qt::TabFocus);
-  return button;
+  return toolButton(parent, u"Draws…"_s, u"What draws there are; fetch, import or type in more (Ctrl+D)"_s);
 }
 
 }  // namespace
