@@ -123,10 +123,7 @@ SearchPanel havePlayedPanel(HavePlayedPage& page, const GameFrames& frames) {
                        page.Combo5,
                        page.Label23,
                        page.List6,
-                       u"All draws, until a count empties this list"_s,
-                       {},
-                       {},
-                       {}};
+                       u"All draws, until a count empties this list"_s};
   addHints(panel, page, frames, nullptr);
   return panel;
 }
@@ -140,27 +137,16 @@ SearchPanel playedPanel(PlayedPage& page, const GameFrames& frames) {
                        page.Combo6,
                        page.Label24,
                        page.List7,
-                       u"All draws, until a count lists those found"_s,
-                       {},
-                       {},
-                       {}};
+                       u"All draws, until a count lists those found"_s};
   addHints(panel, page, frames, &page.List7.items());
   return panel;
 }
 
 SearchPanel havePlayedPlaysPanel(HavePlayedPlaysPage& page, const GameFrames& frames) {
-  SearchPanel panel = {u"Ta&ke the numbers of the play:"_s,
-                       page.Combo8,
-                       {&page.Command45},
-                       pointersTo(page.numbers),
-                       {{page.Command46, {}, 'E'}},
-                       page.Combo9,
-                       page.Label26,
-                       page.List9,
-                       u"All draws of the game"_s,
-                       {},
-                       {},
-                       {}};
+  SearchPanel panel = {
+      u"Ta&ke the numbers of the play:"_s, page.Combo8, {&page.Command45}, pointersTo(page.numbers),
+      {{page.Command46, {}, 'E'}},         page.Combo9, page.Label26,      page.List9,
+      u"All draws of the game"_s};
   addHints(panel, page, frames, nullptr);
   return panel;
 }

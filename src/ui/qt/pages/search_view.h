@@ -41,9 +41,9 @@ struct SearchPanel {
   /// The list's heading before a search and, where a search fills it, after one.
   QString listTitle;
   /// What a press will search, and what it would be searching.
-  std::function<SearchHint()> hint;
-  std::function<Searched()> now;
-  std::shared_ptr<SearchMemory> memory;
+  std::function<SearchHint()> hint = {};
+  std::function<Searched()> now = {};
+  std::shared_ptr<SearchMemory> memory = {};
 };
 
 class SearchPanelView : public QWidget {
