@@ -16,7 +16,7 @@ namespace tallywick {
 
 std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
   try {
-    SequentialReader draws(folder, inFolder(game, drawsFile));
+    SequentialReader draws(folder, inFolder(game, drawsFile), SequentialReader::Reading::inPieces);
     return drawOf(draws.record<drawFields>()).drawnOn();
   } catch (const std::exception&) {
     return std::nullopt;  // What is wrong with the file is reported where it is read for its draws.

@@ -29,6 +29,20 @@ class FileBytes {
 /// never waited for.
 FileBytes readFile(const std::filesystem::path& file);
 
+/// What changes with a file's contents: two equal stamps of one name belong to the same contents, once the
+/// clock has moved on since its last write.
+struct FileStamp {
+  std::uint64_t volume = 0;
+  std::uint64_t file = 0;
+  std::uint64_t size = 0;
+  std::filesystem::file_time_type written = std::filesystem::file_time_type::min();
+
+  bool operator==(const FileStamp&) const = default;
+};
+
+/// A missing file has the stamp FileStamp(). Raises a RuntimeError where the platform does not say.
+FileStamp stampOf(const std::filesystem::path& file);
+
 /// A file that is read from its start in pieces.
 class InputFile {
  public:

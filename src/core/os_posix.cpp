@@ -135,6 +135,18 @@ FileBytes readFile(const fs::path& file) {
   return {std::move(bytes), got};
 }
 
+FileStamp stampOf(const fs::path& file) {
+  struct stat status {};
+  if (::stat(file.c_str(), &status) != 0) {
+    if (errno == ENOENT || errno == ENOTDIR) return {};
+    fail(errno, file);
+  }
+  const auto written =
+      std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+  return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+          std::chrono::file_clock::from_sys(std::chrono::sys_time<std::chrono::nanoseconds>(written))};
+}
+
 InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
   Descriptor descriptor(file, readingFlags);
   plainFileSize(descriptor.number(), file);

@@ -147,10 +147,17 @@ Judgement judge(const GameInfo& game, const JudgingTexts& texts) {
   return judgement;
 }
 
+std::vector<std::string> filesJudged(const GameInfo& game) {
+  std::vector<std::string> files = {playFilePath(game, PlaySlot::committed),
+                                    playFilePath(game, PlaySlot::played), inFolder(game, drawsFile),
+                                    inFolder(game, game.winningsFile)};
+  if (game.game == Game::powerBall) files.push_back(inFolder(game, doublePlayFile));
+  return files;
+}
+
 Judgement judgePlays(const GameInfo& game, const DataFolder& folder) {
-  const SequentialReader committed =
-      openPlays(folder, inFolder(game, playFileName(game, PlaySlot::committed)));
-  const SequentialReader played = openPlays(folder, inFolder(game, playFileName(game, PlaySlot::played)));
+  const SequentialReader committed = openPlays(folder, playFilePath(game, PlaySlot::committed));
+  const SequentialReader played = openPlays(folder, playFilePath(game, PlaySlot::played));
   return judgePlays(game, folder, played.text(), committed.text());
 }
 

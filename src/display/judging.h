@@ -84,6 +84,9 @@ struct JudgingTexts {
 /// are compared as days, whatever order the records have.
 Judgement judge(const GameInfo& game, const JudgingTexts& texts);
 
+/// The files that a game's judging reads, as they are written for the data folder.
+std::vector<std::string> filesJudged(const GameInfo& game);
+
 /// Judges all plays of the game's folder and changes nothing. Missing play and winnings files read as empty;
 /// error 53 where a draw history is missing.
 Judgement judgePlays(const GameInfo& game, const DataFolder& folder);

@@ -7,6 +7,7 @@
 #include "core/eras.h"
 #include "core/text.h"
 #include "core/words.h"
+#include "plays/judged_plays.h"
 #include "plays/play_table.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ namespace {
 /// The day of the draw; none where it has none, or cannot be read.
 std::optional<Day> addNewest(Glance& glance, const GameInfo& game, const DataFolder& folder) {
   try {
-    SequentialReader reader(folder, inFolder(game, drawsFile));
+    SequentialReader reader(folder, inFolder(game, drawsFile), SequentialReader::Reading::inPieces);
     if (reader.atEnd()) {
       glance.newest.tip = join("There is no draw of ", game.name, " in the record book yet.");
       return std::nullopt;
@@ -87,12 +88,12 @@ void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> nex
 
 }  // namespace
 
-Glance glanceAt(const GameInfo& game, const DataFolder& folder, const Clock* clock) {
+Glance glanceAt(const GameInfo& game, const DataFolder& folder, PlayJudge& judge, const Clock* clock) {
   Glance glance;
   const std::optional<Day> newest = addNewest(glance, game, folder);
   const std::optional<Day> next = addNext(glance, game, newest, clock);
   try {
-    addPlays(glance, judgePlays(game, folder), next);
+    addPlays(glance, judge.plays(game)->judgement, next);
   } catch (const std::exception& error) {
     glance.waiting.tip = glance.wins.tip = join("The plays cannot be judged: ", error.what());
   }

@@ -13,6 +13,7 @@ namespace tallywick {
 
 class Clock;
 class DataFolder;
+class PlayJudge;
 
 struct Glance {
   /// A part whose file cannot be read has no text; its tip then says why.
@@ -39,6 +40,6 @@ struct Glance {
 
 /// Changes nothing and raises nothing. Without a clock the next draw is the one after the newest; with it, a
 /// draw that has taken place and is not in the record book is not the next one.
-Glance glanceAt(const GameInfo& game, const DataFolder& folder, const Clock* clock);
+Glance glanceAt(const GameInfo& game, const DataFolder& folder, PlayJudge& judge, const Clock* clock);
 
 }  // namespace tallywick

@@ -6,6 +6,7 @@
 #include "display/winning_tickets.h"
 #include "plays/check_explained.h"
 #include "plays/glance.h"
+#include "plays/judged_plays.h"
 #include "plays/play_changes.h"
 #include "plays/play_table.h"
 #include "plays/ticket.h"
@@ -52,6 +53,7 @@ class MyPlays : public testing::Test {
 
   test::ScratchFolder scratch;
   StandingClock clock{"01-03-2026", "12:00:00"};
+  PlayJudge judge{scratch.folder()};
   PlayChanges changes{powerBall, scratch.folder(), clock};
 };
 
@@ -85,7 +87,7 @@ TEST_F(MyPlays, AreInOneTableWithTheirSumsByYear) {
 
 TEST_F(MyPlays, AreSeenAtAGlance) {
   const auto texts = [this](const Clock* now) {
-    const Glance seen = glanceAt(powerBall, scratch.folder(), now);
+    const Glance seen = glanceAt(powerBall, scratch.folder(), judge, now);
     return join(seen.newest.text, "|", seen.next.text, "|", seen.waiting.text, "|", seen.wins.text);
   };
   const std::string wins = "|3, of which 3 won";
@@ -101,19 +103,38 @@ TEST_F(MyPlays, AreSeenAtAGlance) {
                          Row{"01-07-2026", "12:00:00", "today, Wed 01-07-2026|1 play (2 in all)", true}}) {
     const StandingClock now(row.date, row.time);
     EXPECT_EQ(texts(&now), join("Fri 01-02-2026|", row.nextAndWaiting, wins)) << row.date << row.time;
-    const std::string tip = glanceAt(powerBall, scratch.folder(), &now).newest.tip;
+    const std::string tip = glanceAt(powerBall, scratch.folder(), judge, &now).newest.tip;
     EXPECT_EQ(tip.find("Newer draws") != std::string::npos, row.isBehind) << tip;
   }
   EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026|no plays (2 in all)" + wins);
   write(waiting + "\"01-1", "");
   EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026|no plays (1 in all)|none yet");
-  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), nullptr).wins.tip,
+  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), judge, nullptr).wins.tip,
               testing::HasSubstr("QZR6PWR1.Ply, record 2"));
   std::filesystem::remove(scratch.folder().resolve(game("QZRNUM72.Dat")));
   EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026||");
   scratch.write(game("QZRNUM6.Dat"), "");
   EXPECT_EQ(texts(nullptr), "|||");
-  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), nullptr).waiting.tip, testing::HasSubstr("QZRNUM72.Dat"));
+  EXPECT_THAT(glanceAt(powerBall, scratch.folder(), judge, nullptr).waiting.tip,
+              testing::HasSubstr("QZRNUM72.Dat"));
+}
+
+TEST_F(MyPlays, AreJudgedAnewWhereAFileHasChanged) {
+  const auto now = std::filesystem::file_time_type::clock::now();
+  for (const std::string& file : filesJudged(powerBall)) {
+    if (scratch.folder().exists(file))
+      std::filesystem::last_write_time(scratch.folder().resolve(file), now - std::chrono::hours(1));
+  }
+  const std::shared_ptr<const JudgedPlays> before = judge.plays(powerBall);
+  EXPECT_EQ(before->judgement, judgement());
+  EXPECT_EQ(before->texts, shown());
+  EXPECT_EQ(judge.plays(powerBall), before);
+  // As long as before, and twice within one step of the clock.
+  for (const std::string& play : {newest, movedEarly}) {
+    write(play + waiting, movedEarly + newest + old);
+    EXPECT_EQ(judge.plays(powerBall)->texts, shown());
+    EXPECT_EQ(judge.plays(powerBall)->judgement, judgement());
+  }
 }
 
 TEST_F(MyPlays, AChangeIsUndoneToTheByteAndWhatGoesStaysInACopy) {

@@ -44,7 +44,8 @@ class Bindings : public Desktop {};
 TEST_F(Bindings, NamesAControlThatNoWidgetShows) {
   SplashForm form;
   const Label forgotten(form, "lblForgotten");
-  Desk desk = {platform, scratch.folder(), {}, {}, {}, {}};
+  PlayJudge judge(scratch.folder());
+  Desk desk = {platform, scratch.folder(), judge, {}, {}, {}, {}};
   try {
     makeWindow(form, desk);
     FAIL() << "a control without a widget went unnoticed";

@@ -2,8 +2,8 @@
 #include "ui/qt/pages/drawn_lists.h"
 
 #include "core/words.h"
-#include "display/judging.h"
 #include "frames/game_frames.h"
+#include "plays/judged_plays.h"
 #include "plays/play_table.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
@@ -47,7 +47,7 @@ std::string keyOf(std::string_view date, const Numbers& white, std::string_view 
 /// What the plays of a game matched, by their dates and numbers.
 class MatchedPlays {
  public:
-  explicit MatchedPlays(const DataFolder& folder) : folder_(folder) {}
+  explicit MatchedPlays(PlayJudge& judge) : judge_(judge) {}
 
   /// The files may have changed.
   void forget() { highlights_.reset(); }
@@ -62,7 +62,8 @@ class MatchedPlays {
   void read(Game game) {
     highlights_.emplace();
     try {
-      for (const JudgedPlay& play : judgePlays(infoOf(game), folder_).plays) {
+      const std::shared_ptr<const JudgedPlays> judged = judge_.plays(infoOf(game));
+      for (const JudgedPlay& play : judged->judgement.plays) {
         if (play.state != DrawState::drawn) continue;
         highlights_->insert_or_assign(keyOf(play.date, play.white, play.extra),
                                       LineHighlights{play.match.whites, play.match.extra, play.match.wins(),
@@ -74,7 +75,7 @@ class MatchedPlays {
     }
   }
 
-  const DataFolder& folder_;
+  PlayJudge& judge_;
   std::optional<std::unordered_map<std::string, LineHighlights>> highlights_;
 };
 
@@ -109,8 +110,8 @@ void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& 
   picker.beforeReload();
 }
 
-void highlightMatches(LineList& list, const DataFolder& folder) {
-  const auto plays = std::make_shared<MatchedPlays>(folder);
+void highlightMatches(LineList& list, PlayJudge& judge) {
+  const auto plays = std::make_shared<MatchedPlays>(judge);
   list.beforeReload = [plays, show = list.beforeReload] {
     plays->forget();
     show();

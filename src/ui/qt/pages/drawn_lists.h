@@ -10,9 +10,9 @@
 
 namespace tallywick {
 
-class DataFolder;
 class LineList;
 class Picker;
+class PlayJudge;
 struct GameFrames;
 
 using LineFields = std::vector<LineField>;
@@ -36,6 +36,6 @@ void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& 
 
 /// Highlights in the lines of plays what the judging says that they matched. The files are read when the
 /// first of new lines is painted. After showInColumns().
-void highlightMatches(LineList& list, const DataFolder& folder);
+void highlightMatches(LineList& list, PlayJudge& judge);
 
 }  // namespace tallywick

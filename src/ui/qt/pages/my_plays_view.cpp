@@ -193,19 +193,17 @@ void MyPlaysView::showOnly(PlayFilter filter) {
 
 bool MyPlaysView::read() {
   const GameInfo* const shownGame = std::exchange(game_, &actions_.game());
-  Judgement judgement;
+  auto now = std::make_shared<const JudgedPlays>();
   failure_.clear();
-  shown_ = {};
   try {
-    shown_ = readPlayTexts(*game_, actions_.folder());
-    judgement = judgePlays(*game_, actions_.folder(), shown_.played, shown_.committed);
-    showNotices(noticesOn(judgement));
+    now = actions_.plays();
+    showNotices(noticesOn(now->judgement));
   } catch (const RuntimeError& error) {
     failure_ = join("The plays cannot be judged: ", error.what());
     showNotices({failure_});
   }
-  const bool isNew = shownGame != game_ || judgement != judgement_;
-  judgement_ = std::move(judgement);
+  const bool isNew = shownGame != game_ || now->judgement != shown_->judgement;
+  shown_ = std::move(now);
   return isNew;
 }
 
@@ -218,7 +216,7 @@ void MyPlaysView::showNotices(const std::vector<std::string>& notices) {
 void MyPlaysView::showPlays() {
   if (game_ == nullptr) return;
   const int row = table_->currentIndex().row();
-  model_->show(*game_, playsIn(judgement_, static_cast<PlayFilter>(filter_->currentIndex())));
+  model_->show(*game_, playsIn(shown_->judgement, static_cast<PlayFilter>(filter_->currentIndex())));
   table_->resizeColumnsToContents();
   // The arrow keys go on from where they were.
   const QModelIndex current = sorted_->index(std::clamp(row, 0, std::max(0, sorted_->rowCount() - 1)), 0);
@@ -226,7 +224,7 @@ void MyPlaysView::showPlays() {
 }
 
 void MyPlaysView::showSums() {
-  std::vector<YearSums> rows = sumsByYear(judgement_, actions_.price());
+  std::vector<YearSums> rows = sumsByYear(shown_->judgement, actions_.price());
   rows.push_back(totalOf(rows));
   QStringList columns = {u"Year"_s, u"Plays"_s, u"Waiting"_s, u"Won"_s, u"Prizes"_s, u"Cost"_s};
   if (game_->game == Game::powerBall) columns += u"Won with Double Play"_s;
@@ -263,20 +261,20 @@ void MyPlaysView::enableActions() {
   remove_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isRemovable));
   move_->setEnabled(!plays.empty() && std::ranges::all_of(plays, isLeftBehind));
   bringBack_->setEnabled(failure_.empty());
-  undo_->setEnabled(actions_.canUndo(shown_));
+  undo_->setEnabled(actions_.canUndo(shown_->texts));
 }
 
 void MyPlaysView::remove() {
   std::vector<PlayPlace> places;
   for (const JudgedPlay& play : selected()) places.push_back({play.file, play.record});
-  actions_.make([&](const PlayChanges& changes) { return changes.remove(shown_, places); });
+  actions_.make([&](const PlayChanges& changes) { return changes.remove(shown_->texts, places); });
 }
 
 void MyPlaysView::move() {
   std::vector<std::size_t> records;
   for (const JudgedPlay& play : selected()) records.push_back(play.record);
   std::ranges::sort(records);
-  actions_.make([&](const PlayChanges& changes) { return changes.moveToPlayed(shown_, records); });
+  actions_.make([&](const PlayChanges& changes) { return changes.moveToPlayed(shown_->texts, records); });
 }
 
 void MyPlaysView::bringBack() {
@@ -295,7 +293,7 @@ void MyPlaysView::bringBack() {
         QInputDialog::getItem(this, u"Bring Back"_s, u"Add the plays that are not among yours from &copy:"_s,
                               lines, 0, false, &isChosen);
     if (!isChosen) return std::nullopt;
-    return changes.bringBack(shown_, copies.at(static_cast<std::size_t>(lines.indexOf(line))).name);
+    return changes.bringBack(shown_->texts, copies.at(static_cast<std::size_t>(lines.indexOf(line))).name);
   });
 }
 

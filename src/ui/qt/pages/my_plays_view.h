@@ -3,7 +3,7 @@
 // changes that a player makes by hand.
 #pragma once
 
-#include "plays/play_changes.h"
+#include "plays/judged_plays.h"
 #include "plays/play_table.h"
 
 #include <QWidget>
@@ -65,9 +65,8 @@ class MyPlaysView : public QWidget {
   QPushButton* undo_ = nullptr;
 
   /// What is shown.
-  PlayTexts shown_;
+  std::shared_ptr<const JudgedPlays> shown_ = std::make_shared<JudgedPlays>();
   const GameInfo* game_ = nullptr;
-  Judgement judgement_;
   std::string failure_;
 };
 

@@ -25,6 +25,10 @@ const DataFolder& PlayActions::folder() const {
   return window_.desk().folder;
 }
 
+std::shared_ptr<const JudgedPlays> PlayActions::plays() const {
+  return window_.desk().judge.plays(game());
+}
+
 std::optional<std::int64_t> PlayActions::price() const {
   const auto& priceOf = window_.desk().priceOf;
   return priceOf ? priceOf(game().game) : std::nullopt;

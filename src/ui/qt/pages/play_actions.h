@@ -3,7 +3,7 @@
 // and the changes of each game can be undone, the last one first.
 #pragma once
 
-#include "plays/play_changes.h"
+#include "plays/judged_plays.h"
 
 #include <QString>
 #include <functional>
@@ -22,6 +22,8 @@ class PlayActions {
   /// The game on show.
   const GameInfo& game() const;
   const DataFolder& folder() const;
+  /// The plays of the game on show. Raises what judgePlays() raises.
+  std::shared_ptr<const JudgedPlays> plays() const;
   /// What a play of the game on show costs, in cents; none where the player has not said.
   std::optional<std::int64_t> price() const;
 

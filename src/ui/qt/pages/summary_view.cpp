@@ -7,6 +7,7 @@
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
+#include "ui/qt/windows/form_window.h"
 
 #include <QButtonGroup>
 #include <QFrame>
@@ -47,11 +48,12 @@ QWidget* headedList(const HeadedList& headed, const MainForm& form, Binding& bin
 }
 
 /// The winning plays, or in their place the Double Play draws, which match nothing.
-QWidget* winningPlays(const MainForm& form, SummaryPage& page, Binding& binding) {
+QWidget* winningPlays(MainForm& form, FormWindow& window) {
+  SummaryPage& page = form.summary;
   auto* box = new QWidget;
-  LineList* list =
-      addHeadedList(*columnIn(box), {page.Label16, 'Y', page.List2, playFieldsShown}, form, binding, box);
-  highlightMatches(*list, binding.folder());
+  LineList* list = addHeadedList(*columnIn(box), {page.Label16, 'Y', page.List2, playFieldsShown}, form,
+                                 window.binding(), box);
+  highlightMatches(*list, window.desk().judge);
   list->beforeReload = [list, &form, showPlays = list->beforeReload] {
     showPlays();
     if (form.frames.Frame6.visible())
@@ -74,10 +76,10 @@ void highlightFrequentNumbers(LineList& list, const SummaryPage& page) {
 
 }  // namespace
 
-SummaryView::SummaryView(MainForm& form, Binding& binding) {
+SummaryView::SummaryView(MainForm& form, FormWindow& window) {
   auto* sides = splitter(Qt::Horizontal, u"summary"_s);
-  sides->addWidget(drawsSide(form, binding));
-  sides->addWidget(playsSide(form, binding));
+  sides->addWidget(drawsSide(form, window.binding()));
+  sides->addWidget(playsSide(form, window));
   sides->setStretchFactor(0, 1);
   sides->setStretchFactor(1, 1);
   columnIn(this, theme::pageMargin)->addWidget(sides);
@@ -130,10 +132,11 @@ QWidget* SummaryView::frequentNumbers(MainForm& form, Binding& binding) {
   return box;
 }
 
-QWidget* SummaryView::playsSide(MainForm& form, Binding& binding) {
+QWidget* SummaryView::playsSide(MainForm& form, FormWindow& window) {
   SummaryPage& page = form.summary;
+  Binding& binding = window.binding();
   auto* side = splitter(Qt::Vertical, u"summary-plays"_s);
-  side->addWidget(winningPlays(form, page, binding));
+  side->addWidget(winningPlays(form, window));
   side->addWidget(amounts(form, binding));
   side->addWidget(headedList({page.Label19, 'V', page.List4, drawFieldsShown, &page.Label20}, form, binding));
   binding.bind(form.frames.Frame9, *side);

@@ -8,15 +8,16 @@
 namespace tallywick {
 
 class Binding;
+class FormWindow;
 class MainForm;
 
 class SummaryView : public QWidget {
  public:
-  SummaryView(MainForm& form, Binding& binding);
+  SummaryView(MainForm& form, FormWindow& window);
 
  private:
   QWidget* drawsSide(MainForm& form, Binding& binding);
-  QWidget* playsSide(MainForm& form, Binding& binding);
+  QWidget* playsSide(MainForm& form, FormWindow& window);
   QWidget* frequentNumbers(MainForm& form, Binding& binding);
   QWidget* amounts(MainForm& form, Binding& binding);
 };

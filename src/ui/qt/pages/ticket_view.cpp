@@ -86,7 +86,7 @@ void TicketView::judge() {
     const std::string date = toText(date_->date().toString(u"MM-dd-yyyy"_s));
     record_ = ticketRecord(game, {numbers, extra, date});
     const JudgedPlay ticket = judgeTicket(game, actions_.folder(), record_);
-    const bool isKept = isAmongPlays(judgePlays(game, actions_.folder()), ticket);
+    const bool isKept = isAmongPlays(actions_.plays()->judgement, ticket);
     keep_->setEnabled(canBeKept(ticket));
     say(toQString(ticketVerdict(game, ticket)) +
         (isKept ? u" It is among your plays already."_s : QString()));

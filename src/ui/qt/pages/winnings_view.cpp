@@ -56,14 +56,14 @@ void showWinningLines(LineList& list) {
 }
 
 /// The lines of plays in columns; of the drawn plays with what they matched.
-void showPlaysInColumns(const WinningsView& view, const MainForm& form, const Binding& binding) {
+void showPlaysInColumns(const WinningsView& view, const MainForm& form, PlayJudge& judge) {
   const GameOfLines gameOf = gameOnShowOf(form.frames);
   for (const char* name : {"List10", "List11", "List17"}) {
     showInColumns(*view.findChild<LineList*>(QString::fromLatin1(name)), drawFieldsShown, gameOf);
   }
   auto& drawn = *view.findChild<LineList*>(u"List14"_s);
   showInColumns(drawn, playFieldsShown, gameOf);
-  highlightMatches(drawn, binding.folder());
+  highlightMatches(drawn, judge);
 }
 
 /// The plays that a check found to have won.
@@ -83,7 +83,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, 
   addTab(plays(form, binding), u"Pla&ys"_s);
   addTab(check(form, binding), u"Chec&k"_s);
   binding.bind(form.bar.SSTab3, *this);
-  showPlaysInColumns(*this, form, binding);
+  showPlaysInColumns(*this, form, window.desk().judge);
   myPlays_ = new MyPlaysView(actions_, this);
   ticket_ = new TicketView(actions_, this);
   addTab(myPlays_, u"My P&lays"_s);
@@ -180,8 +180,8 @@ void WinningsView::showExplanation(const MainForm& form) {
   explainedGame_ = nullptr;
   try {
     const GameInfo& game = actions_.game();
-    explainedJudgement_ = judgePlays(game, actions_.folder());
-    for (const std::string& sentence : checkExplained(form.winnings, game, explainedJudgement_)) {
+    explainedPlays_ = actions_.plays();
+    for (const std::string& sentence : checkExplained(form.winnings, game, explainedPlays_->judgement)) {
       lines += toQString(sentence);
     }
     explainedGame_ = &game;
@@ -197,7 +197,7 @@ void WinningsView::dropStaleExplanation() {
   if (explainedGame_ == nullptr || !explained_->isVisible()) return;
   const GameInfo& game = actions_.game();
   try {
-    if (explainedGame_ == &game && judgePlays(game, actions_.folder()) == explainedJudgement_) return;
+    if (explainedGame_ == &game && actions_.plays()->judgement == explainedPlays_->judgement) return;
   } catch (const RuntimeError&) {
     // A file of theirs is gone: nothing can be said of the plays.
   }

@@ -3,7 +3,6 @@
 // Plays and a ticket that is typed in, which are the window's own.
 #pragma once
 
-#include "display/judging.h"
 #include "plays/play_table.h"
 #include "ui/qt/pages/play_actions.h"
 
@@ -40,7 +39,7 @@ class WinningsView : public QTabWidget {
   QLabel* explained_ = nullptr;
   /// What explained_ is about; none without a check.
   const GameInfo* explainedGame_ = nullptr;
-  Judgement explainedJudgement_;
+  std::shared_ptr<const JudgedPlays> explainedPlays_;
   MyPlaysView* myPlays_ = nullptr;
   TicketView* ticket_ = nullptr;
 };

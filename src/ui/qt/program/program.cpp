@@ -3,6 +3,7 @@
 
 #include "app/application.h"
 #include "app/draws_note.h"
+#include "core/remembered.h"
 #include "ui/qt/dialogs/backup_dialog.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/dialogs/real_book.h"
@@ -17,6 +18,7 @@
 
 #include <QIcon>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -91,7 +93,11 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
   };
   platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
   platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
-  platform.onDoublePlayNote = [&application] { return doublePlayNote(application.surroundings().folder); };
+  platform.onDoublePlayNote = [&application, note = Remembered<std::string>()]() mutable {
+    const DataFolder& folder = application.surroundings().folder;
+    return note.of(stampsOf(folder, std::array{inFolder(powerBall, doublePlayFile)}),
+                   [&] { return doublePlayNote(folder); });
+  };
   platform.clock = &application.surroundings().clock;
   platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };
   platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };

@@ -63,7 +63,7 @@ class Flag {
 
 }  // namespace
 
-QtPlatform::QtPlatform(const DataFolder& folder) : folder_(folder) {}
+QtPlatform::QtPlatform(const DataFolder& folder) : folder_(folder), judge_(folder) {}
 
 QtPlatform::~QtPlatform() {
   for (FormWindow* window : windows_) {
@@ -151,6 +151,7 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
 void QtPlatform::openWindow(Form& form) {
   const Desk desk = {*this,
                      folder_,
+                     judge_,
                      onClose,
                      onEditSettings,
                      onHelp,

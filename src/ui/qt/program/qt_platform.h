@@ -4,6 +4,7 @@
 
 #include "app/platform.h"
 #include "core/data_folder.h"
+#include "plays/judged_plays.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/windows/form_window.h"
 #include "ui/qt/windows/transfer_input.h"
@@ -78,6 +79,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   void tell(const std::string& text);
 
   const DataFolder& folder_;
+  PlayJudge judge_;
   std::vector<FormWindow*> windows_;
   TransferInput transferInput_;
   /// To be closed when the handler has ended.

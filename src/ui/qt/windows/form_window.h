@@ -13,11 +13,13 @@
 namespace tallywick {
 
 class Clock;
+class PlayJudge;
 
 /// What a window needs of the program.
 struct Desk {
   HandlerRunner& runner;
   const DataFolder& folder;
+  PlayJudge& judge;
   /// What closing a window by its frame does.
   std::function<void(Form&)> close;
   /// Lets the user edit the settings.

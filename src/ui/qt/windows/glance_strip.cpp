@@ -160,7 +160,7 @@ void GlanceStrip::showGame() {
   const GameInfo* const game = gameOnShow(form_.frames);
   setVisible(game != nullptr);
   if (game == nullptr) return;
-  const Glance glance = glanceAt(*game, window_.desk().folder, window_.desk().clock);
+  const Glance glance = glanceAt(*game, window_.desk().folder, window_.desk().judge, window_.desk().clock);
   const QString name = toQString(game->name);
   newest_->showPart(u"Newest %1 draw"_s.arg(name), glance.newest, u"A press shows the summary."_s,
                     ballsOf(glance, game->game));

@@ -76,7 +76,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
 }
 
 void MainWindow::addPages() {
-  pages_->addTab(new SummaryView(main_, binding()), u"Summa&ry"_s);
+  pages_->addTab(new SummaryView(main_, *this), u"Summa&ry"_s);
   searches_ = new SearchView(main_, binding());
   pages_->addTab(searches_, u"Sear&ches"_s);
   winnings_ = new WinningsView(main_, *this);

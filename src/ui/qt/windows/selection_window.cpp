@@ -205,7 +205,7 @@ QWidget* SelectionWindow::headedChoice(Label& label, char mnemonic, ComboBox& co
   const GameOfLines gameOf = [this] { return selection_.game.game; };
   const bool arePlayed = &combo == &selection_.Combo7;
   showInColumns(choice->list(), arePlayed ? playFieldsShown : drawFieldsShown, gameOf);
-  if (arePlayed) highlightMatches(choice->list(), desk().folder);
+  if (arePlayed) highlightMatches(choice->list(), desk().judge);
   title->setBuddy(&choice->list());
   column->addWidget(title);
   column->addWidget(choice, 1);
