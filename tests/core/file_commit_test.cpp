@@ -193,8 +193,9 @@ TEST_F(FileCommits, AChangeThatCannotBeCarriedOutIsSetAsideAsAWhole) {
 TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
   const StandingClock clock("11-21-2026", "18:15:00");
   put("qzr6pwr1.PLY", "mine");
-  for (const char* other : {"QZR6PWR1 2026-11-21.Ply", "QZR6PWR1 2026-11-21 181500 01.Ply",
-                            "QZR6PWR1 2026-11-21 181500.Sav", "QZR6PWR12 2026-11-21 181500.Ply"}) {
+  for (const char* other :
+       {"QZR6PWR1 2026-11-21.Ply", "QZR6PWR1 2026-11-21 181500 01.Ply", "QZR6PWR1 2026-11-21 181500.Sav",
+        "QZR6PWR1 2026-nn-21 181500.Ply", "QZR6PWR12 2026-11-21 181500.Ply"}) {
     put(other, "no copy");
   }
   for (int i = 0; i < 22; ++i) {
@@ -210,7 +211,7 @@ TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
   EXPECT_EQ(copies.front().name, "qzr6pwr1 2026-11-21 181500 22.PLY");
   EXPECT_EQ(copies[18].number, 4U);
   EXPECT_EQ(copies.back().name, "QZR6PWR1 2025-01-31 235959.Ply");
-  EXPECT_EQ(scratch.snapshot().size(), 25U);
+  EXPECT_EQ(scratch.snapshot().size(), 26U);
 }
 
 TEST_F(FileCommits, OneAfterTheOtherHoldTheLockAndLeaveNoLockFile) {

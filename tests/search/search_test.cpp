@@ -2,6 +2,7 @@
 // What scripts cannot reach of the searches and counts: every set of marks in every member of the family, the
 // leftover state game, files that end inside a record, and what a window emphasises and says.
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "search/marks.h"
 #include "search/search_hints.h"
 #include "support/fakes.h"
@@ -227,24 +228,37 @@ TEST_F(SearchHints, NumbersThatAreTypedStandForADraw) {
 }
 
 TEST_F(SearchHints, SayWhatAPressWillSearch) {
+  const auto said = [](const SearchHint& hint) {
+    return join(hint.ready ? "ready" : "idle", hint.surprises ? ", other: " : ": ", hint.text);
+  };
   page.Combo4.setText("7 17 20 41 55 9");
   const std::pair<const char*, const char*> cases[] = {
-      {"2", "One ball is marked: mark one or two more. With one alone nothing is searched."},
-      {"16", "Search looks for 07 and 09 among all six balls of a draw."},
-      {"123", "Search looks for 07, 17 and 20 among the five white balls of a draw, not in its extra ball."},
-      {"245", "Search looks for 17 and 41 only, among all six balls of a draw."},
-      {"1234", "Four balls are marked: two or three can be searched."},
+      {"2", "idle: One ball is marked: mark one or two more. With one alone nothing is searched."},
+      {"16", "ready: Search looks for 07 and 09 among all six balls of a draw."},
+      {"123",
+       "ready, other: Search looks for 07, 17 and 20 among the five white balls of a draw, not in its extra "
+       "ball."},
+      {"245", "ready, other: Search looks for 17 and 41 only, among all six balls of a draw."},
+      {"1234", "idle: Four balls are marked: two or three can be searched."},
   };
   for (const auto& [marks, text] : cases) {
     click(page.Command37);
     mark(page.numbers, marks);
-    EXPECT_EQ(searchHint(page).text, text);
+    EXPECT_EQ(said(searchHint(page)), text);
   }
   frames.Frame6.show();
-  EXPECT_EQ(searchHint(pages.havePlayedPlays, frames).text,
-            "Nothing is counted for the game on show: press PowerBall or Mega Millions.");
-  pages.played.Command23.setCaption("2");
-  EXPECT_THAT(searchHint(pages.played, frames).text, testing::HasSubstr("draws write it as 02"));
+  EXPECT_EQ(said(searchHint(pages.havePlayedPlays, frames)),
+            "idle: Nothing is counted for the game on show: press PowerBall or Mega Millions.");
+  const auto played = [&](const char* number) {
+    pages.played.Command23.setCaption(number);
+    const std::string hint = said(searchHint(pages.played, frames));
+    return hint.substr(0, hint.find(" Display takes"));
+  };
+  EXPECT_EQ(played(""), "idle: The ball has no number.");
+  EXPECT_EQ(played("02"), "ready: Search counts the Double Play draws with 02.");
+  EXPECT_EQ(
+      played("2"),
+      "idle, other: Search counts the Double Play draws with 2; draws write it as 02, so it finds none.");
 }
 
 TEST_F(SearchHints, SayWhoseResultIsShown) {
