@@ -82,6 +82,8 @@ SummaryView::SummaryView(MainForm& form, FormWindow& window) {
   sides->addWidget(playsSide(form, window));
   sides->setStretchFactor(0, 1);
   sides->setStretchFactor(1, 1);
+  // By their size hints the plays' side would be too narrow for what they matched.
+  sides->setSizes({1000, 1000});
   columnIn(this, theme::pageMargin)->addWidget(sides);
 }
 
