@@ -17,6 +17,7 @@
 #include "ui/qt/windows/transfer_window.h"
 
 #include <QIcon>
+#include <QSettings>
 #include <QTimer>
 #include <array>
 #include <filesystem>
@@ -60,8 +61,9 @@ bool takesPicture(const Options& options) {
 
 void nameProgram(bool forPicture) {
   QCoreApplication::setOrganizationName(u"Tallywick"_s);
-  // A picture shows the usual layout, whatever the user's own is.
+  // A picture shows the usual layout, whatever the user's own is, and that of the picture before.
   QCoreApplication::setApplicationName(forPicture ? u"tallywick-picture"_s : u"tallywick"_s);
+  if (forPicture) QSettings().clear();
   QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion()));
   QGuiApplication::setDesktopFileName(u"org.tallywick.Tallywick"_s);
   // The model decides when the program ends.
