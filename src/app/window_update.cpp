@@ -16,33 +16,6 @@
 
 namespace tallywick {
 
-namespace {
-
-/// The controls that an update hides and disables, as they were before it.
-class UpdateControls {
- public:
-  explicit UpdateControls(MainForm& form)
-      : form_(form),
-        powerBallEnabled_(form.menu.mnuPowerBall2.enabled()),
-        megaMillionsEnabled_(form.menu.mnuMegaMillions2.enabled()) {}
-
-  /// Lets the user update again after a failure.
-  void restore() const {
-    form_.menu.mnuPowerBall2.setEnabled(powerBallEnabled_);
-    form_.menu.mnuMegaMillions2.setEnabled(megaMillionsEnabled_);
-    form_.update.ProgressBar1.hide();
-    form_.update.Command2.show();
-    form_.update.StatusBar1.setPanel(1, "");
-  }
-
- private:
-  MainForm& form_;
-  bool powerBallEnabled_;
-  bool megaMillionsEnabled_;
-};
-
-}  // namespace
-
 void Application::updateInWindow(Control& control) {
   const bool isBoth = &control == &main_->update.Command2;
   if (!fetchesFirst() || (isBoth && updatesAreClosed(surroundings_.clock))) {
@@ -72,7 +45,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
   showRecoveryNotices();
   FetchedExports exports(folder, surroundings_.clock, &surroundings_.platform, games.size());
   if (!fetchAll(exports, games)) return;
-  const UpdateControls controls(*main_);
+  const UpdateControls before(main_->update, main_->menu.mnuPowerBall2, main_->menu.mnuMegaMillions2);
   const std::vector<const GameInfo*> madeUp = madeUpGames();
   try {
     const auto hasMoves = [&folder](const GameInfo* game) { return hasDrawnPlays(*game, folder); };
@@ -90,7 +63,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
     }
   } catch (const std::exception& error) {
     fetched_ = nullptr;
-    controls.restore();
+    before.giveBack("");
     showMessage(
         surroundings_.platform,
         join("The update could not be completed.\n\n", error.what(),

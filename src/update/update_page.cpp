@@ -12,4 +12,19 @@ UpdatePage::UpdatePage(Form& form)
   ProgressBar1.hide();
 }
 
+UpdateControls::UpdateControls(UpdatePage& page, MenuEntry& mnuPowerBall2, MenuEntry& mnuMegaMillions2)
+    : page_(page),
+      mnuPowerBall2_(mnuPowerBall2),
+      mnuMegaMillions2_(mnuMegaMillions2),
+      powerBallEnabled_(mnuPowerBall2.enabled()),
+      megaMillionsEnabled_(mnuMegaMillions2.enabled()) {}
+
+void UpdateControls::giveBack(std::string_view note) const {
+  mnuPowerBall2_.setEnabled(powerBallEnabled_);
+  mnuMegaMillions2_.setEnabled(megaMillionsEnabled_);
+  page_.ProgressBar1.hide();
+  page_.Command2.show();
+  page_.StatusBar1.setPanel(1, note);
+}
+
 }  // namespace tallywick

@@ -4,6 +4,8 @@
 
 #include "controls/controls.h"
 
+#include <string_view>
+
 namespace tallywick {
 
 struct UpdatePage {
@@ -16,6 +18,22 @@ struct UpdatePage {
   StatusBar StatusBar1;
   Button Command1;
   Button Command51;
+};
+
+/// What an update hides and disables, as it was before the update.
+class UpdateControls {
+ public:
+  UpdateControls(UpdatePage& page, MenuEntry& mnuPowerBall2, MenuEntry& mnuMegaMillions2);
+
+  /// Lets the user update again after an update that has ended early; panel 1 says `note`.
+  void giveBack(std::string_view note) const;
+
+ private:
+  UpdatePage& page_;
+  MenuEntry& mnuPowerBall2_;
+  MenuEntry& mnuMegaMillions2_;
+  bool powerBallEnabled_;
+  bool megaMillionsEnabled_;
 };
 
 }  // namespace tallywick

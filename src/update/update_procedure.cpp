@@ -8,10 +8,7 @@
 #include "update/maintenance.h"
 #include "update/transfer_status.h"
 
-#include <initializer_list>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace tallywick {
 
@@ -62,47 +59,32 @@ class Fetcher {
   Download download_;
 };
 
-/// Menu entries that an update disables.
-class DisabledEntries {
- public:
-  DisabledEntries(std::initializer_list<MenuEntry*> entries) {
-    for (MenuEntry* entry : entries) {
-      before_.emplace_back(entry, entry->enabled());
-      entry->setEnabled(false);
-    }
-  }
-  void restore() const {
-    for (const auto& [entry, wasEnabled] : before_) entry->setEnabled(wasEnabled);
-  }
-
- private:
-  std::vector<std::pair<MenuEntry*, bool>> before_;
-};
+UpdateControls controlsOf(UpdateSurroundings& update) {
+  return {update.page, update.mnuPowerBall2, update.mnuMegaMillions2};
+}
 
 /// Runs the part of an update that can be cancelled. Cancelling it lets the user update again; what has come
 /// down before stays.
 template <typename Action>
-void untilCancelled(UpdateSurroundings& update, const DisabledEntries& entries, Action action) {
+void untilCancelled(const UpdateControls& before, Action action) {
   try {
     action();
   } catch (const TransferCancelled&) {
-    update.page.ProgressBar1.hide();
-    update.page.Command2.show();
-    entries.restore();
-    update.page.StatusBar1.setPanel(1, "The update was cancelled");
+    before.giveBack("The update was cancelled");
     throw;
   }
 }
 
 void updateOneGame(UpdateSurroundings& update, const GameInfo& game, MenuEntry& entry) {
   UpdatePage& page = update.page;
+  const UpdateControls before = controlsOf(update);
   showMessage(update.boxes, join("Updating The Tallywick Software ", game.name, " game"));
   page.ProgressBar1.setValue(1);
   page.ProgressBar1.show();
   page.Command2.hide();
-  const DisabledEntries disabled({&entry});
+  entry.setEnabled(false);
   update.screen.refresh();
-  untilCancelled(update, disabled, [&] { Fetcher(update).fetch(game, game.serverFolderOfMenus); });
+  untilCancelled(before, [&] { Fetcher(update).fetch(game, game.serverFolderOfMenus); });
   progressTo(update, 100);
   maintainPlayFiles(game, update.folder, update.programs);
   update.refreshPictures();
@@ -125,12 +107,14 @@ void Command2_Click(UpdateSurroundings& update) {
     return;
   }
   UpdatePage& page = update.page;
+  const UpdateControls before = controlsOf(update);
   page.Command2.hide();
-  const DisabledEntries disabled({&update.mnuPowerBall2, &update.mnuMegaMillions2});
+  update.mnuPowerBall2.setEnabled(false);
+  update.mnuMegaMillions2.setEnabled(false);
   showMessage(update.boxes, "The Tallywick Software is updating,\r\nPlease allow the updates to complete...");
   page.ProgressBar1.show();
   update.screen.refresh();
-  untilCancelled(update, disabled, [&] {
+  untilCancelled(before, [&] {
     Fetcher fetcher(update);
     fetcher.fetch(powerBall, powerBall.serverFolder);
     progressTo(update, 50);
