@@ -4,7 +4,6 @@
 #include "app/draws_note.h"
 #include "app/game_pages.h"
 #include "app/sample_plays.h"
-#include "core/runtime_error.h"
 #include "core/text.h"
 #include "exports/made_up.h"
 #include "update/maintenance.h"
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <stdexcept>
 #include <utility>
 
 namespace tallywick {
@@ -43,14 +43,17 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
   const DataFolder& folder = surroundings_.folder;
   recover();
   showRecoveryNotices();
-  FetchedExports exports(folder, surroundings_.clock, &surroundings_.platform, games.size());
+  FetchedExports exports(folder, surroundings_.clock, games.size(), {}, &surroundings_.platform);
   if (!fetchAll(exports, games)) return;
   const UpdateControls before(main_->update, main_->menu.mnuPowerBall2, main_->menu.mnuMegaMillions2);
   const std::vector<const GameInfo*> madeUp = madeUpGames();
   try {
     const auto hasMoves = [&folder](const GameInfo* game) { return hasDrawnPlays(*game, folder); };
     if (!exports.bringDraws() && std::ranges::none_of(games, hasMoves)) {
-      exports.merge();
+      exports.takeInto(folder);
+      for (const GameFetch& result : exports.results()) {
+        if (!result.error.empty()) throw std::runtime_error(result.error);
+      }
       showNothingNew(games, exports.remarks());
       return;
     }
@@ -76,30 +79,24 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
 
 bool Application::fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
   StatusBar& status = main_->update.StatusBar1;
-  const GameInfo* asked = games.front();
-  const auto fail = [this, &status, &asked](std::string_view why) {
-    status.setPanel(1, "");
-    showMessage(surroundings_.platform,
-                join("The draws of ", asked->name, " could not be fetched. Nothing was changed.\n\n", why),
-                MessageBox::Icon::exclamation);
-  };
   try {
     for (const GameInfo* game : games) {
-      asked = game;
       status.setPanel(1, join("Fetching the draws of ", game->name));
-      exports.fetch(game->game, serverOf(game->game));
+      const GameFetch& result = exports.fetch({game->game, serverOf(game->game)});
+      if (result.error.empty()) continue;
+      status.setPanel(1, "");
+      showMessage(
+          surroundings_.platform,
+          join("The draws of ", game->name, " could not be fetched. Nothing was changed.\n\n", result.error),
+          MessageBox::Icon::exclamation);
+      return false;
     }
     status.setPanel(1, "");
     return true;
   } catch (const TransferCancelled&) {
     status.setPanel(1, "The update was cancelled; nothing was changed");
-  } catch (const RuntimeError& error) {
-    // Names the address already.
-    fail(error.description());
-  } catch (const std::exception& error) {
-    fail(error.what());
+    return false;
   }
-  return false;
 }
 
 void Application::showNothingNew(const std::vector<const GameInfo*>& games, std::string_view remarks) {

@@ -174,14 +174,17 @@ bool removeIfEmpty(const fs::path& folder) {
   return true;
 }
 
+void requireNoRecords(const fs::path& folder) {
+  if (!holdsRecords(folder)) return;
+  throw std::runtime_error(textOf(folder) + " already contains draws or plays; nothing was changed");
+}
+
 /// Makes a data folder whose games are written by `writeGames`.
 void makeBook(const fs::path& folder, const Settings& settings,
               const std::function<void(const fs::path& root)>& writeGames) {
   requireGameFolders(folder);
   requireRoomFor(folder, pictureFolder);
-  if (holdsRecords(folder)) {
-    throw std::runtime_error(textOf(folder) + " already contains draws or plays; nothing was changed");
-  }
+  requireNoRecords(folder);
   fs::create_directories(folder);
   writeRoot(folder, settings);
   const auto write = [&](const fs::path& root) {
@@ -254,12 +257,14 @@ std::vector<GameFetch> makeFetchedFolder(const DataFolder& folder, const Clock& 
                                          const Settings& settings, const FetchSettings& limits,
                                          TransferWatch* watch) {
   requireGameFolders(folder.root());
-  FetchedDraws draws(folder, clock, exportAddresses(settings), limits, watch);
-  draws.tryInNewFolder();
-  if (draws.isComplete()) {
-    makeBook(folder.root(), settings, [&](const fs::path& root) { draws.takeInto(DataFolder(root)); });
+  requireNoRecords(folder.root());
+  const std::vector<ExportAddress> addresses = exportAddresses(settings);
+  FetchedExports exports(folder, clock, addresses.size(), limits, watch);
+  for (const ExportAddress& from : addresses) exports.fetch(from);
+  if (exports.isComplete()) {
+    makeBook(folder.root(), settings, [&](const fs::path& root) { exports.takeInto(DataFolder(root)); });
   }
-  return draws.results();
+  return exports.results();
 }
 
 std::string makeFolderFromFiles(const DataFolder& folder, const Clock& clock, const fs::path& powerBallDraws,

@@ -184,6 +184,49 @@ Validators knownOf(const DataFolder& folder, const GameInfo& game, const std::st
   return validatorsIn(files.exportNote, address, fingerprintOf(files));
 }
 
+/// Fetches a game's export and reads it; writes nothing. Where the game's files are still what the last
+/// answer made them, only a newer one is asked for. Raises a RuntimeError that says why it cannot be had, or
+/// TransferCancelled.
+FetchedExport fetchExport(const DataFolder& folder, const Clock& clock, Game game, const std::string& address,
+                          const FetchSettings& settings, TransferWatch* watch) {
+  FetchedExport fetched{game, address,
+                        fetchDocument(address, knownOf(folder, infoOf(game), address), settings, watch)};
+  if (!fetched.document.isUnchanged) {
+    fetched.draws = drawsIn(fetched.document, address, game, parseDay(clock.date()).value());
+  }
+  return fetched;
+}
+
+/// What a game's files become with the export, the note on its version among them; nothing changes where the
+/// document is unchanged. Raises an error that names the address where the export must not be taken.
+exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& files,
+                       exports::Standing standing) {
+  if (fetched.document.isUnchanged) return {};
+  const GameInfo& game = infoOf(fetched.game);
+  exports::Merge merge;
+  try {
+    merge = exports::mergeExport(fetched.game, fetched.draws, {}, files, standing);
+  } catch (const std::runtime_error& error) {
+    throw transferError(TransferFault::exportContents,
+                        join(inQuotes(fetched.address), " cannot be used: ", error.what()),
+                        printable(fetched.address));
+  }
+  // A row that is later than today may be good tomorrow.
+  if (fetched.document.validators == Validators{} || fetched.draws.refused.areLater) return merge;
+  exports::GameFiles now = exports::withChanges(game, files, merge.files);
+  now.exportNote = noteText({fetched.address, fingerprintOf(now), fetched.document.validators});
+  merge.files = exports::changedFiles(game, files, std::move(now));
+  return merge;
+}
+
+/// What merging the export makes of the files that the game has now.
+exports::Merge trialMerge(const DataFolder& folder, const FetchedExport& fetched) {
+  const GameInfo& game = infoOf(fetched.game);
+  return mergeOf(
+      fetched, exports::readGameFiles(game, folder.resolve(game.folder)),
+      exports::isMadeUp(folder, fetched.game) ? exports::Standing::madeUp : exports::Standing::real);
+}
+
 /// Adds what was fetched before to what one fetch reports, so that several are seen as one transfer.
 class CountingWatch : public TransferWatch {
  public:
@@ -216,7 +259,8 @@ void orError(GameFetch& fetch, Action action) {
   } catch (const TransferCancelled&) {
     throw;
   } catch (const RuntimeError& error) {
-    fetch.error = error.description();
+    // An error of the transfer names the address already.
+    fetch.error = error.source().empty() ? error.what() : error.description();
   } catch (const std::exception& error) {
     fetch.error = error.what();
   }
@@ -242,36 +286,6 @@ exports::ExportedDraws drawsIn(const FetchedDocument& document, const std::strin
   return draws;
 }
 
-FetchedExport fetchExport(const DataFolder& folder, const Clock& clock, Game game, const std::string& address,
-                          const FetchSettings& settings, TransferWatch* watch) {
-  FetchedExport fetched{game, address,
-                        fetchDocument(address, knownOf(folder, infoOf(game), address), settings, watch)};
-  if (!fetched.document.isUnchanged) {
-    fetched.draws = drawsIn(fetched.document, address, game, parseDay(clock.date()).value());
-  }
-  return fetched;
-}
-
-exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& files,
-                       exports::Standing standing) {
-  if (fetched.document.isUnchanged) return {};
-  const GameInfo& game = infoOf(fetched.game);
-  exports::Merge merge;
-  try {
-    merge = exports::mergeExport(fetched.game, fetched.draws, {}, files, standing);
-  } catch (const std::runtime_error& error) {
-    throw transferError(TransferFault::exportContents,
-                        join(inQuotes(fetched.address), " cannot be used: ", error.what()),
-                        printable(fetched.address));
-  }
-  // A row that is later than today may be good tomorrow.
-  if (fetched.document.validators == Validators{} || fetched.draws.refused.areLater) return merge;
-  exports::GameFiles now = exports::withChanges(game, files, merge.files);
-  now.exportNote = noteText({fetched.address, fingerprintOf(now), fetched.document.validators});
-  merge.files = exports::changedFiles(game, files, std::move(now));
-  return merge;
-}
-
 exports::MergeReport takeInto(const DataFolder& folder, const FetchedExport& fetched) {
   if (fetched.document.isUnchanged) return {};
   exports::FolderMerge change(folder, fetched.game,
@@ -280,54 +294,6 @@ exports::MergeReport takeInto(const DataFolder& folder, const FetchedExport& fet
                               });
   change.commit();
   return change.report();
-}
-
-FetchedDraws::FetchedDraws(const DataFolder& folder, const Clock& clock,
-                           const std::vector<ExportAddress>& addresses, const FetchSettings& settings,
-                           TransferWatch* watch) {
-  TransferProgress soFar;
-  soFar.filesInAll = addresses.size();
-  for (const auto& [game, address] : addresses) {
-    GameFetch& result = results_.emplace_back(GameFetch{game, address});
-    std::optional<FetchedExport>& fetched = fetched_.emplace_back();
-    CountingWatch counting(watch, soFar);
-    orError(result, [&] {
-      fetched = fetchExport(folder, clock, result.game, result.address, settings, &counting);
-      result.isUnchanged = fetched->document.isUnchanged;
-    });
-  }
-  if (watch != nullptr && watch->cancelled()) throw TransferCancelled();
-}
-
-bool FetchedDraws::isComplete() const {
-  return std::ranges::all_of(results_, &std::string::empty, &GameFetch::error);
-}
-
-template <typename Action>
-void FetchedDraws::forEachFetched(Action action) {
-  for (std::size_t i = 0; i < results_.size(); ++i) {
-    if (!fetched_[i] || !results_[i].error.empty()) continue;
-    orError(results_[i], [&] { action(*fetched_[i], results_[i]); });
-  }
-}
-
-void FetchedDraws::tryInNewFolder() {
-  forEachFetched(
-      [](const FetchedExport& fetched, GameFetch&) { mergeOf(fetched, {}, exports::Standing::real); });
-}
-
-void FetchedDraws::takeInto(const DataFolder& folder) {
-  forEachFetched([&](const FetchedExport& fetched, GameFetch& result) {
-    result.report = tallywick::takeInto(folder, fetched);
-  });
-}
-
-std::vector<GameFetch> fetchDraws(const DataFolder& folder, const Clock& clock,
-                                  const std::vector<ExportAddress>& addresses, const FetchSettings& settings,
-                                  TransferWatch* watch) {
-  FetchedDraws draws(folder, clock, addresses, settings, watch);
-  draws.takeInto(folder);
-  return draws.results();
 }
 
 std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, const Clock& clock,
@@ -342,29 +308,56 @@ std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, co
       std::move(settings), watch, window);
 }
 
-FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, TransferWatch* watch,
-                               std::size_t count)
-    : folder_(folder), clock_(clock), watch_(watch) {
+FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, std::size_t count,
+                               FetchSettings settings, TransferWatch* watch)
+    : folder_(folder), clock_(clock), settings_(std::move(settings)), watch_(watch) {
   soFar_.filesInAll = count;
 }
 
-void FetchedExports::fetch(Game game, const std::string& address) {
-  CountingWatch counting(watch_, soFar_);
-  const FetchedExport& fetched =
-      fetched_->emplace_back(fetchExport(folder_, clock_, game, address, {}, &counting));
-  const GameInfo& info = infoOf(game);
-  const exports::Standing standing =
-      exports::isMadeUp(folder_, game) ? exports::Standing::madeUp : exports::Standing::real;
-  const exports::GameFiles files = exports::readGameFiles(info, folder_.resolve(info.folder));
-  const auto isOfDraws = [](const exports::NewFile& file) { return !isOwnName(file.name); };
-  const exports::Merge merge = mergeOf(fetched, files, standing);
-  if (std::ranges::any_of(merge.files, isOfDraws)) bringDraws_ = true;
-  for (const std::string& notice : merge.report.notices) remarks_ += join(info.name, ": ", notice, "\n");
-  const exports::RefusedRows& refused = merge.report.refused;
-  if (refused.count == 0) return;
-  remarks_ += join(info.name, ": rows of the export that cannot be used: ", std::to_string(refused.count),
-                   "; the first is in line ", std::to_string(refused.first.front().line), ": ",
-                   refused.first.front().reason, "\n");
+const GameFetch& FetchedExports::fetch(const ExportAddress& from) {
+  GameFetch& result = results_.emplace_back(GameFetch{from.game, from.address});
+  orError(result, [&] {
+    CountingWatch counting(watch_, soFar_);
+    const FetchedExport& fetched =
+        fetched_->emplace_back(fetchExport(folder_, clock_, from.game, from.address, settings_, &counting));
+    exports::Merge merge = trialMerge(folder_, fetched);
+    result.isUnchanged = fetched.document.isUnchanged;
+    result.bringsDraws =
+        std::ranges::any_of(merge.files, [](const exports::NewFile& file) { return !isOwnName(file.name); });
+    result.report = std::move(merge.report);
+  });
+  if (watch_ != nullptr && watch_->cancelled()) throw TransferCancelled();
+  return result;
+}
+
+bool FetchedExports::isComplete() const {
+  return std::ranges::all_of(results_, &std::string::empty, &GameFetch::error);
+}
+
+bool FetchedExports::bringDraws() const {
+  return std::ranges::any_of(results_, &GameFetch::bringsDraws);
+}
+
+std::string FetchedExports::remarks() const {
+  std::string text;
+  for (const GameFetch& result : results_) {
+    const std::string_view game = infoOf(result.game).name;
+    for (const std::string& notice : result.report.notices) text += join(game, ": ", notice, "\n");
+    const exports::RefusedRows& refused = result.report.refused;
+    if (refused.count == 0) continue;
+    text += join(game, ": rows of the export that cannot be used: ", std::to_string(refused.count),
+                 "; the first is in line ", std::to_string(refused.first.front().line), ": ",
+                 refused.first.front().reason, "\n");
+  }
+  return text;
+}
+
+void FetchedExports::takeInto(const DataFolder& folder) {
+  for (const FetchedExport& fetched : *fetched_) {
+    GameFetch& result = *std::ranges::find(results_, fetched.game, &GameFetch::game);
+    if (!result.error.empty()) continue;
+    orError(result, [&] { result.report = tallywick::takeInto(folder, fetched); });
+  }
 }
 
 TransferFactory FetchedExports::components() const {
@@ -384,8 +377,13 @@ TransferFactory FetchedExports::components() const {
   };
 }
 
-void FetchedExports::merge() const {
-  for (const FetchedExport& fetched : *fetched_) takeInto(folder_, fetched);
+std::vector<GameFetch> fetchDraws(const DataFolder& folder, const Clock& clock,
+                                  const std::vector<ExportAddress>& addresses, const FetchSettings& settings,
+                                  TransferWatch* watch) {
+  FetchedExports exports(folder, clock, addresses.size(), settings, watch);
+  for (const ExportAddress& from : addresses) exports.fetch(from);
+  exports.takeInto(folder);
+  return exports.results();
 }
 
 }  // namespace tallywick

@@ -33,18 +33,6 @@ struct FetchedExport {
   exports::ExportedDraws draws = {};
 };
 
-/// Fetches a game's export and reads it; writes nothing. Where the game's files are still what the last
-/// answer made them, only a newer one is asked for. Raises a RuntimeError that says why it cannot be had, or
-/// TransferCancelled.
-FetchedExport fetchExport(const DataFolder& folder, const Clock& clock, Game game, const std::string& address,
-                          const FetchSettings& settings = {}, TransferWatch* watch = nullptr);
-
-/// What a game's files become with the export, the note on its version among them; nothing changes where the
-/// document is unchanged. Raises an error that
-/// names the address where the export must not be taken.
-exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& files,
-                       exports::Standing standing);
-
 /// Merges the export into its game's folder, as one change.
 exports::MergeReport takeInto(const DataFolder& folder, const FetchedExport& fetched);
 
@@ -62,34 +50,47 @@ struct GameFetch {
   std::string error = {};
   /// The server has nothing newer than what is known; the report is empty.
   bool isUnchanged = false;
-  /// What changed, once the export has been taken into a folder.
+  /// Whether merging changes the game's draws or amounts in the folder that it was fetched for.
+  bool bringsDraws = false;
+  /// What merging changes in that folder; once the export has been taken into a folder, what it changed
+  /// there.
   exports::MergeReport report = {};
 };
 
 /// The exports of several games, all fetched before any is merged.
-class FetchedDraws {
+class FetchedExports {
  public:
-  /// Fetches one after the other; writes nothing. A failure is kept for its game. `watch` sees all of them as
-  /// one transfer of several files. Raises TransferCancelled.
-  FetchedDraws(const DataFolder& folder, const Clock& clock, const std::vector<ExportAddress>& addresses,
-               const FetchSettings& settings = {}, TransferWatch* watch = nullptr);
+  /// `count` exports are going to be fetched; `watch` sees them as one transfer of several files.
+  FetchedExports(const DataFolder& folder, const Clock& clock, std::size_t count, FetchSettings settings = {},
+                 TransferWatch* watch = nullptr);
 
+  /// Fetches a game's export and finds out what it makes of the folder's files; writes nothing. A failure,
+  /// also of the trial, is kept for its game. Raises TransferCancelled.
+  const GameFetch& fetch(const ExportAddress& from);
+
+  /// A game each, in the order in which they were fetched.
+  const std::vector<GameFetch>& results() const { return results_; }
   /// Whether nothing has failed.
   bool isComplete() const;
-  /// A game each, in the order of the addresses.
-  const std::vector<GameFetch>& results() const { return results_; }
-  /// Finds out whether a new folder would take what has come; what it would not becomes a failure.
-  void tryInNewFolder();
+  /// Whether merging changes a game's draws or amounts.
+  bool bringDraws() const;
+  /// What the player should know of the exports: rows that cannot be used, numbers beyond the known rules. A
+  /// sentence a line; empty where there is nothing.
+  std::string remarks() const;
+
   /// Merges what has come, each game's folder as one change. A failure is kept for its game.
   void takeInto(const DataFolder& folder);
+  /// Makes components that fetch nothing: they merge what has been fetched.
+  TransferFactory components() const;
 
  private:
-  template <typename Action>
-  void forEachFetched(Action action);
-
+  const DataFolder& folder_;
+  const Clock& clock_;
+  FetchSettings settings_;
+  TransferWatch* watch_;
+  TransferProgress soFar_;
   std::vector<GameFetch> results_;
-  /// None where it failed.
-  std::vector<std::optional<FetchedExport>> fetched_;
+  std::shared_ptr<std::vector<FetchedExport>> fetched_ = std::make_shared<std::vector<FetchedExport>>();
 };
 
 /// Fetches the exports and merges what has come: a game that fails leaves the others alone. At any time of
@@ -106,34 +107,5 @@ std::unique_ptr<TransferComponent> newPublicExports(const DataFolder& folder, co
                                                     FetchSettings settings = {},
                                                     TransferWatch* watch = nullptr,
                                                     TransferWindow* window = nullptr);
-
-/// Exports that are all fetched before an update begins, which then takes them from here.
-class FetchedExports {
- public:
-  /// `count` of them are going to be fetched; `watch` learns how many are through.
-  FetchedExports(const DataFolder& folder, const Clock& clock, TransferWatch* watch, std::size_t count);
-
-  /// Fetches the game's export and works out its merge, and changes nothing. Raises what an update from that
-  /// address would raise.
-  void fetch(Game game, const std::string& address);
-  /// Whether merging what has been fetched changes a game's draws or amounts.
-  bool bringDraws() const { return bringDraws_; }
-  /// What the player should know of the exports: rows that cannot be used, numbers beyond the known rules. A
-  /// sentence a line; empty where there is nothing.
-  const std::string& remarks() const { return remarks_; }
-  /// Makes components that fetch nothing: they merge what has been fetched.
-  TransferFactory components() const;
-  /// Merges it without an update.
-  void merge() const;
-
- private:
-  const DataFolder& folder_;
-  const Clock& clock_;
-  TransferWatch* watch_;
-  TransferProgress soFar_;
-  bool bringDraws_ = false;
-  std::string remarks_;
-  std::shared_ptr<std::vector<FetchedExport>> fetched_ = std::make_shared<std::vector<FetchedExport>>();
-};
 
 }  // namespace tallywick
