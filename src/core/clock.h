@@ -2,7 +2,9 @@
 // The clock and the date, as the texts that the files and the rules use.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace tallywick {
 
@@ -32,6 +34,19 @@ class StandingClock : public Clock {
  private:
   std::string date_;
   std::string time_;
+};
+
+/// The computer's clock until it is set; then it does not move.
+class SettableClock : public Clock {
+ public:
+  std::string date() const override { return standing_ ? standing_->date() : system_.date(); }
+  std::string time() const override { return standing_ ? standing_->time() : system_.time(); }
+  /// Takes "MM-DD-YYYY HH:MM:SS". False, with nothing changed, where the text is no such time.
+  bool set(std::string_view text);
+
+ private:
+  SystemClock system_;
+  std::optional<StandingClock> standing_;
 };
 
 }  // namespace tallywick

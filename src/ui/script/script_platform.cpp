@@ -2,12 +2,10 @@
 #include "ui/script/script_platform.h"
 
 #include "app/started_program.h"
-#include "core/day.h"
 #include "core/file_names.h"
 #include "core/text.h"
 #include "ui/script/control_json.h"
 
-#include <charconv>
 #include <filesystem>
 #include <iostream>
 
@@ -32,27 +30,6 @@ std::string_view nameOf(MessageBox::Icon icon) {
 std::string_view nameOf(MessageBox::Answer answer) {
   if (answer == MessageBox::Answer::ok) return "ok";
   return answer == MessageBox::Answer::yes ? "yes" : "no";
-}
-
-/// Whether `text` has a digit wherever `form` has one and equals it elsewhere.
-bool hasForm(std::string_view text, std::string_view form) {
-  if (text.size() != form.size()) return false;
-  for (std::size_t i = 0; i < form.size(); ++i) {
-    const bool digit = text[i] >= '0' && text[i] <= '9';
-    if (form[i] == '0' ? !digit : text[i] != form[i]) return false;
-  }
-  return true;
-}
-
-/// Whether the numbers of a text in the form "MM-DD-YYYY HH:MM:SS" are those of a day and a time.
-bool isTime(std::string_view text) {
-  const auto number = [&](std::size_t begin, std::size_t size) {
-    int value = 0;
-    std::from_chars(text.data() + begin, text.data() + begin + size, value);
-    return value;
-  };
-  return Day::from(number(6, 4), number(0, 2), number(3, 2)) && number(11, 2) < 24 && number(14, 2) < 60 &&
-         number(17, 2) < 60;
 }
 
 }  // namespace
@@ -95,12 +72,6 @@ std::string ScriptPlatform::registryValue(std::string_view, std::string_view) {
 bool ScriptPlatform::fileExists(std::string_view path) {
   std::error_code ignored;
   return std::filesystem::is_regular_file(pathOf(path), ignored);
-}
-
-bool SettableClock::set(std::string_view text) {
-  if (!hasForm(text, "00-00-0000 00:00:00") || !isTime(text)) return false;
-  standing_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
-  return true;
 }
 
 }  // namespace tallywick::script

@@ -9,7 +9,6 @@
 
 #include <deque>
 #include <iosfwd>
-#include <optional>
 
 namespace tallywick::script {
 
@@ -36,19 +35,6 @@ class ScriptPlatform : public Platform {
   const DataFolder& folder_;
   std::deque<MessageBox::Answer> answers_;
   bool ended_ = false;
-};
-
-/// The computer's clock until it is set; then it does not move.
-class SettableClock : public Clock {
- public:
-  std::string date() const override { return standing_ ? standing_->date() : system_.date(); }
-  std::string time() const override { return standing_ ? standing_->time() : system_.time(); }
-  /// Takes "MM-DD-YYYY HH:MM:SS". False, with nothing changed, where the text is no such time.
-  bool set(std::string_view text);
-
- private:
-  SystemClock system_;
-  std::optional<StandingClock> standing_;
 };
 
 }  // namespace tallywick::script
