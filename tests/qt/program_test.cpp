@@ -47,6 +47,32 @@ TEST_F(Program, SavesAPictureOfAWindow) {
   EXPECT_GT(image.convertToFormat(QImage::Format_Indexed8).colorCount(), 4);
 }
 
+TEST_F(Program, TakesStepsInItsWindows) {
+  const auto take = [this](const std::string& steps) {
+    scratch.write("steps", steps);
+    return run({QStringLiteral("--folder"), QString::fromStdString(scratch.root().string()),
+                QStringLiteral("--now"), QStringLiteral("11-21-2026 12:00:00"), QStringLiteral("--steps"),
+                QString::fromStdString((scratch.root() / "steps").string())});
+  };
+  const Outcome taken = take(
+      "# Another window, and a box that waits for an answer.\n\npress PowerBall Play Selection\npress 07\n"
+      "size 700x600\npicture " +
+      picture.toStdString() + "\nclose\npress Searches\ntype Combo4: 7 17\npress mnuHelp\npress OK\n");
+  EXPECT_EQ(taken.exitCode, 0) << taken.errors;
+  EXPECT_EQ(QImage(picture).size(), QSize(700, 600));
+  const std::pair<const char*, const char*> impossible[] = {
+      {"\npress Nowhere", "step 2: nothing to press is called Nowhere"},
+      {"type Nowhere: 7", "step 1: no field is called Nowhere"},
+      {"choose List1: 99", "step 1: List1 has no line 99"},
+      {"picture /no/such/folder/a.png", "step 1: /no/such/folder/a.png cannot be written"},
+      {"fly", "step 1: \"fly\" is no step"}};
+  for (const auto& [step, message] : impossible) {
+    const Outcome failed = take(step);
+    EXPECT_EQ(failed.exitCode, 1) << step;
+    EXPECT_NE(failed.errors.find(message), std::string::npos) << failed.errors;
+  }
+}
+
 TEST_F(Program, EndsWithOneAfterARuntimeErrorAndNamesTheFile) {
   const Outcome failed = run(pictureOf({QStringLiteral("--press"), QStringLiteral("Command52")}));
   EXPECT_EQ(failed.exitCode, 1);

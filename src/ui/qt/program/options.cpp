@@ -2,6 +2,7 @@
 #include "ui/qt/program/options.h"
 
 #include "app/small_windows.h"
+#include "core/clock.h"
 #include "core/text.h"
 
 #include <CLI/CLI.hpp>
@@ -19,6 +20,10 @@ std::string isSize(const std::string& text) {
   const auto height = wholeNumber<int>(std::string_view(text).substr(std::min(cross + 1, text.size())));
   const bool isOne = width && height && std::min(*width, *height) > 0 && std::max(*width, *height) <= largest;
   return isOne ? "" : text + " is not a size such as 1024x768";
+}
+
+std::string isTime(const std::string& text) {
+  return SettableClock().set(text) ? "" : text + " is not a time such as \"11-21-2026 12:00:00\"";
 }
 
 void declare(CLI::App& line, Options& options) {
@@ -44,6 +49,14 @@ void declare(CLI::App& line, Options& options) {
       ->type_name("WxH")
       ->check(isSize)
       ->needs(picture);
+  CLI::Option* steps =
+      line.add_option("--steps", options.steps, "Takes the steps of this file in the windows and ends")
+          ->type_name("FILE")
+          ->excludes(picture);
+  line.add_option("--now", options.now, "Sets the clock of the steps, which then does not move")
+      ->type_name("\"MM-DD-YYYY HH:MM:SS\"")
+      ->check(isTime)
+      ->needs(steps);
   line.allow_extras();
 }
 

@@ -18,6 +18,9 @@ struct Options {
   std::vector<std::string> press;
   std::string window = "Form1";
   std::string size;
+  /// The file of the steps to take, and the time that the clock then shows; empty for a run of the program.
+  std::string steps;
+  std::string now;
   /// The program's name and what else is on the command line: the toolkit has options of its own.
   std::vector<std::string> toolkitArguments;
 };

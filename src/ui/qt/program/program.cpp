@@ -12,6 +12,7 @@
 #include "ui/qt/program/options.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/program/screenshot.h"
+#include "ui/qt/program/steps.h"
 #include "ui/qt/windows/selection_window.h"
 #include "ui/qt/windows/text_size.h"
 #include "ui/qt/windows/transfer_window.h"
@@ -135,7 +136,8 @@ class ErrorsShownBy {
 /// empty where the program ends.
 int runOn(const DataFolder& folder, const Options& options, GuardedApplication& qt,
           std::optional<fs::path>& next, fs::path& restoreFrom) {
-  SystemClock clock;
+  SettableClock clock;
+  if (!options.now.empty()) clock.set(options.now);
   MixingGenerator random(entropy());
   QtPlatform platform(folder);
   if (takesPicture(options)) platform.answerAlone();
@@ -145,8 +147,9 @@ int runOn(const DataFolder& folder, const Options& options, GuardedApplication& 
       {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
   connectDesk(application, platform, next);
   platform.onBackUp = [&] { restoreFrom = showBackups(application, platform); };
-  return takesPicture(options) ? takeScreenshot(application, platform, options)
-                               : runWindows(application, platform, !options.noSplash);
+  return takesPicture(options)
+             ? takeScreenshot(application, platform, options)
+             : runWindows(application, platform, !options.noSplash && options.steps.empty());
 }
 
 int runOnFolderOf(const Options& options, GuardedApplication& qt) {
@@ -170,13 +173,21 @@ int runOnFolderOf(const Options& options, GuardedApplication& qt) {
   return exitCode;
 }
 
+int runSteps(const Options& options, GuardedApplication& qt) {
+  QApplication::setCursorFlashTime(0);
+  Steps steps(options.steps);
+  steps.start();
+  const int exitCode = runOnFolderOf(options, qt);
+  return steps.failed() ? 1 : exitCode;
+}
+
 }  // namespace
 
 int runProgram(int argumentCount, char** arguments) {
   Options options;
   if (const std::optional<int> done = readOptions(argumentCount, arguments, options)) return *done;
   ToolkitArguments toolkit(options.toolkitArguments);
-  nameProgram(takesPicture(options));
+  nameProgram(takesPicture(options) || !options.steps.empty());
   GuardedApplication qt(toolkit.count(), toolkit.pointers());
   if (toolkit.count() > 1) {
     std::cerr << "tallywick: " << toolkit.pointers()[1] << " is not an option; --help lists them\n";
@@ -185,7 +196,7 @@ int runProgram(int argumentCount, char** arguments) {
   const TextSize textSize;
   QGuiApplication::setWindowIcon(programIcon());
   try {
-    return runOnFolderOf(options, qt);
+    return options.steps.empty() ? runOnFolderOf(options, qt) : runSteps(options, qt);
   } catch (const std::exception& error) {
     // Who started the program from the desktop sees no standard error.
     if (!takesPicture(options)) tell(QString::fromUtf8(error.what()));
