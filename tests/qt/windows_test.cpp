@@ -12,20 +12,24 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
+#include "ui/qt/windows/help_window.h"
 #include "ui/qt/windows/layout_memory.h"
 #include "update/ftp_servers.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QDateEdit>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTextBrowser>
 #include <QToolButton>
 #include <algorithm>
 #include <new>
@@ -132,16 +136,34 @@ TEST_F(Windows, AnErrorInAnEventEndsTheProgramRatherThanAbortIt) {
   qt.onEscaped = nullptr;
 }
 
+QWidget* helpWindow() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->windowTitle() == u"Tallywick Help") return window;
+  }
+  return nullptr;
+}
+
 TEST_F(Windows, HelpIsThereWhereTheDataFolderCannotBeRead) {
   const std::filesystem::path loop = scratch.root() / "loop";
   std::filesystem::create_symlink(loop, loop);
   openHelp(DataFolder(loop), QStringLiteral("index.html"));
-  QWidgetList shown = QApplication::topLevelWidgets();
-  shown.erase(std::remove_if(shown.begin(), shown.end(),
-                             [](const QWidget* each) { return each->windowTitle() != u"Tallywick Help"; }),
-              shown.end());
-  ASSERT_EQ(shown.size(), 1);
-  shown.front()->close();
+  ASSERT_NE(helpWindow(), nullptr);
+  helpWindow()->close();
+}
+
+TEST_F(Windows, EveryPageOfTheManualFitsInLargeText) {
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(24);
+  QApplication::setFont(large);
+  for (const QString& page : QDir(manualFolder()).entryList({QStringLiteral("*.html")})) {
+    HelpWindow::showPage(page);
+    QCoreApplication::processEvents();
+    const auto* text = helpWindow()->findChild<QTextBrowser*>();
+    EXPECT_EQ(text->horizontalScrollBar()->maximum(), 0) << page.toStdString();
+  }
+  helpWindow()->close();
+  QApplication::setFont(usual);
 }
 
 TEST_F(Windows, SettingsThatCannotBeUnderstoodAreNotOverwritten) {

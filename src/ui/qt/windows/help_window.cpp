@@ -5,7 +5,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QHash>
+#include <QImage>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -17,7 +20,65 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usualSize = {760, 640};
+/// Room for the pictures in their own size.
+constexpr QSize usualSize = {920, 700};
+
+/// A page whose pictures are never wider than the window, and whose links are readable on every ground.
+class ManualText : public QTextBrowser {
+ public:
+  ManualText() {
+    document()->setDocumentMargin(theme::pageMargin);
+    // The room for pictures does not depend on how long the page is.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    colorLinks();
+  }
+
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    if (type == QTextDocument::HtmlResource) pictures_.clear();
+    if (type != QTextDocument::ImageResource) return loaded;
+    const QImage picture = QImage::fromData(loaded.toByteArray());
+    pictures_.insert(name, picture);
+    return fitted(picture);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTextBrowser::resizeEvent(event);
+    fitPictures();
+  }
+  void changeEvent(QEvent* event) override {
+    QTextBrowser::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    colorLinks();
+    reload();
+  }
+
+ private:
+  QImage fitted(const QImage& picture) const {
+    // A picture may be in a list.
+    const int room = viewport()->width() - 2 * theme::pageMargin - qRound(document()->indentWidth());
+    if (picture.width() <= room || room <= 0) return picture;
+    QImage shown = picture.scaledToWidth(qRound(room * devicePixelRatioF()), Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(devicePixelRatioF());
+    return shown;
+  }
+
+  void colorLinks() {
+    const QColor color = theme::standingOutFrom(palette().color(QPalette::Base),
+                                                palette().color(QPalette::Link), theme::textContrast);
+    document()->setDefaultStyleSheet(u"a { color: %1; }"_s.arg(color.name()));
+  }
+
+  void fitPictures() {
+    for (auto picture = pictures_.cbegin(); picture != pictures_.cend(); ++picture)
+      document()->addResource(QTextDocument::ImageResource, picture.key(), fitted(picture.value()));
+    if (!pictures_.isEmpty()) document()->markContentsDirty(0, document()->characterCount());
+  }
+
+  /// Those of the page, in their own size.
+  QHash<QUrl, QImage> pictures_;
+};
 
 }  // namespace
 
@@ -35,12 +96,11 @@ void HelpWindow::showPage(const QString& page) {
   open->activateWindow();
 }
 
-HelpWindow::HelpWindow() : text_(new QTextBrowser) {
+HelpWindow::HelpWindow() : text_(new ManualText) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(u"Tallywick Help"_s);
   text_->setOpenExternalLinks(true);
   text_->setAccessibleName(u"Manual"_s);
-  text_->document()->setDocumentMargin(theme::pageMargin);
   setCentralWidget(text_);
   auto* bar = addToolBar(u"Pages"_s);
   bar->setMovable(false);
@@ -51,7 +111,7 @@ HelpWindow::HelpWindow() : text_(new QTextBrowser) {
   back->setEnabled(false);
   auto* close = new QShortcut(Qt::Key_Escape, this);
   connect(close, &QShortcut::activated, this, &QWidget::close);
-  resize(usualSize);
+  resize(usualSize.boundedTo(screen()->availableSize() * 0.95));
 }
 
 void HelpWindow::goTo(const QString& page) {
