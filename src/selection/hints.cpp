@@ -225,6 +225,26 @@ std::string drawCountHint(const SelectionForm& form) {
   }
 }
 
+std::string countStepHint(const SelectionForm& form) {
+  if (!hasPlaysToLose(form)) return {};
+  const std::string& step = form.Command4.caption();
+  if (!form.Command4.enabled())
+    return join("For more draws press ", form.Command1.caption(), ", then ", step, ".");
+  if (drawCountOf(form.Label1.caption()) == 1)
+    return join("Each press of ", step, " adds a draw, up to ten.");
+  if (form.Command1.enabled())
+    return join(form.Command5.caption(), " enters them so; ", form.Command1.caption(),
+                " would go back to one draw.");
+  return join(form.Command5.caption(), " enters them so.");
+}
+
+std::string countLostHint(const SelectionForm& form, int countBefore) {
+  if (countBefore == drawCountOf(form.Label1.caption())) return {};
+  return join(form.Command1.caption(), " has set the draws back from ",
+              numberWord(static_cast<std::size_t>(countBefore)), " to one; ", form.Command4.caption(),
+              " counts them up again.");
+}
+
 std::string replayHint(const SelectionForm& form) {
   const std::vector<int> numbers = numbersIn(form.Combo7.text());
   std::vector<int> mains;

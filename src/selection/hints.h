@@ -31,6 +31,13 @@ MarksHint marksHint(const SelectionForm& form);
 /// For how many draws Done enters the current plays, and the last of them; empty without plays.
 std::string drawCountHint(const SelectionForm& form);
 
+/// What Draw and the step do with that count, where a press would surprise; empty without plays.
+std::string countStepHint(const SelectionForm& form);
+
+/// That Draw has set the count back, to be asked behind its press with the count before it; empty where it
+/// has not.
+std::string countLostHint(const SelectionForm& form, int countBefore);
+
 /// The numbers of the play to replay that Replay does not mark; empty where it marks all.
 std::string replayHint(const SelectionForm& form);
 

@@ -28,6 +28,15 @@ void emptyCurrentPlays(SelectionForm& form) {
   form.Combo1.clear();
 }
 
+std::string endedText(const PlayFile& file) {
+  std::string text(file.text());
+  if (text.empty() || text.ends_with('\n') || text.ends_with('\r')) return text;
+  const std::string_view lastField = file.plays().back().decades;
+  const bool endsInField = lastField.data() + lastField.size() == file.text().data() + file.text().size();
+  if (text.ends_with(',') && !endsInField) text.pop_back();
+  return text.append("\r\n");
+}
+
 void showNextPlays(SelectionForm& form) {
   const PlayFile committed(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed));
   form.Combo8.clear();

@@ -18,6 +18,10 @@ std::filesystem::path gameFolder(const SelectionForm& form);
 /// Drops the plays that were selected and not committed. The folder's lock is the caller's.
 void emptyCurrentPlays(SelectionForm& form);
 
+/// The text of the current plays with a line end behind the last record, which other programs may leave away
+/// or replace by a comma. A comma in front of an empty last field belongs to the record.
+std::string endedText(const PlayFile& file);
+
 /// Lists the committed plays of the first record's draw date.
 void showNextPlays(SelectionForm& form);
 

@@ -48,17 +48,6 @@ DatedPlay date(const SelectionForm& form, const MarkedPlay& play) {
   return dated;
 }
 
-/// The file's text with a line end behind its last record, which other programs may leave away or replace by
-/// a comma. A comma in front of an empty last field belongs to the record.
-std::string endedText(const PlayFile& file) {
-  std::string text(file.text());
-  if (text.empty() || text.ends_with('\n') || text.ends_with('\r')) return text;
-  const std::string_view lastField = file.plays().back().decades;
-  const bool endsInField = lastField.data() + lastField.size() == file.text().data() + file.text().size();
-  if (text.ends_with(',') && !endsInField) text.pop_back();
-  return text.append("\r\n");
-}
-
 /// Appends the play to the current plays, in one step: the file never contains a part of a record.
 void append(SelectionForm& form, const Play& play) {
   const DataFolder& folder = form.surroundings.folder;

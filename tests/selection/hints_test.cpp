@@ -2,6 +2,7 @@
 // The sentences beside the slip: they promise what a press then does.
 #include "selection/hints.h"
 
+#include "selection/removed_plays.h"
 #include "selection/selection_fixture.h"
 
 namespace tallywick::test {
@@ -101,18 +102,46 @@ TEST_F(Selection, SaysForWhichDrawsThePlaysAre) {
   EXPECT_EQ(drawCountHint(*form), "");
   select("01 02 03 04 05", "06");
   EXPECT_EQ(drawCountHint(*form), "one draw: Sat 11-21-2026");
+  EXPECT_EQ(countStepHint(*form), "For more draws press Draw, then ## PlaysDates.");
   for (const char* name : {"Command1", "Command4", "Command4"}) press(name);
   EXPECT_EQ(drawCountHint(*form), "three draws, the last on Wed 11-25-2026");
+  EXPECT_EQ(countStepHint(*form), "Done enters them so.");
+  select("01 02 03 04 07", "06");
+  EXPECT_EQ(countStepHint(*form), "Done enters them so; Draw would go back to one draw.");
+  press("Command1");
+  EXPECT_EQ(countLostHint(*form, 3),
+            "Draw has set the draws back from three to one; ## PlaysDates counts them up again.");
+  for (const char* name : {"Command4", "Command4"}) press(name);
   EXPECT_TRUE(hasPlaysToLose(*form));
   press("Command5");
   EXPECT_FALSE(hasPlaysToLose(*form));
   EXPECT_EQ(committedHint(*form),
-            "Saved: three plays, one for each of three draws from Sat 11-21-2026 to Wed 11-25-2026.");
+            "Saved: six plays, two for each of three draws from Sat 11-21-2026 to Wed 11-25-2026.");
   scratch.write("QZRNUM22.DTE", records({"11,21,2026,day,n,6"}));
   open();
   select("01 02 03 04 05", "06");
   form->Label1.setCaption("   2");
   EXPECT_THAT(drawCountHint(*form), HasSubstr("does not reach so far"));
+}
+
+TEST_F(Selection, PlaysAreTakenOffTheListsAndComeBackToTheirPlaces) {
+  const std::string first = "11-21-2026,01,02,03,04,05,06,5000000";
+  scratch.write(path("1.Ply"), records({first, "11-11-1111,,,,,,,", "11-21-2026,11,12,13,14,15,06,0500000",
+                                        "11-25-2026,21,22,23,24,25,06,0050000"}));
+  open();
+  EXPECT_EQ(recordOfNextPlay(*form, 1), 3U);
+  EXPECT_EQ(recordOfNextPlay(*form, 2), std::nullopt) << "only the plays of the first date are shown";
+  for (const char* mains : {"01 02 03 04 05", "11 12 13 14 15", "21 22 23 24 25"}) select(mains, "06");
+  const std::string before = get("7.Ply");
+  const RemovedPlay removed = removeCurrentPlay(*form, 1);
+  EXPECT_EQ(form->Combo1.items().size(), 2U);
+  EXPECT_EQ(form->StatusBar1.panels()[1], "2");
+  EXPECT_EQ(get("7.Ply").find("\"11\",\"12\""), std::string::npos);
+  bringCurrentPlayBack(*form, removed);
+  EXPECT_EQ(get("7.Ply"), before);
+  scratch.write(path("7.Ply"), records({first}));
+  EXPECT_THROW(removeCurrentPlay(*form, 0), std::runtime_error) << "the file is not what is shown";
+  EXPECT_EQ(get("7.Ply"), records({first}));
 }
 
 }  // namespace

@@ -15,7 +15,10 @@ ChoiceList::ChoiceList(const TextLines& lines, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(theme::halfGap);
-  column->addWidget(text_);
+  auto* line = row(theme::halfGap);
+  line->addWidget(new QLabel(QStringLiteral("Chosen:"), this));
+  line->addWidget(text_, 1);
+  column->addLayout(line);
   column->addWidget(list_, 1);
   text_->setReadOnly(true);
   text_->setFocusPolicy(Qt::NoFocus);

@@ -22,7 +22,6 @@ namespace {
 
 constexpr int usualRows = 8;
 constexpr int usualColumns = 40;
-constexpr int leastRows = 3;
 constexpr int leastColumns = 16;
 
 QString shown(std::string_view line) {
@@ -224,7 +223,7 @@ QSize LineList::sizeHint() const {
 }
 
 QSize LineList::minimumSizeHint() const {
-  return sizeOf(textWidth(leastColumns), leastRows);
+  return sizeOf(textWidth(leastColumns), leastRows_);
 }
 
 void LineList::updateGeometries() {

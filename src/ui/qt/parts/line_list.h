@@ -106,6 +106,8 @@ class LineList : public QListView {
   /// Texts shown in bold where they are a field of a line.
   void setEmphasis(std::vector<std::string> texts);
   const std::vector<std::string>& emphasis() const { return emphasis_; }
+  /// For how many lines there is always room.
+  void setLeastRows(int rows) { leastRows_ = rows; }
   /// What an empty list says.
   void setPlaceholder(const QString& text);
   /// The selected lines in the order of the list, each with a line end but the last.
@@ -131,6 +133,7 @@ class LineList : public QListView {
 
   LineHeader* header_ = nullptr;
   bool headerHidden_ = false;
+  int leastRows_ = 3;
   bool extraBalls_ = false;
   LineColumns untitled_;
   std::vector<std::string> titles_;

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "core/words.h"
 #include "display/judging.h"
+#include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
 #include "ui/qt/pages/drawn_lists.h"
@@ -25,6 +26,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QToolButton>
 #include <array>
 
 namespace tallywick {
@@ -34,6 +36,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize usualSize = {960, 760};
+/// Of each list, so that a small screen need not scroll.
+constexpr int leastRows = 2;
 /// The marks, what an action did and what Select will do.
 constexpr int hintLines = 4;
 
@@ -82,10 +86,10 @@ QString sortsOf(const GoingPlays& going, const GameInfo& game, const DataFolder&
 }  // namespace
 
 SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
-    : FormWindow(form, desk), selection_(form) {
+    : FormWindow(form, desk), selection_(form), removedPlays_(form) {
   auto* content = new QWidget;
   auto* sides = new QHBoxLayout(content);
-  sides->setContentsMargins(theme::pageMargin, theme::pageMargin, theme::pageMargin, theme::pageMargin);
+  sides->setContentsMargins(theme::pageMargin, theme::gap, theme::pageMargin, theme::gap);
   sides->setSpacing(theme::pageMargin);
   sides->addWidget(slipSide());
   sides->addWidget(listSide(), 1);
@@ -118,7 +122,6 @@ QWidget* SelectionWindow::slipSide() {
   addActions(*actions, side);
   column->addLayout(actions);
   addDrawCount(*column, side);
-  addBringBack(*column, side);
   column->addStretch();
   return side;
 }
@@ -155,8 +158,8 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   line->addWidget(showCount);
   line->addWidget(count);
   line->addStretch();
-  drawCount_ = new QLabel(parent);
-  drawCount_->setTextFormat(Qt::PlainText);
+  addBringBack(*line, parent);
+  drawCount_ = sentences(parent);
   drawCount_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   column.addLayout(line);
   column.addWidget(drawCount_);
@@ -166,29 +169,29 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   binding().bind(selection_.Command7, *showCount, orElse(u"Draw Count"_s));
 }
 
-void SelectionWindow::addBringBack(QBoxLayout& column, QWidget* parent) {
-  bringBack_ = new QPushButton(u"&Bring Marks Back"_s, parent);
-  bringBack_->setToolTip(u"Puts back the marks that an action took off without entering a play"_s);
+void SelectionWindow::addBringBack(QBoxLayout& line, QWidget* parent) {
+  bringBack_ = new QPushButton(u"Undo (Ctrl+&Z)"_s, parent);
+  bringBack_->setToolTip(
+      u"Puts back the marks that an action took off without entering a play, and plays that were removed"_s);
   connect(bringBack_, &QPushButton::clicked, this, [this] { bringBack(); });
   auto* action = new QAction(this);
   action->setShortcut(QKeySequence::Undo);
   connect(action, &QAction::triggered, this, [this] { bringBack(); });
   addAction(action);
-  auto* keys = new QLabel(u"Ctrl+Z"_s, parent);
-  auto* line = row();
-  line->addWidget(bringBack_);
-  line->addWidget(keys);
-  line->addStretch();
-  column.addLayout(line);
+  line.addWidget(bringBack_);
 }
 
 QWidget* SelectionWindow::listSide() {
   auto* side = new QWidget;
   auto* column = columnIn(side);
   auto* lists = splitter(Qt::Vertical, u"lists"_s);
-  lists->addWidget(headedChoice(selection_.Label3, 'U', selection_.Combo1));
+  lists->addWidget(removableChoice(selection_.Label3, 'U', selection_.Combo1,
+                                   removeCurrent_ = new QToolButton, &PlayRemoval::removeCurrent));
   lists->addWidget(headedChoice(selection_.Label28, 'H', selection_.Combo7));
-  lists->addWidget(headedChoice(selection_.Label29, 'N', selection_.Combo8));
+  lists->addWidget(removableChoice(selection_.Label29, 'N', selection_.Combo8, removeNext_ = new QToolButton,
+                                   &PlayRemoval::removeNext));
+  removeCurrent_->setText(u"Re&move"_s);
+  removeNext_->setText(u"R&emove"_s);
   lists->addWidget(savedTexts());
   column->addWidget(lists, 1);
   auto* how = new QLabel(u"Double-click a play, or press Enter on it, to mark it."_s, side);
@@ -202,6 +205,7 @@ QWidget* SelectionWindow::headedChoice(Label& label, char mnemonic, ComboBox& co
   column->setSpacing(theme::halfGap);
   auto* title = heading(box);
   auto* choice = new ChoiceList(combo.items(), box);
+  choice->list().setLeastRows(leastRows);
   const GameOfLines gameOf = [this] { return selection_.game.game; };
   const bool arePlayed = &combo == &selection_.Combo7;
   showInColumns(choice->list(), arePlayed ? playFieldsShown : drawFieldsShown, gameOf);
@@ -215,12 +219,34 @@ QWidget* SelectionWindow::headedChoice(Label& label, char mnemonic, ComboBox& co
   return box;
 }
 
+QWidget* SelectionWindow::removableChoice(Label& label, char mnemonic, ComboBox& combo, QToolButton* button,
+                                          Remove act) {
+  QWidget* box = headedChoice(label, mnemonic, combo);
+  auto& list = *box->findChild<LineList*>();
+  auto* column = static_cast<QBoxLayout*>(box->layout());
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setToolTip(u"Takes the play that is chosen in this list away; Ctrl+Z brings it back (Delete)"_s);
+  auto* line = row();
+  line->addWidget(column->takeAt(0)->widget(), 1);
+  line->addWidget(button);
+  column->insertLayout(0, line);
+  auto* action = new QAction(u"&Remove This Play"_s, &list);
+  action->setShortcut(QKeySequence::Delete);
+  action->setShortcutContext(Qt::WidgetShortcut);
+  list.addAction(action);
+  const auto removeChosen = [this, &list, act] { removeFrom(list, act); };
+  connect(action, &QAction::triggered, this, removeChosen);
+  connect(button, &QToolButton::clicked, this, removeChosen);
+  return box;
+}
+
 QWidget* SelectionWindow::savedTexts() {
   auto* box = new QWidget;
   auto* column = columnIn(box);
   column->setSpacing(theme::halfGap);
   auto* title = heading(box, u"Sa&ved Play Texts:"_s);
   auto* saved = new LineList(selection_.List1.items(), box);
+  saved->setLeastRows(leastRows);
   showInColumns(*saved, {LineField::whites, LineField::extra}, [this] { return selection_.game.game; });
   saved->setAccessibleName(u"Saved Play Texts"_s);
   title->setBuddy(saved);
@@ -237,7 +263,8 @@ void SelectionWindow::markFrom(LineList& list, const TextLines& items) {
     if (!index.isValid() || binding().isReleased() || line >= items.size()) return;
     desk().runner.run([this, &items, line] {
       std::string left;
-      removed_.watch(selection_, [&] { left = markLine(selection_, items[line]); });
+      if (removed_.watch(selection_, [&] { left = markLine(selection_, items[line]); }))
+        undo_.push_back(Undo::marks);
       note(toQString(left));
     });
   };
@@ -275,7 +302,11 @@ void SelectionWindow::showStatusLabels() {
 
 void SelectionWindow::surroundActions() {
   const auto watch = [this](Button& button, const std::function<QString(bool tookOff)>& says) {
-    button.onClick = [this, says, act = button.onClick] { note(says(removed_.watch(selection_, act))); };
+    button.onClick = [this, says, act = button.onClick] {
+      const bool tookOff = removed_.watch(selection_, act);
+      if (tookOff) undo_.push_back(Undo::marks);
+      note(says(tookOff));
+    };
   };
   const auto bringsBack = [](const QString& name) {
     return [name](bool tookOff) {
@@ -286,6 +317,11 @@ void SelectionWindow::surroundActions() {
   watch(selection_.Command84, bringsBack(u"Clear"_s));
   watch(selection_.Command9, [](bool) { return QString(); });
   watch(selection_.Command60, [this](bool) { return toQString(replayHint(selection_)); });
+  selection_.Command1.onClick = [this, draw = selection_.Command1.onClick] {
+    const int before = drawCountOf(selection_.Label1.caption());
+    draw();
+    note(toQString(countLostHint(selection_, before)));
+  };
   selection_.Command5.onClick = [this, done = selection_.Command5.onClick] {
     if (!mayCommit()) return;
     done();
@@ -295,17 +331,45 @@ void SelectionWindow::surroundActions() {
 
 void SelectionWindow::afterDone() {
   saved_ = true;
+  undo_.clear();
   desk().runner.attempt([this] {
     note(toQString(committedHint(selection_)));
-    if (desk().playsSaved) desk().playsSaved(selection_.game);
+    showNextPlays(selection_);
+    showCommittedElsewhere();
+  });
+}
+
+void SelectionWindow::showCommittedElsewhere() {
+  if (desk().playsSaved) desk().playsSaved(selection_.game);
+}
+
+void SelectionWindow::removeFrom(const LineList& list, Remove act) {
+  if (binding().isReleased()) return;
+  const QModelIndex chosen = list.currentIndex();
+  desk().runner.run([this, chosen, act] {
+    if (!chosen.isValid()) return note(u"Choose a play in the list first, then Remove."_s);
+    desk().runner.attempt([this, line = static_cast<std::size_t>(chosen.row()), act] {
+      (removedPlays_.*act)(line);
+      undo_.push_back(Undo::play);
+      note(u"The play was removed; Ctrl+Z brings it back."_s);
+      showCommittedElsewhere();
+    });
   });
 }
 
 void SelectionWindow::bringBack() {
   if (binding().isReleased() || !bringBack_->isEnabled()) return;
   desk().runner.run([this] {
-    removed_.bringBack(selection_);
     note({});
+    const Undo last = undo_.back();
+    undo_.pop_back();
+    if (last == Undo::marks) {
+      removed_.bringBack(selection_);
+      return;
+    }
+    desk().runner.attempt([this] {
+      if (removedPlays_.bringBack()) showCommittedElsewhere();
+    });
   });
 }
 
@@ -328,9 +392,13 @@ void SelectionWindow::showState() {
     hint_->show(kindOf(hint.kind), toQString(hint.marks), toQString(hint.text));
   }
   waitingSelect_->setVisible(!selection_.Command59.visible());
-  bringBack_->setEnabled(open && !removed_.empty());
+  bringBack_->setEnabled(!undo_.empty());
+  removeCurrent_->setEnabled(open && !selection_.Combo1.items().empty());
+  removeNext_->setEnabled(!selection_.Combo8.items().empty());
   const QString draws = toQString(sentence(drawCountHint(selection_)));
-  drawCount_->setText(draws.isEmpty() && open ? u"Select a play first, then Draw."_s : draws);
+  drawCount_->setText(draws.isEmpty() && open ? u"Select a play first, then Draw."_s
+                                              : draws + (draws.isEmpty() ? u""_s : u". "_s) +
+                                                    toQString(countStepHint(selection_)));
   showStatusLabels();
 }
 

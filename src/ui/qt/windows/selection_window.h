@@ -5,10 +5,12 @@
 
 #include "selection/hints.h"
 #include "ui/qt/windows/form_window.h"
+#include "ui/qt/windows/play_removal.h"
 
 class QBoxLayout;
 class QGridLayout;
 class QPushButton;
+class QToolButton;
 
 namespace tallywick {
 
@@ -34,10 +36,13 @@ class SelectionWindow : public FormWindow {
   QWidget* slipSide();
   QWidget* listSide();
   QWidget* headedChoice(Label& label, char mnemonic, ComboBox& combo);
+  using Remove = void (PlayRemoval::*)(std::size_t line);
+  /// A list whose plays can be taken away.
+  QWidget* removableChoice(Label& label, char mnemonic, ComboBox& combo, QToolButton* button, Remove act);
   QWidget* savedTexts();
   void addActions(QGridLayout& grid, QWidget* parent);
   void addDrawCount(QBoxLayout& column, QWidget* parent);
-  void addBringBack(QBoxLayout& column, QWidget* parent);
+  void addBringBack(QBoxLayout& line, QWidget* parent);
   void addStatus();
   /// Lets a double click, and the Enter key, mark the play of a line.
   void markFrom(LineList& list, const TextLines& items);
@@ -50,6 +55,10 @@ class SelectionWindow : public FormWindow {
   /// Lets the actions ask before and say afterwards what they did.
   void surroundActions();
   void afterDone();
+  void removeFrom(const LineList& list, Remove act);
+  /// The main window shows committed plays too.
+  void showCommittedElsewhere();
+  /// Undoes the last action that took marks or a play away.
   void bringBack();
   /// Says `text` over the sentence about the marks until these change.
   void note(const QString& text);
@@ -61,9 +70,15 @@ class SelectionWindow : public FormWindow {
   HintPanel* hint_ = nullptr;
   QPushButton* waitingSelect_ = nullptr;
   QPushButton* bringBack_ = nullptr;
+  QToolButton* removeCurrent_ = nullptr;
+  QToolButton* removeNext_ = nullptr;
   QLabel* drawCount_ = nullptr;
   std::vector<QLabel*> statusLabels_;
   RemovedMarks removed_;
+  PlayRemoval removedPlays_;
+  enum class Undo { marks, play };
+  /// What can be brought back, the last one at the end.
+  std::vector<Undo> undo_;
   QString note_;
   /// The marks to which the note belongs.
   std::string notedMarks_;

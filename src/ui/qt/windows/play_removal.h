@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Taking plays away in a selection window, and bringing them back, the last one first.
+#pragma once
+
+#include "plays/play_changes.h"
+#include "selection/removed_plays.h"
+
+#include <variant>
+#include <vector>
+
+namespace tallywick {
+
+class SelectionForm;
+
+class PlayRemoval {
+ public:
+  explicit PlayRemoval(SelectionForm& form) : form_(form) {}
+
+  /// By the line of the list of current plays. What prevents it is raised as an exception whose text is for
+  /// the player; so do the others.
+  void removeCurrent(std::size_t line);
+  /// By the line of the list of next plays, of which a drawn one stays.
+  void removeNext(std::size_t line);
+
+  bool empty() const { return removed_.empty(); }
+  /// Forgets what it brings back, or cannot bring back any more. True where committed plays have changed.
+  bool bringBack();
+
+ private:
+  SelectionForm& form_;
+  std::vector<std::variant<RemovedPlay, PlayChange>> removed_;
+};
+
+}  // namespace tallywick
