@@ -14,6 +14,14 @@ namespace tallywick {
 
 namespace {
 
+/// Of the six numbers of a draw line, from 1.
+constexpr std::array<std::size_t, 6> ballPositions = {16, 19, 22, 25, 28, extraBallPosition};
+
+std::vector<Button*> filledOf(std::vector<Button*> numbers) {
+  std::erase_if(numbers, [](const Button* number) { return trimmed(number->caption()).empty(); });
+  return numbers;
+}
+
 std::size_t markedCount(const ButtonRow<6>& numbers) {
   return static_cast<std::size_t>(std::count_if(numbers.begin(), numbers.end(), isMarked));
 }
@@ -47,7 +55,8 @@ Searched searchOf(std::string_view game, std::string_view number) {
   return {std::string(game), std::string(trimmed(number))};
 }
 
-constexpr std::string_view ownNumbers = " In the place of a draw you can type numbers such as 7 17 20.";
+constexpr std::string_view ownNumbers =
+    " In the place of a draw you can type numbers such as 7 17; Display marks them.";
 
 /// The hint of a page on which balls are marked and one is counted.
 SearchHint markedHint(const ButtonRow<6>& numbers, std::string_view game, const Button& search) {
@@ -80,24 +89,45 @@ std::optional<std::string> typedDrawLine(std::string_view typed) {
     at = end;
   }
   if (numbers.empty() || numbers.size() > 6) return std::nullopt;
-  constexpr std::array<std::size_t, 6> places = {16, 19, 22, 25, 28, extraBallPosition};
   std::string line;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     const bool isExtra = hasExtra && i + 1 == numbers.size();
-    line.resize(places[isExtra ? 5 : i] - 1, ' ');
+    line.resize(ballPositions[isExtra ? 5 : i] - 1, ' ');
     line += twoDigits(numbers[i]);
   }
   return line;
 }
 
-void takeTypedNumbers(Button& display, ComboBox& source) {
-  display.onClick = [&source, act = display.onClick] {
+void takeTypedNumbers(Button& display, ComboBox& source, const std::vector<Button*>& numbers,
+                      std::size_t mostMarked) {
+  display.onClick = [&source, numbers, mostMarked, act = display.onClick] {
     const std::string typed = source.text();
     const std::optional<std::string> line = typedDrawLine(typed);
     if (line) source.setText(*line);
     act();
-    if (line) source.setText(typed);
+    if (!line) return;
+    source.setText(typed);
+    const std::vector<Button*> filled = filledOf(numbers);
+    if (filled.size() > mostMarked) return;
+    for (Button* number : filled) {
+      if (!isMarked(*number)) number->onClick();
+    }
   };
+}
+
+std::string typedHint(const Button& display, const ComboBox& source, const std::vector<Button*>& numbers) {
+  const std::optional<std::string> line = typedDrawLine(source.text());
+  if (!line) return {};
+  std::vector<std::string> typed;
+  bool areShown = true;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const std::string_view number = trimmed(cut(*line, ballPositions[i], 2));
+    if (!number.empty()) typed.emplace_back(number);
+    areShown = areShown && trimmed(numbers[i]->caption()) == number;
+  }
+  return areShown
+             ? ""
+             : join("Typed, and not on the balls yet: ", listed(typed), ". Press ", display.caption(), ".");
 }
 
 SearchHint searchHint(const TwoThreePage& page) {
@@ -167,6 +197,7 @@ void SearchMemory::watch(Button& search, const std::function<Searched()>& now) {
     const std::size_t listedBefore = listed_ != nullptr ? listed_->revision() : 0;
     act();
     searched_ = searched;
+    isOld_ = false;
     foundRevision_ = found_.revision();
     // A press that searches nothing leaves the list alone.
     if (listed_ != nullptr && listed_->revision() != listedBefore) listedRevision_ = listed_->revision();
@@ -179,6 +210,8 @@ std::string SearchMemory::hint(const Searched& now) const {
   const std::string shown = join("the ", searched_.game, " draws with ", searched_.numbers);
   const bool otherGame = !now.game.empty() && now.game != searched_.game;
   const bool otherNumbers = !now.numbers.empty() && now.numbers != searched_.numbers;
+  if (isOld_)
+    return join("Still shown: ", shown, ", found before the draws changed. Search again for all of them.");
   if (!otherGame && !otherNumbers) return join("Shown: ", shown, ".");
   return join("Still shown: ", shown, otherNumbers ? ", not what is marked now" : "",
               otherGame ? join(", not the game on show (", now.game, ")") : "", ".");

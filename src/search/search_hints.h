@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallywick {
 
@@ -16,8 +17,13 @@ namespace tallywick {
 /// without a date, which Display cuts. None for any other text.
 std::optional<std::string> typedDrawLine(std::string_view typed);
 
-/// Lets a press of `display` take numbers that are typed in the place of a draw.
-void takeTypedNumbers(Button& display, ComboBox& source);
+/// Lets a press of `display` take numbers that are typed in the place of a draw, and mark their balls where
+/// there are at most `mostMarked` of them.
+void takeTypedNumbers(Button& display, ComboBox& source, const std::vector<Button*>& numbers,
+                      std::size_t mostMarked);
+
+/// That typed numbers are not on the balls yet; empty where they are, or where none are typed.
+std::string typedHint(const Button& display, const ComboBox& source, const std::vector<Button*>& numbers);
 
 struct SearchHint {
   /// Whether the press searches what is marked.
@@ -54,6 +60,9 @@ class SearchMemory {
   /// Lets each press of `search` be remembered. The memory outlives the button's presses.
   void watch(Button& search, const std::function<Searched()>& now);
 
+  /// The record book has other draws now than when it searched.
+  void drawsChanged() { isOld_ = true; }
+
   /// "Shown: the PowerBall draws with 07 and 17." and where the page is at something else by now, that they
   /// are not of it; empty without a result. `now` without numbers says nothing against it.
   std::string hint(const Searched& now) const;
@@ -64,6 +73,7 @@ class SearchMemory {
   const TextLines& found_;
   const TextLines* listed_;
   Searched searched_;
+  bool isOld_ = false;
   std::size_t foundRevision_ = 0;
   std::size_t listedRevision_ = 0;
 };

@@ -198,8 +198,15 @@ class SearchHints : public testing::Test, public SearchWindow {
     files.write(std::string(powerBallDraws), test::records({"11,18,2026,07,17,20,41,55,09,2"}));
     page.Command37.onClick = [this] { Command37_Click(page); };
     page.Command38.onClick = [this] { Command38_Click(page, files.folder(), boxes); };
-    takeTypedNumbers(page.Command37, page.Combo4);
+    for (Button& number : page.numbers) number.onClick = [&number] { toggleMark(number); };
+    takeTypedNumbers(page.Command37, page.Combo4, balls(), 3);
     memory.watch(page.Command38, [this] { return searchedNow(page, "PowerBall"); });
+  }
+
+  std::vector<Button*> balls() {
+    std::vector<Button*> all;
+    for (Button& number : page.numbers) all.push_back(&number);
+    return all;
   }
 
   TwoThreePage& page = pages.twoThree;
@@ -220,11 +227,17 @@ TEST_F(SearchHints, NumbersThatAreTypedStandForADraw) {
       {" 11-18-2026    07 17 20 41 55   09", std::nullopt},
   };
   for (const auto& [typed, line] : cases) EXPECT_EQ(typedDrawLine(typed), line) << typed;
-  page.Combo4.setText("7 17 20");
+  page.Combo4.setText("7 17 + 20");
+  EXPECT_EQ(typedHint(page.Command37, page.Combo4, balls()),
+            "Typed, and not on the balls yet: 07, 17 and 20. Press Display.");
   click(page.Command37);
-  EXPECT_EQ(page.numbers[1].caption(), "17");
-  EXPECT_EQ(page.numbers[3].caption(), "");
-  EXPECT_EQ(page.Combo4.text(), "7 17 20");
+  EXPECT_EQ(typedHint(page.Command37, page.Combo4, balls()), "");
+  EXPECT_EQ(page.numbers[1].caption() + page.numbers[3].caption(), "17  ");
+  EXPECT_EQ(page.Combo4.text(), "7 17 + 20");
+  EXPECT_TRUE(isMarked(page.numbers[0]) && isMarked(page.numbers[5]));
+  page.Combo4.setText("7 17 20 30");
+  click(page.Command37);
+  EXPECT_FALSE(isMarked(page.numbers[0]));
 }
 
 TEST_F(SearchHints, SayWhatAPressWillSearch) {
@@ -273,6 +286,11 @@ TEST_F(SearchHints, SayWhoseResultIsShown) {
   EXPECT_EQ(memory.hint(searchedNow(page, "Mega Millions")),
             "Still shown: the PowerBall draws with 07 and 17, not what is marked now, not the game on show "
             "(Mega Millions).");
+  memory.drawsChanged();
+  EXPECT_EQ(
+      memory.hint(searchedNow(page, {})),
+      "Still shown: the PowerBall draws with 07 and 17, found before the draws changed. Search again for "
+      "all of them.");
   page.List8.add("a draw of another game");
   EXPECT_FALSE(memory.isListed());
   page.Combo7.clear();

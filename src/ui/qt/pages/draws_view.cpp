@@ -28,9 +28,26 @@ void addPictures(QGridLayout& grid, const QString& title, ImageRow& images, Bind
   }
 }
 
+std::string picturedNumbers(const DrawsPage& page) {
+  std::string numbers;
+  for (const ImageRow* row : {&page.powerBallImages, &page.doublePlayImages, &page.megaMillionsImages}) {
+    for (const Image& image : *row) numbers += image.number() + " ";
+  }
+  return numbers;
+}
+
+/// Behind a press of `button`, `isOld` is false.
+void renewedBy(Button& button, bool& isOld) {
+  button.onClick = [&isOld, act = button.onClick] {
+    act();
+    isOld = false;
+  };
+}
+
 }  // namespace
 
-DrawsView::DrawsView(MainForm& form, Binding& binding) : numbers_(new NumberTableView(form, binding)) {
+DrawsView::DrawsView(MainForm& form, Binding& binding)
+    : form_(form), numbers_(new NumberTableView(form, binding)), pictured_(picturedNumbers(form.draws)) {
   auto* newest = new QWidget;
   auto* column = columnIn(newest, theme::pageMargin);
   column->addWidget(chart(form.draws, binding), 1);
@@ -38,10 +55,34 @@ DrawsView::DrawsView(MainForm& form, Binding& binding) : numbers_(new NumberTabl
   setDocumentMode(true);
   addTab(newest, u"Char&ts and Newest Draws"_s);
   addTab(numbers_, u"Number Tabl&e"_s);
+  renewedBy(form.draws.Command52, isChartOld_);
+  renewedBy(form.draws.Command27, isChartOld_);
+  renewedBy(form.draws.Command3, arePicturesOld_);
+  showNotes();
 }
 
 void DrawsView::showChanges() {
   numbers_->showChanges();
+  pictured_ = picturedNumbers(form_.draws);
+  showNotes();
+}
+
+void DrawsView::drawsChanged() {
+  isChartOld_ = !form_.draws.Draw1.bars().empty();
+  // An update shows the new pictures itself.
+  arePicturesOld_ =
+      !form_.draws.powerBallImages.front().number().empty() && pictured_ == picturedNumbers(form_.draws);
+}
+
+void DrawsView::showNotes() {
+  QStringList chart;
+  if (form_.frames.Frame11.visible())
+    chart += u"This chart is of PowerBall; Mega Millions has none. See the Number Table."_s;
+  if (isChartOld_) chart += u"The draws have changed since: press its button for a new one."_s;
+  chartNote_->setText(chart.join(u'\n'));
+  chartNote_->setVisible(!chart.isEmpty());
+  picturesNote_->setText(u"The draws have changed since: press the button for the newest."_s);
+  picturesNote_->setVisible(arePicturesOld_);
 }
 
 QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
@@ -53,7 +94,10 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   buttons->addWidget(lastHundred);
   buttons->addWidget(doublePlay);
   buttons->addStretch();
+  chartNote_ = heading(box);
+  chartNote_->setTextFormat(Qt::PlainText);
   auto* column = columnIn(box);
+  column->addWidget(chartNote_);
   column->addWidget(view, 1);
   column->addLayout(buttons);
   view->setWords([](const Chart& chart) { return toQString(chartInWords(chart)); },
@@ -78,7 +122,9 @@ QWidget* DrawsView::pictures(DrawsPage& page, Binding& binding) {
   title->addStretch();
   title->addWidget(show);
   auto* column = columnIn(box);
+  picturesNote_ = heading(box);
   column->addLayout(title);
+  column->addWidget(picturesNote_);
   column->addLayout(grid);
   binding.bind(page.Command3, *show, withMnemonic('A'));
   return box;

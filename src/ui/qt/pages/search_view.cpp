@@ -65,7 +65,8 @@ SearchPanel twoThreePanel(TwoThreePage& page) {
           u"All draws, until a search lists those found"_s,
           [&page] { return searchHint(page); },
           [&page] { return searchedNow(page, {}); },
-          memory};
+          memory,
+          3};
 }
 
 /// Each of the three searches has a game of its own; before them the lists show the game on show.
@@ -172,7 +173,7 @@ void SearchPanelView::addSource(const SearchPanel& panel, Binding& binding) {
   picker->lineEdit()->setPlaceholderText(u"a draw, or numbers such as 7 17 20"_s);
   binding.bind(panel.source, *picker);
   for (Button* display : panel.displays) {
-    takeTypedNumbers(*display, panel.source);
+    takeTypedNumbers(*display, panel.source, panel.numbers, panel.mostMarked);
     auto* button = new QPushButton(this);
     connect(picker->lineEdit(), &QLineEdit::returnPressed, button, &QPushButton::click);
     line->addWidget(button);
@@ -224,7 +225,10 @@ void SearchPanelView::addResults(const SearchPanel& panel, Binding& binding) {
 }
 
 void SearchPanelView::showHints() {
-  const SearchHint hint = panel_.hint();
+  SearchHint hint = panel_.hint();
+  if (const std::string typed = typedHint(*panel_.displays.back(), panel_.source, panel_.numbers);
+      !typed.empty() && panel_.numbers.size() > 1)
+    hint = {false, false, typed};
   const QString shown = toQString(panel_.memory->hint(panel_.now()));
   const auto kind = hint.surprises ? HintPanel::Kind::warning
                     : hint.ready   ? HintPanel::Kind::ready
@@ -252,6 +256,10 @@ void SearchView::add(const SearchPanel& panel, const QString& title, Binding& bi
 
 void SearchView::showHints() {
   for (SearchPanelView* panel : panels_) panel->showHints();
+}
+
+void SearchView::drawsChanged() {
+  for (SearchPanelView* panel : panels_) panel->drawsChanged();
 }
 
 }  // namespace tallywick

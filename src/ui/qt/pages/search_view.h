@@ -44,6 +44,8 @@ struct SearchPanel {
   std::function<SearchHint()> hint = {};
   std::function<Searched()> now = {};
   std::shared_ptr<SearchMemory> memory = {};
+  /// How many balls a search takes.
+  std::size_t mostMarked = 1;
 };
 
 class SearchPanelView : public QWidget {
@@ -52,6 +54,8 @@ class SearchPanelView : public QWidget {
 
   /// Says what a press will search and whose result is shown; to be called after every change of the model.
   void showHints();
+  /// The record book has other draws than before.
+  void drawsChanged() { panel_.memory->drawsChanged(); }
 
  private:
   void addSource(const SearchPanel& panel, Binding& binding);
@@ -68,6 +72,8 @@ class SearchView : public QTabWidget {
   SearchView(MainForm& form, Binding& binding);
 
   void showHints();
+  /// The record book has other draws than before: what was found may lack some.
+  void drawsChanged();
 
  private:
   void add(const SearchPanel& panel, const QString& title, Binding& binding);
