@@ -31,7 +31,11 @@ struct DrawColumns {
       : date(needed(rows, {"Draw Date", "Date"})),
         numbers(needed(rows, {"Winning Numbers"})),
         multiplier(needed(rows, {"Multiplier"})) {
-    if (game == Game::megaMillions) extra = needed(rows, {"Mega Ball"});
+    extra = rows.column({"Mega Ball"});
+    if (game == Game::megaMillions && !extra)
+      refuse("there is no column \"Mega Ball\"; these look like the draws of PowerBall");
+    if (game == Game::powerBall && extra)
+      refuse("these are the draws of Mega Millions: there is a column \"Mega Ball\"");
     if (game == Game::powerBall) doublePlay = rows.column({"Double Play Winning Numbers"});
   }
 

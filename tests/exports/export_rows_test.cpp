@@ -77,6 +77,22 @@ TEST(Import, NumbersBeyondTheLastKnownRulesAreTakenWithANotice) {
   EXPECT_THAT(draws.notices, testing::ElementsAre(HasSubstr("06-13-2026 has a number beyond 69 or 26")));
 }
 
+TEST(Import, AnExportOfTheOtherGameIsNamedAsSuch) {
+  const std::pair<Game, std::string> cases[] = {
+      {Game::megaMillions, powerBallHeader},
+      {Game::powerBall, "Draw Date,Winning Numbers,Mega Ball,Multiplier\n"}};
+  for (const auto& [game, csv] : cases) {
+    CsvReader rows(csv);
+    const std::string_view other = game == Game::powerBall ? "Mega Millions" : "PowerBall";
+    try {
+      readDraws(game, rows, today);
+      ADD_FAILURE() << csv;
+    } catch (const std::runtime_error& error) {
+      EXPECT_THAT(error.what(), HasSubstr("the draws of " + std::string(other)));
+    }
+  }
+}
+
 TEST(Import, MemoryIsBoundedByTheLongestRow) {
   std::size_t left = 300;
   CsvReader rows([&](char* to, std::size_t) {
