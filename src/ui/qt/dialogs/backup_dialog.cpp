@@ -83,6 +83,9 @@ QWidget* BackupDialog::backUpPart() {
   line->addWidget(target_, 1);
   line->addWidget(chooser);
   column->addLayout(line);
+  place_ = explanation(box, {});
+  column->addWidget(place_);
+  connect(target_, &QLineEdit::textChanged, this, &BackupDialog::showPlace);
   auto* writer = new QPushButton(u"&Back Up"_s, box);
   writer->setDefault(true);
   written_ = explanation(box, {});
@@ -129,6 +132,22 @@ void BackupDialog::suggest() {
   runner_.attempt([this] { target_->setText(pathText(datedBackup(book_, SystemClock(), form()))); });
 }
 
+void BackupDialog::suggestNext(const std::filesystem::path& written) {
+  const std::filesystem::path dated = datedBackup(book_, SystemClock(), form());
+  const QString ending = form() == BackupForm::zip ? u".zip"_s : QString();
+  const QString name = pathText(dated.filename()).chopped(ending.size());
+  std::filesystem::path next = written.parent_path() / dated.filename();
+  std::error_code ignored;
+  for (int number = 2; std::filesystem::exists(next, ignored); ++number)
+    next = written.parent_path() / toPath(u"%1 %2%3"_s.arg(name).arg(number).arg(ending));
+  target_->setText(pathText(next));
+}
+
+void BackupDialog::showPlace() {
+  const std::filesystem::path target = toPath(target_->text().trimmed());
+  place_->setText(u"Folder: %1\nName: %2"_s.arg(pathText(target.parent_path()), pathText(target.filename())));
+}
+
 void BackupDialog::choose() {
   QString chosen;
   if (form() == BackupForm::zip) {
@@ -154,6 +173,7 @@ void BackupDialog::write() {
                                                          : "The name of a folder does not end in \".zip\".");
     }
     written_->setText(toQString(reportOf(backUp(book_, target), target)));
+    suggestNext(target);
     QAccessibleEvent alert(written_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
   });

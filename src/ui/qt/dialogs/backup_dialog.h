@@ -32,12 +32,17 @@ class BackupDialog : public QDialog {
   BackupForm form() const;
   /// Suggests a dated name beside the record book.
   void suggest();
+  /// A new name in the folder of the backup that was written.
+  void suggestNext(const std::filesystem::path& written);
+  /// Says in which folder the backup will be, which the field may be too narrow for.
+  void showPlace();
   void choose();
   void write();
   std::filesystem::path book_;
   HandlerRunner& runner_;
   QComboBox* form_ = nullptr;
   QLineEdit* target_ = nullptr;
+  QLabel* place_ = nullptr;
   QLabel* written_ = nullptr;
   std::filesystem::path restoreFrom_;
 };

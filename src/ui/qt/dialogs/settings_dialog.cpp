@@ -12,6 +12,7 @@
 #include <QRegularExpressionValidator>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace tallywick {
 
@@ -85,6 +86,10 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
   column->addWidget(scroller, 1);
   column->addWidget(buttons);
   const int width = sentencesWidth(*this, 80 * theme::gap);
+  // Large text has its labels over the fields: nobody scrolls sideways.
+  const int scrollBar = scroller->verticalScrollBar()->sizeHint().width();
+  if (form->minimumSize().width() > width - 2 * theme::pageMargin - scrollBar)
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
   const int height = form->heightForWidth(width - 2 * theme::pageMargin) + buttons->sizeHint().height() +
                      2 * theme::pageMargin + 2 * theme::gap;
   resize(width, std::min(height, screen()->availableGeometry().height() * 9 / 10));
@@ -93,6 +98,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, QWidget* parent)
 QLineEdit* SettingsDialog::addText(QFormLayout& form, const QString& label, const std::string& value,
                                    const QString& explanation) {
   auto* edit = new QLineEdit(toQString(value));
+  edit->setCursorPosition(0);
   // The settings file has a value between quotes.
   edit->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[^\"]*"_s), edit));
   addField(form, label, *edit, explanation);

@@ -51,6 +51,8 @@ TypedDrawDialog::TypedDrawDialog(const DataFolder& folder, const GameInfo& game,
   column->addStretch();
   column->addWidget(buttons);
   resize(64 * theme::gap, sizeHint().height());
+  // The date is there already.
+  fields_.at(TypedField::numbers).edit->setFocus();
 }
 
 void TypedDrawDialog::addField(QFormLayout& form, TypedField field, const QString& label,

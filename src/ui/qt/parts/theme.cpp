@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/theme.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <cmath>
 
@@ -62,6 +63,18 @@ QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastC
     if (contrast(color, ground) >= leastContrast) return color;
   }
   return target;
+}
+
+void makeHintsReadable() {
+  const QPalette now = QGuiApplication::palette();
+  const QColor ground = now.color(QPalette::Base);
+  QColor wanted = now.color(QPalette::PlaceholderText);
+  wanted = mixed(ground, QColor::fromRgb(wanted.rgb()), static_cast<double>(wanted.alphaF()));
+  const QColor readable = standingOutFrom(ground, wanted, textContrast);
+  if (now.color(QPalette::PlaceholderText) == readable) return;
+  QPalette colors = now;
+  colors.setColor(QPalette::PlaceholderText, readable);
+  QApplication::setPalette(colors);
 }
 
 bool isDark(const QPalette& palette) {

@@ -36,6 +36,9 @@ QColor mixed(const QColor& under, const QColor& over, double share);
 /// `wanted`, moved towards black or white until it has at least that contrast with `ground`.
 QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastContrast);
 
+/// Gives the application's palette a colour for hints in empty fields that is readable.
+void makeHintsReadable();
+
 bool isDark(const QPalette& palette);
 /// A control's colour on this desktop; the system's colours come from the palette.
 QColor toQColor(Color color, const QPalette& palette);

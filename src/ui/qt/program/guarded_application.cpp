@@ -1,11 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/guarded_application.h"
 
+#include "ui/qt/parts/theme.h"
+
 #include <QTimer>
 #include <iostream>
 #include <utility>
 
 namespace tallywick {
+
+GuardedApplication::GuardedApplication(int& argumentCount, char** arguments)
+    : QApplication(argumentCount, arguments) {
+  theme::makeHintsReadable();
+}
+
+bool GuardedApplication::event(QEvent* event) {
+  const bool isHandled = QApplication::event(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) theme::makeHintsReadable();
+  return isHandled;
+}
 
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
   try {

@@ -13,12 +13,15 @@ namespace tallywick {
 /// ends the program: after the event, and once however often it comes.
 class GuardedApplication : public QApplication {
  public:
-  using QApplication::QApplication;
+  GuardedApplication(int& argumentCount, char** arguments);
 
   /// Shows the error and ends the program; without one it is written to standard error.
   std::function<void(const RuntimeError&)> onEscaped;
 
   bool notify(QObject* receiver, QEvent* event) override;
+
+ protected:
+  bool event(QEvent* event) override;
 
  private:
   void end(const RuntimeError& error);
