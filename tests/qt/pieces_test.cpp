@@ -90,7 +90,7 @@ TEST(Lists, AreSavedAsTextAndInColumns) {
             "Date,Number 1,Number 2,Number 3,Number 4,Number 5,PowerBall,Mark,Amount\r\n"
             "11-18-2026,06,08,30,51,55,13,*,40\r\n\"06, 4 draws before:\",,,,,,,,\r\n");
   const QString table = asTable(list, 1);
-  EXPECT_TRUE(table.contains(QStringLiteral("<td align=\"left\">06 08 30 51 55</td>")))
+  EXPECT_TRUE(table.contains(QStringLiteral("<td align=\"left\">06&nbsp;08&nbsp;30&nbsp;51&nbsp;55</td>")))
       << table.toStdString();
   EXPECT_TRUE(table.contains(QStringLiteral("The first 1 of 2 lines.")));
 }

@@ -6,6 +6,8 @@
 #include "ui/qt/pages/play_actions.h"
 #include "ui/qt/pages/play_table_model.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/line_actions.h"
+#include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/wording.h"
 
 #include <QAction>
@@ -43,6 +45,51 @@ QPushButton* button(QBoxLayout& row, const QString& text, const QString& tip) {
   made->setToolTip(tip);
   row.addWidget(made);
   return made;
+}
+
+QStringList cellsOf(const QAbstractItemModel& plays, int row) {
+  QStringList cells;
+  for (int column = 0; column < plays.columnCount(); ++column)
+    cells += plays.index(row, column).data().toString();
+  return cells;
+}
+
+QStringList titlesOf(const QAbstractItemModel& plays) {
+  QStringList titles;
+  for (int column = 0; column < plays.columnCount(); ++column)
+    titles += plays.headerData(column, Qt::Horizontal).toString();
+  return titles;
+}
+
+/// The rows in their order with a tab between cells, of a selection or all, each with its end.
+QString linesOf(const QAbstractItemModel& plays, const QItemSelectionModel* selection) {
+  QString text;
+  for (int row = 0; row < plays.rowCount(); ++row) {
+    if (selection == nullptr || selection->isRowSelected(row))
+      text += cellsOf(plays, row).join(u'\t') + u'\n';
+  }
+  return text;
+}
+
+std::string commaSeparated(const QAbstractItemModel& plays) {
+  std::string text;
+  for (int row = -1; row < plays.rowCount(); ++row) {
+    std::vector<std::string> cells;
+    for (const QString& cell : row < 0 ? titlesOf(plays) : cellsOf(plays, row)) cells.push_back(toText(cell));
+    text.append(csvLine(cells)).append("\r\n");
+  }
+  return text;
+}
+
+QString tableOf(const QAbstractItemModel& plays) {
+  const auto line = [](const QString& tag, const QStringList& cells) {
+    QString text;
+    for (const QString& cell : cells) text += u"<%1 align=\"left\">%2</%1>"_s.arg(tag, cell.toHtmlEscaped());
+    return u"<tr>%1</tr>"_s.arg(text);
+  };
+  QString rows = line(u"th"_s, titlesOf(plays));
+  for (int row = 0; row < plays.rowCount(); ++row) rows += line(u"td"_s, cellsOf(plays, row));
+  return u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(rows);
 }
 
 QString sumText(const YearSums& sums, int column) {
@@ -165,11 +212,26 @@ void MyPlaysView::addButtons(QBoxLayout& column) {
   connect(move_, &QPushButton::clicked, this, &MyPlaysView::move);
   connect(bringBack_, &QPushButton::clicked, this, &MyPlaysView::bringBack);
   connect(undo_, &QPushButton::clicked, this, [this] { actions_.undo(); });
-  auto* removeKey = new QAction(table_);
-  removeKey->setShortcut(QKeySequence::Delete);
-  removeKey->setShortcutContext(Qt::WidgetShortcut);
-  table_->addAction(removeKey);
-  connect(removeKey, &QAction::triggered, remove_, &QPushButton::click);
+  addMenu();
+}
+
+void MyPlaysView::addMenu() {
+  addViewActions(*table_, actions_.runner(),
+                 {[this] { return linesOf(*sorted_, table_->selectionModel()); },
+                  [this] { return toText(linesOf(*sorted_, nullptr)); },
+                  [this] { return commaSeparated(*sorted_); }, [this] { return tableOf(*sorted_); }});
+  auto* line = new QAction(table_);
+  line->setSeparator(true);
+  table_->addAction(line);
+  for (QPushButton* each : {remove_, move_, bringBack_}) {
+    auto* action = new QAction(each->text(), table_);
+    if (each == remove_) {
+      action->setShortcut(QKeySequence::Delete);
+      action->setShortcutContext(Qt::WidgetShortcut);
+    }
+    table_->addAction(action);
+    connect(action, &QAction::triggered, each, &QPushButton::click);
+  }
 }
 
 void MyPlaysView::showEvent(QShowEvent* event) {

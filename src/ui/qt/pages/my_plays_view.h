@@ -39,6 +39,8 @@ class MyPlaysView : public QWidget {
   void fitToFont();
   void addTable(QBoxLayout& column);
   void addButtons(QBoxLayout& column);
+  /// The context menu of the table: what lists have, then what the buttons do.
+  void addMenu();
   /// Whether there is anything new.
   bool read();
   void showPlays();

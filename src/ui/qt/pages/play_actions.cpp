@@ -29,6 +29,10 @@ std::shared_ptr<const JudgedPlays> PlayActions::plays() const {
   return window_.desk().judge.plays(game());
 }
 
+HandlerRunner& PlayActions::runner() const {
+  return window_.desk().runner;
+}
+
 std::optional<std::int64_t> PlayActions::price() const {
   const auto& priceOf = window_.desk().priceOf;
   return priceOf ? priceOf(game().game) : std::nullopt;

@@ -13,6 +13,7 @@
 namespace tallywick {
 
 class FormWindow;
+class HandlerRunner;
 class MainForm;
 
 class PlayActions {
@@ -24,6 +25,7 @@ class PlayActions {
   const DataFolder& folder() const;
   /// The plays of the game on show. Raises what judgePlays() raises.
   std::shared_ptr<const JudgedPlays> plays() const;
+  HandlerRunner& runner() const;
   /// What a play of the game on show costs, in cents; none where the player has not said.
   std::optional<std::int64_t> price() const;
 

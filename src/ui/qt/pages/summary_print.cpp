@@ -6,6 +6,8 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 
+#include <QDate>
+#include <QFont>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
@@ -18,21 +20,31 @@ namespace {
 
 /// As many lines of each list as a page has room for.
 constexpr std::size_t printedLines = 15;
+/// Whatever the size of the text on the screen is.
+constexpr double printedPoints = 10;
+
+QString sectionTitle(const QString& title) {
+  return u"<h3>%1</h3>"_s.arg(title.toHtmlEscaped());
+}
 
 QString section(const Label& title, const ListBox& list, const QWidget& window) {
   const auto& shown = *window.findChild<LineList*>(toQString(list.name()));
-  return u"<h3>%1</h3>"_s.arg(asLabel()(title.caption()).toHtmlEscaped()) + asTable(shown, printedLines);
+  const QString lines = list.items().empty() ? u"<p>None.</p>"_s : asTable(shown, printedLines);
+  return sectionTitle(asLabel()(title.caption())) + lines;
 }
 
-QString frequentNumbers(const SummaryPage& page) {
-  QString numbers;
-  for (const Button& number : page.frequent)
-    numbers += toQString(number.caption()).toHtmlEscaped() + u"&nbsp; "_s;
-  return u"<p>%1</p>"_s.arg(numbers);
+QString frequentNumbers(const SummaryPage& page, const QWidget& window) {
+  QStringList numbers;
+  for (const Button& number : page.frequent) numbers += toQString(number.caption());
+  const QString title = asLabel()(page.Label21.caption()) + u' ' + asLabel()(page.Label22.caption());
+  const auto& shown = *window.findChild<LineList*>(toQString(page.List5.name()));
+  return sectionTitle(title) + u"<p>The newest draw: %1</p>"_s.arg(numbers.join(u"  "_s).toHtmlEscaped()) +
+         (page.List5.items().empty() ? u"<p>None of its numbers came up in the five draws before it.</p>"_s
+                                     : asTable(shown, printedLines));
 }
 
 QString sideBySide(const QString& left, const QString& right) {
-  return u"<table width=\"100%\"><tr><td width=\"50%\">%1</td><td width=\"50%\">%2</td></tr></table>"_s.arg(
+  return u"<table width=\"100%\"><tr><td width=\"60%\">%1</td><td width=\"40%\">%2</td></tr></table>"_s.arg(
       left, right);
 }
 
@@ -42,10 +54,18 @@ QString summaryPage(const MainForm& form, const QWidget& window) {
   const SummaryPage& page = form.summary;
   const GameInfo* const game = gameOnShow(form.frames);
   const QString title = game != nullptr ? u"%1 Summary"_s.arg(toQString(game->name)) : u"Summary"_s;
-  return u"<h2>%1</h2>"_s.arg(title) +
-         sideBySide(section(page.Label15, page.List1, window), section(page.Label16, page.List2, window)) +
-         sideBySide(section(page.Label17, page.List3, window), section(page.Label19, page.List4, window)) +
-         section(page.Label21, page.List5, window).replace(u"</h3>"_s, u"</h3>"_s + frequentNumbers(page));
+  return u"<h1>%1</h1><p>Printed on %2</p>"_s.arg(title, QDate::currentDate().toString(u"MM-dd-yyyy"_s)) +
+         section(page.Label15, page.List1, window) + section(page.Label16, page.List2, window) +
+         u"<h2 style=\"page-break-before: always\">%1, continued</h2>"_s.arg(title) +
+         sideBySide(section(page.Label19, page.List4, window), section(page.Label17, page.List3, window)) +
+         frequentNumbers(page, window);
+}
+
+void fillSummary(QTextDocument& document, const MainForm& form, const QWidget& window) {
+  QFont font = document.defaultFont();
+  font.setPointSizeF(printedPoints);
+  document.setDefaultFont(font);
+  document.setHtml(summaryPage(form, window));
 }
 
 void printSummary(const MainForm& form, QWidget& window) {
@@ -54,7 +74,7 @@ void printSummary(const MainForm& form, QWidget& window) {
   QPrintDialog dialog(&printer, &window);
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument document;
-  document.setHtml(summaryPage(form, window));
+  fillSummary(document, form, window);
   document.print(&printer);
 }
 

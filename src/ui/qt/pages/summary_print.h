@@ -3,6 +3,7 @@
 #pragma once
 
 class QString;
+class QTextDocument;
 class QWidget;
 
 namespace tallywick {
@@ -12,6 +13,8 @@ class MainForm;
 /// The newest of what the summary's lists in the window show, under their headings, as HTML for a page or
 /// two.
 QString summaryPage(const MainForm& form, const QWidget& window);
+/// The same as a document, in a size for paper.
+void fillSummary(QTextDocument& document, const MainForm& form, const QWidget& window);
 void printSummary(const MainForm& form, QWidget& window);
 
 }  // namespace tallywick

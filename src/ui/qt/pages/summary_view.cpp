@@ -11,6 +11,7 @@
 
 #include <QButtonGroup>
 #include <QFrame>
+#include <QGridLayout>
 
 namespace tallywick {
 
@@ -153,11 +154,18 @@ QWidget* SummaryView::amounts(MainForm& form, Binding& binding) {
                 form, binding, box);
 
   auto* luckyFive = new QWidget(box);
-  auto* headings = columnIn(luckyFive);
+  auto* parts = columnIn(luckyFive);
+  parts->setSpacing(theme::halfGap);
+  auto* meaning = new QLabel(u"Left over from another game, as the last three prizes above:"_s, luckyFive);
+  parts->addWidget(meaning);
+  auto* headings = new QGridLayout;
   headings->setSpacing(theme::halfGap);
+  parts->addLayout(headings);
+  int place = 0;
   for (Label* label : {&page.Label27, &page.Label28, &page.Label29, &page.Label30, &page.Label31}) {
-    auto* line = new QLabel(luckyFive);
-    headings->addWidget(line);
+    auto* line = new DimmedLabel(luckyFive);
+    headings->addWidget(line, place / 2, place % 2);
+    ++place;
     binding.bind(*label, *line, [](std::string_view caption) { return asLabel()(caption).simplified(); });
   }
   column->addWidget(luckyFive);

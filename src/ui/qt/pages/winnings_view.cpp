@@ -15,6 +15,7 @@
 #include "ui/qt/windows/form_window.h"
 
 #include <QAccessible>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
@@ -77,7 +78,7 @@ void showEmphasisedLines(LineList& lines, const ListBox& list) {
 
 }  // namespace
 
-WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, window) {
+WinningsView::WinningsView(MainForm& form, FormWindow& window) : form_(form), actions_(form, window) {
   Binding& binding = window.binding();
   setDocumentMode(true);
   addTab(plays(form, binding), u"Pla&ys"_s);
@@ -99,6 +100,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : actions_(form, 
 
 void WinningsView::showChanges() {
   dropStaleExplanation();
+  showWhoseCheck();
   myPlays_->refresh();
   ticket_->refresh();
 }
@@ -145,9 +147,15 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
 
   auto* verdict = new Picker(winnings.Combo10.items(), page);
   verdict->setResultsOnly();
+  verdict_ = verdict->lineEdit();
   auto* verdictLabel = heading(page, u"&Verdict"_s);
   verdictLabel->setBuddy(verdict);
   verdict->setAccessibleName(u"Verdict"_s);
+  headline_ = sentences(page);
+  headline_->setFont(theme::headingFont(headline_->font()));
+  auto* verdictLine = row(theme::pageMargin);
+  verdictLine->addWidget(verdict);
+  verdictLine->addWidget(headline_, 1);
   explained_ = sentences(page);
   explained_->setText(beforeCheck);
   auto* lists = splitter(Qt::Horizontal, u"check"_s);
@@ -157,7 +165,7 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   auto* column = columnIn(page, theme::pageMargin);
   column->addLayout(choice);
   column->addWidget(verdictLabel);
-  column->addWidget(verdict);
+  column->addLayout(verdictLine);
   column->addWidget(explained_);
   column->addWidget(lists, 1);
   binding.bind(winnings.Option1, *latest, withMnemonic('E'));
@@ -171,12 +179,14 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
 void WinningsView::explainCheck(MainForm& form) {
   form.winnings.Command47.onClick = [this, check = form.winnings.Command47.onClick, &form] {
     check();
+    checkedGame_ = &actions_.game();
     showExplanation(form);
   };
 }
 
 void WinningsView::showExplanation(const MainForm& form) {
   QStringList lines;
+  QString headline;
   explainedGame_ = nullptr;
   try {
     const GameInfo& game = actions_.game();
@@ -184,13 +194,26 @@ void WinningsView::showExplanation(const MainForm& form) {
     for (const std::string& sentence : checkExplained(form.winnings, game, explainedPlays_->judgement)) {
       lines += toQString(sentence);
     }
+    headline = lines.takeFirst();
     explainedGame_ = &game;
   } catch (const RuntimeError& error) {
     lines += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
   }
+  headline_->setText(headline);
+  verdict_->setPlaceholderText(headline.isEmpty() ? QString() : u"no verdict; the count is beside"_s);
   explained_->setText(lines.join(u'\n'));
-  QAccessibleEvent alert(explained_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  for (QLabel* label : {headline_, explained_}) {
+    QAccessibleEvent alert(label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+  }
+}
+
+void WinningsView::showWhoseCheck() {
+  if (explainedGame_ != nullptr) return;
+  const bool isOther = checkedGame_ != nullptr && checkedGame_ != &actions_.game() &&
+                       form_.winnings.List10.items().size() + form_.winnings.List11.items().size() > 0;
+  headline_->setText(isOther ? u"The lists below are still those of %1."_s.arg(toQString(checkedGame_->name))
+                             : QString());
 }
 
 void WinningsView::dropStaleExplanation() {
@@ -202,6 +225,8 @@ void WinningsView::dropStaleExplanation() {
     // A file of theirs is gone: nothing can be said of the plays.
   }
   explainedGame_ = nullptr;
+  headline_->clear();
+  verdict_->setPlaceholderText({});
   explained_->setText(beforeCheck);
 }
 

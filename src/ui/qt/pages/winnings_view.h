@@ -9,6 +9,7 @@
 #include <QTabWidget>
 
 class QLabel;
+class QLineEdit;
 
 namespace tallywick {
 
@@ -34,9 +35,16 @@ class WinningsView : public QTabWidget {
   void showExplanation(const MainForm& form);
   /// Takes the explanation away where the game or what the judging says has changed.
   void dropStaleExplanation();
+  /// The headline of a check of the other game.
+  void showWhoseCheck();
 
+  const MainForm& form_;
   PlayActions actions_;
+  QLabel* headline_ = nullptr;
+  QLineEdit* verdict_ = nullptr;
   QLabel* explained_ = nullptr;
+  /// The game whose check the lists show; none before one.
+  const GameInfo* checkedGame_ = nullptr;
   /// What explained_ is about; none without a check.
   const GameInfo* explainedGame_ = nullptr;
   std::shared_ptr<const JudgedPlays> explainedPlays_;

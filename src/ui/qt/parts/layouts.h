@@ -33,6 +33,27 @@ inline QLabel* heading(QWidget* parent, const QString& text = {}) {
   return label;
 }
 
+/// A label for what matters less than the rest, and is readable all the same.
+class DimmedLabel : public QLabel {
+ public:
+  explicit DimmedLabel(QWidget* parent) : QLabel(parent) { dim(); }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange) dim();
+  }
+
+ private:
+  void dim() {
+    QPalette colors = QGuiApplication::palette();
+    const QColor ground = colors.color(QPalette::Window);
+    const QColor ink = theme::mixed(colors.color(QPalette::WindowText), ground, 0.4);
+    colors.setColor(QPalette::WindowText, theme::standingOutFrom(ground, ink, theme::textContrast));
+    setPalette(colors);
+  }
+};
+
 /// Keeps a widget in the list face, in the size of the application's text.
 class ListFace : public QObject {
  public:

@@ -11,6 +11,7 @@
 #include "ui/qt/parts/line_text.h"
 #include "ui/qt/parts/wording.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
@@ -28,29 +29,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void copy(const LineList& list) {
-  QGuiApplication::clipboard()->setText(list.selectedText());
-}
-
-void save(LineList& list) {
-  const QString file = QFileDialog::getSaveFileName(&list, u"Save the Lines"_s, u"tallywick list.txt"_s,
+void save(QAbstractItemView& view, const ViewTexts& texts) {
+  const QString file = QFileDialog::getSaveFileName(&view, u"Save the Lines"_s, u"tallywick list.txt"_s,
                                                     u"Text (*.txt);;Comma-separated (*.csv)"_s);
   if (file.isEmpty()) return;
   const bool commas = file.endsWith(u".csv"_s, Qt::CaseInsensitive);
   try {
-    replaceFile(toPath(file), commas ? asCommaSeparated(list) : asText(list));
+    replaceFile(toPath(file), commas ? texts.commaSeparated() : texts.text());
   } catch (const RuntimeError& error) {
     throw std::runtime_error(join(toText(file), " could not be written: ", error.description()));
   }
 }
 
-void print(LineList& list) {
+void print(QAbstractItemView& view, const ViewTexts& texts) {
   QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, &list);
+  QPrintDialog dialog(&printer, &view);
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument document;
-  document.setHtml(u"<h3>%1</h3>%2"_s.arg(list.accessibleName().toHtmlEscaped(),
-                                          asTable(list, std::numeric_limits<std::size_t>::max())));
+  document.setHtml(u"<h3>%1</h3>%2"_s.arg(view.accessibleName().toHtmlEscaped(), texts.table()));
   document.print(&printer);
 }
 
@@ -59,15 +55,16 @@ std::optional<std::vector<std::string>> cellsOfLine(const LineList& list, std::s
 }
 
 QString tableCell(const QString& tag, Qt::Alignment alignment, const QString& text) {
+  // On paper a date or a play stays in one line.
   return u"<%1 align=\"%2\">%3</%1>"_s.arg(tag, alignment & Qt::AlignRight ? u"right"_s : u"left"_s,
-                                           text.toHtmlEscaped());
+                                           text.toHtmlEscaped().replace(u' ', u"&nbsp;"_s));
 }
 
 QString tableTitles(const LineColumns& columns) {
   QString cells;
   for (const LineColumn& column : columns)
     cells += tableCell(u"th"_s, alignmentOf(column.field), toQString(column.title));
-  return u"<tr>%1</tr>"_s.arg(cells);
+  return u"<tr bgcolor=\"#e8e8e8\">%1</tr>"_s.arg(cells);
 }
 
 /// A line of a table: the white balls in one cell, the mark of an amount before it.
@@ -88,25 +85,29 @@ QString tableRow(const LineList& list, std::string_view line) {
   return u"<tr>%1</tr>"_s.arg(row);
 }
 
-template <typename Do>
-void addAction(LineList& list, HandlerRunner& runner, const QString& text, const QKeySequence& key, Do act) {
-  auto* action = new QAction(text, &list);
-  action->setShortcut(key);
-  action->setShortcutContext(Qt::WidgetShortcut);
-  QObject::connect(action, &QAction::triggered, &list,
-                   [&list, &runner, act] { runner.attempt([&list, act] { act(list); }); });
-  list.addAction(action);
-}
-
 }  // namespace
 
+void addViewActions(QAbstractItemView& view, HandlerRunner& runner, const ViewTexts& texts) {
+  const auto add = [&view, &runner](const QString& text, const QKeySequence& key,
+                                    const std::function<void()>& act) {
+    auto* action = new QAction(text, &view);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    QObject::connect(action, &QAction::triggered, &view, [&runner, act] { runner.attempt(act); });
+    view.addAction(action);
+  };
+  add(u"&Copy"_s, QKeySequence::Copy, [texts] { QGuiApplication::clipboard()->setText(texts.selected()); });
+  add(u"Select &All"_s, QKeySequence::SelectAll, [&view] { view.selectAll(); });
+  add(u"&Save…"_s, QKeySequence::Save, [&view, texts] { save(view, texts); });
+  add(u"&Print…"_s, Qt::CTRL | Qt::SHIFT | Qt::Key_P, [&view, texts] { print(view, texts); });
+  view.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
 void addLineActions(LineList& list, HandlerRunner& runner) {
-  addAction(list, runner, u"&Copy"_s, QKeySequence::Copy, copy);
-  addAction(list, runner, u"Select &All"_s, QKeySequence::SelectAll,
-            [](LineList& lines) { lines.selectAll(); });
-  addAction(list, runner, u"&Save…"_s, QKeySequence::Save, save);
-  addAction(list, runner, u"&Print…"_s, Qt::CTRL | Qt::SHIFT | Qt::Key_P, print);
-  list.setContextMenuPolicy(Qt::ActionsContextMenu);
+  addViewActions(list, runner,
+                 {[&list] { return list.selectedText(); }, [&list] { return asText(list); },
+                  [&list] { return asCommaSeparated(list); },
+                  [&list] { return asTable(list, std::numeric_limits<std::size_t>::max()); }});
 }
 
 std::string asText(const LineList& list) {
@@ -146,7 +147,7 @@ QString asTable(const LineList& list, std::size_t atMost) {
   const std::size_t shown = std::min(all, atMost);
   QString rows = tableTitles(list.columns());
   for (std::size_t i = 0; i < shown; ++i) rows += tableRow(list, model->lines()[i]);
-  QString text = u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(rows);
+  QString text = u"<table cellspacing=\"0\" cellpadding=\"3\">%1</table>"_s.arg(rows);
   if (shown < all) text += u"<p>The first %1 of %2 lines.</p>"_s.arg(shown).arg(all);
   return text;
 }

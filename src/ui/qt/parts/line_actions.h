@@ -3,12 +3,30 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <string>
+
+class QAbstractItemView;
 
 namespace tallywick {
 
 class HandlerRunner;
 class LineList;
 
+/// What a view has to copy, save and print.
+struct ViewTexts {
+  /// The selected lines.
+  std::function<QString()> selected;
+  /// All lines as text, each with its end.
+  std::function<std::string()> text;
+  /// The same with commas, behind a line of titles.
+  std::function<std::string()> commaSeparated;
+  /// The same as a table of HTML.
+  std::function<QString()> table;
+};
+
+/// Adds the actions to the view's context menu.
+void addViewActions(QAbstractItemView& view, HandlerRunner& runner, const ViewTexts& texts);
 void addLineActions(LineList& list, HandlerRunner& runner);
 
 /// All lines of a list as a text. Each line has its end.
