@@ -36,6 +36,9 @@ struct Surroundings {
   TransferWindow* transferWindow = nullptr;
 };
 
+/// What the user wants where draws could not be fetched.
+enum class AfterFailedFetch { leave, tryAgain };
+
 class Application {
  public:
   explicit Application(Surroundings surroundings);
@@ -64,6 +67,8 @@ class Application {
   /// before the update procedure begins, and where nothing can be fetched or nothing is new it does not
   /// begin; what fails is a message. Afterwards the lists of the game on show are filled anew.
   void updateInWindow(Control& control);
+  /// Shows why the draws of `game` could not be fetched, and asks how to go on; empty for a message.
+  std::function<AfterFailedFetch(const GameInfo& game, const std::string& why)> onFetchFailed;
   /// The same as Command2's, also where an update has hidden it.
   void updateAgain();
   /// Fills the lists of the game on show anew, and says in a message what fails.
@@ -74,6 +79,8 @@ class Application {
   std::vector<const GameInfo*> madeUpGames() const;
   /// Whether the draws of the game on show are made up.
   bool showsMadeUpDraws() const;
+  /// That the newest draw of the game on show is long past; empty where it is not, or is made up.
+  std::string drawsAge() const;
   /// Asks whether the plays of the games among `before` that have real draws now are to go with their sample.
   void offerToTakePlaysAway(const std::vector<const GameInfo*>& before);
   /// What is known about the draws of the game on show, in the place of the button that an update has hidden;
@@ -109,8 +116,9 @@ class Application {
   bool fetchesFirst() const;
   /// Fetches the exports of `games`, runs `update` on them, and reports what fails.
   void fetchThenUpdate(const std::vector<const GameInfo*>& games, const std::function<void()>& update);
-  /// False where something could not be fetched; the user has been shown why.
+  /// False where something could not be fetched; the user has been shown why and does not try again.
   bool fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games);
+  AfterFailedFetch askAfterFailure(const GameInfo& game, const std::string& why);
   /// `remarks` are sentences on the exports, a line each.
   void showNothingNew(const std::vector<const GameInfo*>& games, std::string_view remarks);
   void openSettingPage(const std::string& address, std::string_view what);

@@ -5,10 +5,14 @@
 #include "core/data_folder.h"
 #include "core/draws.h"
 #include "core/eras.h"
+#include "core/remembered.h"
+#include "core/runtime_error.h"
 #include "core/sequential_reader.h"
 #include "core/text.h"
+#include "core/words.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <string_view>
 
@@ -62,6 +66,36 @@ std::string doublePlayNote(const DataFolder& folder) {
   return join("Double Play: numbers are known for ", std::to_string(known), " of ", std::to_string(records),
               " draws, ", known == 1 ? "that of " : "from " + oldest + " to ", newest,
               "; the balls, bars and lines of the others are blank.");
+}
+
+std::vector<os::FileStamp> stampsOfDraws(const DataFolder& folder) {
+  std::vector<std::string> files = {inFolder(powerBall, doublePlayFile)};
+  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    for (const std::string_view name : {drawsFile, searchDrawsFile}) files.push_back(inFolder(*game, name));
+  }
+  try {
+    return stampsOf(folder, files);
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+std::string drawsAgeNote(const GameInfo& game, const DataFolder& folder, const Clock& clock) {
+  struct Unit {
+    int days;
+    /// From how many days on.
+    int from;
+    std::string_view name;
+  };
+  constexpr std::array<Unit, 3> units = {{{365, 2 * 365, "year"}, {30, 60, "month"}, {7, 14, "week"}}};
+  const std::optional<Day> newest = newestDrawDay(game, folder);
+  const std::optional<Day> today = parseDay(clock.date());
+  if (!newest || !today) return "";
+  const int age = *today - *newest;
+  const auto* const unit = std::ranges::find_if(units, [age](const Unit& each) { return age >= each.from; });
+  if (unit == units.end()) return "";
+  return join("The newest ", game.name, " draw is ",
+              inFigures(static_cast<std::size_t>(age / unit->days), unit->name), " old.");
 }
 
 std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history) {

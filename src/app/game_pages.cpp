@@ -118,7 +118,7 @@ void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxe
   layOut(form, powerBall);
   if (form.updateHiddenByGameSwitch) form.update.Command2.show();
   form.updateHiddenByGameSwitch = false;
-  const MessageBox question = {"Display PowerBall Double Play Information  ?", "TALLYWICK SOFTWARE",
+  const MessageBox question = {std::string(doublePlayQuestion), "TALLYWICK SOFTWARE",
                                MessageBox::Icon::question, MessageBox::Buttons::yesNo};
   if (boxes.show(question) == MessageBox::Answer::yes) {
     showDoublePlayDisplay(form, folder);

@@ -5,7 +5,12 @@
 #include "app/main_form.h"
 #include "core/games.h"
 
+#include <string_view>
+
 namespace tallywick {
+
+/// What Command7 asks.
+inline constexpr std::string_view doublePlayQuestion = "Display PowerBall Double Play Information  ?";
 
 /// Shows the summary of PowerBall or, after a question, its Double Play display.
 void Command7_Click(MainForm& form, const DataFolder& folder, MessageBoxes& boxes);

@@ -79,24 +79,31 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
 
 bool Application::fetchAll(FetchedExports& exports, const std::vector<const GameInfo*>& games) {
   StatusBar& status = main_->update.StatusBar1;
-  try {
-    for (const GameInfo* game : games) {
-      status.setPanel(1, join("Fetching the draws of ", game->name));
-      const GameFetch& result = exports.fetch({game->game, serverOf(game->game)});
-      if (result.error.empty()) continue;
+  for (std::size_t fetched = 0; fetched < games.size();) {
+    const GameInfo& game = *games[fetched];
+    status.setPanel(1, join("Fetching the draws of ", game.name));
+    try {
+      const std::string why = exports.fetch({game.game, serverOf(game.game)}).error;
       status.setPanel(1, "");
-      showMessage(
-          surroundings_.platform,
-          join("The draws of ", game->name, " could not be fetched. Nothing was changed.\n\n", result.error),
-          MessageBox::Icon::exclamation);
+      if (why.empty()) {
+        ++fetched;
+      } else if (askAfterFailure(game, why) == AfterFailedFetch::leave) {
+        return false;
+      }
+    } catch (const TransferCancelled&) {
+      status.setPanel(1, "The update was cancelled; nothing was changed");
       return false;
     }
-    status.setPanel(1, "");
-    return true;
-  } catch (const TransferCancelled&) {
-    status.setPanel(1, "The update was cancelled; nothing was changed");
-    return false;
   }
+  return true;
+}
+
+AfterFailedFetch Application::askAfterFailure(const GameInfo& game, const std::string& why) {
+  const std::string text =
+      join("The draws of ", game.name, " could not be fetched. Nothing was changed.\n\n", why);
+  if (onFetchFailed) return onFetchFailed(game, text);
+  showMessage(surroundings_.platform, text, MessageBox::Icon::exclamation);
+  return AfterFailedFetch::leave;
 }
 
 void Application::showNothingNew(const std::vector<const GameInfo*>& games, std::string_view remarks) {
@@ -132,6 +139,12 @@ std::vector<const GameInfo*> Application::madeUpGames() const {
 bool Application::showsMadeUpDraws() const {
   const GameInfo* const game = main_ != nullptr ? gameOnShow(main_->frames) : nullptr;
   return game != nullptr && exports::isMadeUp(surroundings_.folder, game->game);
+}
+
+std::string Application::drawsAge() const {
+  const GameInfo* const game = main_ != nullptr ? gameOnShow(main_->frames) : nullptr;
+  if (game == nullptr || exports::isMadeUp(surroundings_.folder, game->game)) return "";
+  return drawsAgeNote(*game, surroundings_.folder, surroundings_.clock);
 }
 
 void Application::offerToTakePlaysAway(const std::vector<const GameInfo*>& before) {

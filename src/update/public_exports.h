@@ -65,7 +65,8 @@ class FetchedExports {
                  TransferWatch* watch = nullptr);
 
   /// Fetches a game's export and finds out what it makes of the folder's files; writes nothing. A failure,
-  /// also of the trial, is kept for its game. Raises TransferCancelled.
+  /// also of the trial, is kept for its game. Once more for a game, it takes the place of what came before.
+  /// Raises TransferCancelled.
   const GameFetch& fetch(const ExportAddress& from);
 
   /// A game each, in the order in which they were fetched.

@@ -102,5 +102,18 @@ TEST_F(Draws, OfDoublePlayHaveASentenceWhereNumbersAreMissing) {
   EXPECT_NE(note({blank, known}).find("for 1 of 2 draws, that of 11-16-2026;"), std::string::npos);
 }
 
+TEST_F(Draws, ThatAreLongPastHaveASentenceOnTheirAge) {
+  scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", records({"11,18,2026,05,14,23,41,60,07,2"}));
+  const std::pair<const char*, const char*> cases[] = {{"12-01-2026", ""},
+                                                       {"12-02-2026", "2 weeks"},
+                                                       {"01-17-2027", "2 months"},
+                                                       {"11-01-2028", "23 months"},
+                                                       {"12-01-2029", "3 years"}};
+  for (const auto& [today, age] : cases) {
+    const std::string note = drawsAgeNote(powerBall, scratch.folder(), StandingClock(today, "12:00:00"));
+    EXPECT_EQ(note, *age == 0 ? "" : "The newest PowerBall draw is " + std::string(age) + " old.");
+  }
+}
+
 }  // namespace
 }  // namespace tallywick::test

@@ -157,6 +157,15 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   EXPECT_EQ(scratch.snapshot(), empty) << "one game alone has come";
   EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
 
+  int asked = 0;
+  application.onFetchFailed = [&](const GameInfo& game, const std::string&) {
+    EXPECT_EQ(game.game, Game::megaMillions);
+    return ++asked < 3 ? AfterFailedFetch::tryAgain : AfterFailedFetch::leave;
+  };
+  update();
+  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(scratch.snapshot(), empty);
+
   use("file/pwr.csv", "file/meg.csv");
   for (const char* file : {"QZR6PWR/QZR6PWR1.Ply", "QZR6MEG/QZR6MEG1.Ply"}) {
     scratch.write(std::string("QzrNumbers/") + file, "");

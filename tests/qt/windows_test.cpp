@@ -64,7 +64,8 @@ TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
   EXPECT_TRUE(found.wins && found.extra);
   const QString page = summaryPage(static_cast<MainForm&>(main.form()), main);
   EXPECT_TRUE(page.contains(QStringLiteral("<h3>Your Play &amp; Winning Lotto Ticket(s):</h3>")));
-  EXPECT_TRUE(page.contains(QStringLiteral("<td align=\"left\">3 + PowerBall</td>"))) << page.toStdString();
+  EXPECT_TRUE(page.contains(QStringLiteral("<td align=\"left\">3&nbsp;+&nbsp;PowerBall</td>")))
+      << page.toStdString();
   EXPECT_TRUE(page.contains(QStringLiteral("The first 15 of 119 lines.")));
 }
 
@@ -293,6 +294,12 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
     return scratch.read(committed);
   };
   ASSERT_EQ(table.model()->rowCount(), 4);
+  table.selectRow(0);
+  for (QAction* action : table.actions()) {
+    if (action->text() == QStringLiteral("&Copy")) action->trigger();
+  }
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            QStringLiteral("Wed 12-30-2026\t01 02 03 50 51\t20\twaiting\t\t\t\n"));
   EXPECT_EQ(press(1, "Remove"), drawn + waiting) << "a drawn play is not removed";
   EXPECT_EQ(press(0, "Remove"), drawn);
   EXPECT_EQ(press(0, "Undo"), drawn + waiting);
@@ -322,6 +329,77 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   answerNextBox(QMessageBox::Ok);
   press(0, "Remove");
   EXPECT_TRUE(boxText.startsWith(QStringLiteral("The play files have changed"))) << boxText.toStdString();
+}
+
+TEST_F(Windows, ASelectionTakesANextPlayAwayAndBringsItBack) {
+  writeRecordBook(scratch);
+  const std::string committed = "QzrNumbers/QZR6PWR/QZR6PWR1.Ply";
+  const std::string waiting = scratch.read(committed);
+  platform.onPlaysSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
+  open("Form1");
+  FormWindow& selection = open("Form3");
+  const auto& next = static_cast<SelectionForm&>(selection.form()).Combo8.items();
+  const auto press = [this](const char* text) {
+    auto& list = *window("Form3").findChild<QWidget*>(QStringLiteral("Combo8"))->findChild<LineList*>();
+    list.setCurrentIndex(list.model()->index(0, 0));
+    for (auto* each : window("Form3").findChildren<QAbstractButton*>()) {
+      if (each->text() == QLatin1String(text)) each->click();
+    }
+  };
+  press("R&emove");
+  EXPECT_EQ(scratch.read(committed), "");
+  EXPECT_TRUE(next.empty());
+  EXPECT_TRUE(static_cast<MainForm&>(*application.find("Form1")).winnings.List17.items().empty());
+  press("Undo (Ctrl+&Z)");
+  EXPECT_EQ(scratch.read(committed), waiting);
+  EXPECT_EQ(next.size(), 1U);
+  scratch.write(committed, records({"12-28-2026,01,02,03,50,51,20,3000020"}));
+  QApplication::setActiveWindow(&open("Form3"));
+  answerNextBox(QMessageBox::Ok);
+  press("R&emove");
+  EXPECT_TRUE(boxText.startsWith(QStringLiteral("This play is drawn already"))) << boxText.toStdString();
+}
+
+TEST_F(Windows, DoublePlayIsAskedForOnceAndThenHasAButton) {
+  writeRecordBook(scratch);
+  platform.onShowDoublePlay = [this](bool isShown) {
+    platform.answerDoublePlay(isShown ? MessageBox::Answer::yes : MessageBox::Answer::no);
+    click(*application.find("Form1")->find("Command7"));
+  };
+  FormWindow& main = open("Form1");
+  const auto& frames = static_cast<MainForm&>(main.form()).frames;
+  answerNextBox(QMessageBox::No);
+  widget<QPushButton>("Form1", "Command7").click();
+  EXPECT_TRUE(boxText.startsWith(QStringLiteral("Display PowerBall Double Play")));
+  widget<QPushButton>("Form1", "Command7").click();
+  EXPECT_TRUE(frames.Frame4.visible());
+  for (const char* text : {"Show Double Play", "Back to PowerBall"}) {
+    const QList<QToolButton*> buttons = main.findChildren<QToolButton*>();
+    (*std::ranges::find(buttons, QLatin1String(text), &QToolButton::text))->click();
+    EXPECT_EQ(frames.Frame6.visible(), QLatin1String(text) == u"Show Double Play");
+  }
+}
+
+TEST_F(Windows, SayWhereChartAndPicturesAreOlderThanTheDraws) {
+  writeRecordBook(scratch);
+  FormWindow& main = open("Form1");
+  const auto says = [&main](const char* text) {
+    return std::ranges::any_of(main.findChildren<QLabel*>(), [text](const QLabel* label) {
+      return !label->isHidden() && label->text().contains(QLatin1String(text));
+    });
+  };
+  auto& pages = static_cast<MainForm&>(main.form());
+  platform.run([&] {
+    for (const char* name : {"Command3", "Command52"}) click(*pages.find(name));
+  });
+  platform.run([&] { scratch.write("QzrNumbers/QZR6PWR/QZRNUM6.Dat", dailyDraws(121)); });
+  EXPECT_TRUE(says("press its button for a new one"));
+  EXPECT_TRUE(says("press the button for the newest"));
+  platform.run([&] { click(pages.draws.Command52); });
+  EXPECT_FALSE(says("press its button for a new one"));
+  EXPECT_FALSE(says("This chart is of PowerBall"));
+  platform.run([&] { click(pages.bar.Command4); });
+  EXPECT_TRUE(says("This chart is of PowerBall"));
 }
 
 TEST_F(Windows, ShowTheGameAtAGlanceAndLeadToItsPages) {
@@ -398,6 +476,11 @@ TEST_F(Windows, ABackupIsWrittenAndAnotherChosenToRestore) {
   QTest::keyClick(&dialog, Qt::Key_Return);
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(holder), {}), 2) << "the book and its zip";
   QApplication::setActiveWindow(&dialog);
+  auto& target = *dialog.findChildren<QLineEdit*>().front();
+  const QString second = target.text();
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(holder), {}), 3) << "another name is proposed";
+  target.setText(second);
   answerNextBox(QMessageBox::Ok);
   QTest::keyClick(&dialog, Qt::Key_Return);
   EXPECT_TRUE(boxText.contains(QStringLiteral("it exists already"))) << boxText.toStdString();

@@ -22,6 +22,7 @@
 #include <QInputDialog>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <stdexcept>
 #include <utility>
 
@@ -86,6 +87,10 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   showGame();
   const int width = sentencesWidth(*this, 88 * theme::gap);
   resize(width, std::max(80 * theme::gap, column->heightForWidth(width)));
+}
+
+void DrawsDialog::importAtOnce() {
+  QTimer::singleShot(0, this, [this] { change([this] { importDraws(); }); });
 }
 
 const GameInfo& DrawsDialog::game() const {

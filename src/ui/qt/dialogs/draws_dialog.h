@@ -29,6 +29,9 @@ class DrawsDialog : public QDialog {
   /// Whether files may have changed.
   bool hasChanged() const { return hasChanged_; }
 
+  /// Asks for the file of the game's draws as soon as the dialog is shown.
+  void importAtOnce();
+
   /// Called after each change of files.
   std::function<void()> onChanged;
 

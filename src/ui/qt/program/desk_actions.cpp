@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <iostream>
@@ -92,11 +93,12 @@ std::filesystem::path showBackups(Application& application, QtPlatform& platform
   return dialog.restoreFrom();
 }
 
-void editDraws(Application& application, QtPlatform& platform) {
+void editDraws(Application& application, QtPlatform& platform, const GameInfo* importOf) {
   const Surroundings& around = application.surroundings();
   const std::vector<const GameInfo*> madeUp = application.madeUpGames();
   DrawsDialog dialog(around.folder, around.clock, setup::exportAddresses(application.settings()),
-                     application.gameShown(), QApplication::activeWindow());
+                     importOf != nullptr ? *importOf : application.gameShown(), QApplication::activeWindow());
+  if (importOf != nullptr) dialog.importAtOnce();
   dialog.onChanged = [&] { platform.run([&] { application.showGameAnew(); }); };
   dialog.exec();
   if (!dialog.hasChanged()) return;
@@ -104,6 +106,21 @@ void editDraws(Application& application, QtPlatform& platform) {
     application.offerToTakePlaysAway(madeUp);
     application.showGameAnew();
   });
+}
+
+AfterFailedFetch askAfterFailedFetch(Application& application, QtPlatform& platform, const GameInfo& game,
+                                     const std::string& why) {
+  constexpr int again = 0;
+  constexpr int files = 1;
+  const int answer = platform.ask(
+      why, {QStringLiteral("&Try Again"), QStringLiteral("Take &Files…"), QStringLiteral("&Close")});
+  if (answer == files) {
+    // When the update has ended.
+    QTimer::singleShot(0, QApplication::instance(), [&application, &platform, &game] {
+      platform.attempt([&] { editDraws(application, platform, &game); });
+    });
+  }
+  return answer == again ? AfterFailedFetch::tryAgain : AfterFailedFetch::leave;
 }
 
 void press(Application& application, QtPlatform& platform, Control& control) {

@@ -12,6 +12,7 @@ class QString;
 namespace tallywick {
 
 class Application;
+enum class AfterFailedFetch;
 class Control;
 class DataFolder;
 class QtPlatform;
@@ -33,8 +34,12 @@ void editSettings(Application& application, QtPlatform& platform);
 std::filesystem::path showBackups(Application& application, QtPlatform& platform);
 
 /// Shows the draws of both games and lets the user fetch, import and type in more. Afterwards the lists have
-/// what was brought.
-void editDraws(Application& application, QtPlatform& platform);
+/// what was brought. `importOf` is a game whose draws are to be imported at once; null for none.
+void editDraws(Application& application, QtPlatform& platform, const GameInfo* importOf = nullptr);
+
+/// Asks how an update goes on whose draws could not be fetched: once more, with files, or not at all.
+AfterFailedFetch askAfterFailedFetch(Application& application, QtPlatform& platform, const GameInfo& game,
+                                     const std::string& why);
 
 /// Runs what a press of the control leads to. An update fetches what it needs first; a message says what it
 /// lacks.

@@ -88,6 +88,9 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
     openHelp(application.surroundings().folder, page);
   };
   platform.onPress = [&application, &platform](Control& control) { press(application, platform, control); };
+  application.onFetchFailed = [&application, &platform](const GameInfo& game, const std::string& why) {
+    return askAfterFailedFetch(application, platform, game, why);
+  };
   platform.onUpdateNote = [&application] { return application.noteOfUpdate(); };
   platform.onUpdateAgain = [&application] { application.updateAgain(); };
   platform.onPriceOfPlay = [&application](Game game) {
@@ -100,6 +103,11 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
     const DataFolder& folder = application.surroundings().folder;
     return note.of(stampsOf(folder, std::array{inFolder(powerBall, doublePlayFile)}),
                    [&] { return doublePlayNote(folder); });
+  };
+  platform.onDrawsAge = [&application] { return application.drawsAge(); };
+  platform.onShowDoublePlay = [&application, &platform](bool isShown) {
+    platform.answerDoublePlay(isShown ? MessageBox::Answer::yes : MessageBox::Answer::no);
+    click(*application.find("Form1")->find("Command7"));
   };
   platform.clock = &application.surroundings().clock;
   platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };

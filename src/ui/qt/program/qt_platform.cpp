@@ -2,6 +2,7 @@
 #include "ui/qt/program/qt_platform.h"
 
 #include "app/error_explained.h"
+#include "app/game_pages.h"
 #include "app/started_program.h"
 #include "core/file_names.h"
 #include "core/os.h"
@@ -109,6 +110,9 @@ MessageBox::Answer QtPlatform::show(const MessageBox& box) {
   showChanges();
   if (TransferPanel* panel = transferPanel()) panel->end();
   const bool isQuestion = box.buttons == MessageBox::Buttons::yesNo;
+  const bool isDoublePlay = box.text == doublePlayQuestion;
+  if (isDoublePlay && doublePlayAnswer_) return *std::exchange(doublePlayAnswer_, MessageBox::Answer::no);
+  if (isDoublePlay && onShowDoublePlay) doublePlayAnswer_ = MessageBox::Answer::no;
   if (alone_) return isQuestion ? MessageBox::Answer::no : MessageBox::Answer::ok;
   QMessageBox shown(iconOf(box.icon), toQString(box.title), toQString(box.text).remove(u'\r'),
                     QMessageBox::NoButton, QApplication::activeWindow());
@@ -121,6 +125,22 @@ MessageBox::Answer QtPlatform::show(const MessageBox& box) {
   shown.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   shown.setDefaultButton(QMessageBox::No);
   return shown.exec() == QMessageBox::Yes ? MessageBox::Answer::yes : MessageBox::Answer::no;
+}
+
+int QtPlatform::ask(const std::string& text, const QStringList& buttons) {
+  const int last = static_cast<int>(buttons.size()) - 1;
+  showChanges();
+  if (TransferPanel* panel = transferPanel()) panel->end();
+  if (alone_) return last;
+  QMessageBox box(QMessageBox::Warning, toQString(programTitle), toQString(text), QMessageBox::NoButton,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  QList<QAbstractButton*> made;
+  for (const QString& button : buttons)
+    made += box.addButton(button, made.size() == last ? QMessageBox::RejectRole : QMessageBox::ActionRole);
+  box.setEscapeButton(made.last());
+  box.exec();
+  return static_cast<int>(made.indexOf(box.clickedButton()));
 }
 
 void QtPlatform::refresh() {
@@ -166,6 +186,8 @@ void QtPlatform::openWindow(Form& form) {
                      onStartRealBook,
                      onEditDraws,
                      onDoublePlayNote,
+                     onDrawsAge,
+                     onShowDoublePlay,
                      clock};
   FormWindow* window = makeWindow(form, desk).release();
   windows_.push_back(window);

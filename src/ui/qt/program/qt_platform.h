@@ -11,6 +11,7 @@
 
 #include <QPointer>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tallywick {
@@ -37,6 +38,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::function<void()> onStartRealBook;
   std::function<void()> onEditDraws;
   std::function<std::string()> onDoublePlayNote;
+  std::function<std::string()> onDrawsAge;
+  std::function<void(bool isShown)> onShowDoublePlay;
   /// For what the windows say of today; null where the time plays no part.
   const Clock* clock = nullptr;
 
@@ -48,6 +51,13 @@ class QtPlatform : public Platform, public HandlerRunner {
   /// Nobody is there: boxes are not shown, and a question is answered with No.
   void answerAlone() { alone_ = true; }
 
+  /// The next question whether to show Double Play is answered so, without being shown. It is shown once in a
+  /// run; afterwards it is answered with No, and the main window has a button for it.
+  void answerDoublePlay(MessageBox::Answer answer) { doublePlayAnswer_ = answer; }
+
+  /// Shows a warning with these buttons, of which the last one is Escape's. Their number, from 0; the last
+  /// one's where nobody is there.
+  int ask(const std::string& text, const QStringList& buttons);
   MessageBox::Answer show(const MessageBox& box) override;
   void refresh() override;
   void progress(const TransferProgress& soFar) override;
@@ -86,6 +96,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   std::vector<QPointer<FormWindow>> closing_;
   bool running_ = false;
   bool alone_ = false;
+  std::optional<MessageBox::Answer> doublePlayAnswer_;
   bool ended_ = false;
   int exitCode_ = 0;
 };

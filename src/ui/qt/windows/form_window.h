@@ -48,6 +48,10 @@ struct Desk {
   std::function<void()> editDraws = {};
   /// For which draws there are Double Play numbers; empty where for all.
   std::function<std::string()> doublePlayNote = {};
+  /// That the newest draw of the game on show is long past; empty where it is not.
+  std::function<std::string()> drawsAge = {};
+  /// Shows the Double Play display, or PowerBall's own, without the question.
+  std::function<void(bool isShown)> showDoublePlay = {};
   /// The program's clock; null where the time plays no part.
   const Clock* clock = nullptr;
 };

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/main_window.h"
 
+#include "app/draws_note.h"
 #include "app/main_form.h"
+#include "core/clock.h"
 #include "ui/qt/pages/draws_view.h"
 #include "ui/qt/pages/search_view.h"
 #include "ui/qt/pages/summary_print.h"
@@ -9,11 +11,12 @@
 #include "ui/qt/pages/winnings_view.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/glance_strip.h"
 #include "ui/qt/windows/layout_memory.h"
-#include "ui/qt/windows/made_up_strip.h"
 #include "ui/qt/windows/menu_bar.h"
 #include "ui/qt/windows/navigation_bar.h"
+#include "ui/qt/windows/notice_strip.h"
 #include "ui/qt/windows/selection_window.h"
 #include "ui/qt/windows/text_size.h"
 
@@ -25,7 +28,9 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <array>
+#include <utility>
 
 namespace tallywick {
 
@@ -45,7 +50,8 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     : FormWindow(form, desk),
       main_(form),
       bar_(new NavigationBarView(form, *this)),
-      madeUp_(new MadeUpStrip(*this)),
+      madeUp_(madeUpStrip(*this)),
+      age_(ageStrip(*this)),
       glance_(new GlanceStrip(form, *this)),
       doublePlayNote_(sentences(this)),
       pages_(new QTabWidget) {
@@ -54,9 +60,13 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
   addKeys();
   followGlance();
   greyUnset();
+  drawFiles_ = stampsOfDraws(desk.folder);
+  showNotices();
   binding().afterChanges = [this] {
     bar_->showGame();
-    madeUp_->showGame();
+    followDraws();
+    showNotices();
+    titleEmptyLists();
     glance_->showGame();
     showDoublePlayNote();
     searches_->showHints();
@@ -90,6 +100,7 @@ void MainWindow::addPages() {
   auto* content = new QWidget;
   auto* column = columnIn(content, theme::gap);
   column->addWidget(madeUp_);
+  column->addWidget(age_);
   column->addWidget(bar_);
   column->addWidget(glance_);
   column->addWidget(doublePlayNote_);
@@ -117,7 +128,39 @@ QWidget* MainWindow::gameShown() {
     line->addWidget(label);
     binding().bind(*frame, *label);
   }
+  doublePlay_ = new QToolButton;
+  doublePlay_->setAutoRaise(true);
+  doublePlay_->setFocusPolicy(Qt::TabFocus);
+  line->addWidget(doublePlay_);
+  connect(doublePlay_, &QToolButton::clicked, this, [this] {
+    const bool isShown = main_.frames.Frame6.visible();
+    desk().runner.run([this, isShown] { desk().showDoublePlay(!isShown); });
+  });
   return box;
+}
+
+void MainWindow::followDraws() {
+  std::vector<os::FileStamp> files = stampsOfDraws(desk().folder);
+  if (files == drawFiles_) return;
+  drawFiles_ = std::move(files);
+  searches_->drawsChanged();
+  draws_->drawsChanged();
+}
+
+void MainWindow::showNotices() {
+  const bool isMadeUp = desk().showsMadeUpDraws && desk().showsMadeUpDraws();
+  madeUp_->say(isMadeUp ? u"Sample draws."_s : QString(),
+               u"They never took place; an update brings the real ones into this folder."_s);
+  const GameInfo* const game = gameOnShow(main_.frames);
+  const std::tuple asked = {drawFiles_,
+                            game != nullptr && !isMadeUp ? std::string(game->name) : std::string(),
+                            desk().clock != nullptr ? desk().clock->date() : std::string()};
+  if (std::exchange(ageAsked_, asked) != asked)
+    age_->say(desk().drawsAge ? toQString(desk().drawsAge()) : QString(),
+              u"Update, or the button here, brings the newer ones."_s);
+  const bool isDoublePlay = main_.frames.Frame6.visible();
+  doublePlay_->setVisible(desk().showDoublePlay && (isDoublePlay || main_.frames.Frame4.visible()));
+  doublePlay_->setText(isDoublePlay ? u"Back to PowerBall"_s : u"Show Double Play"_s);
 }
 
 void MainWindow::addMenusAndStatus() {
@@ -162,12 +205,21 @@ void MainWindow::addOptionEntries() {
   connect(options->addAction(u"Usual &Text Size\tCtrl+0"_s), &QAction::triggered, [] { TextSize::reset(); });
 }
 
+void MainWindow::addHelpEntry() {
+  QMenu* help = findChild<QAction*>(toQString(main_.menu.mnuHelp2.name()))->menu();
+  auto* manual = new QAction(u"&Manual\tF1"_s, this);
+  connect(manual, &QAction::triggered, this,
+          [this] { desk().runner.attempt([this] { desk().help(helpPage()); }); });
+  help->insertAction(help->actions().value(0), manual);
+}
+
 void MainWindow::addKeys() {
   answerHelpKey();
   addFileEntries();
+  addHelpEntry();
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    auto* list = qobject_cast<LineList*>(now);
-    if (list != nullptr && pages_->isAncestorOf(list)) lastList_ = list;
+    auto* list = qobject_cast<QAbstractItemView*>(now);
+    if (list != nullptr && !list->actions().isEmpty() && pages_->isAncestorOf(list)) lastList_ = list;
   });
 }
 
@@ -212,7 +264,7 @@ QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {
   auto* entry = new QAction(text, this);
   entry->setToolTip(u"The list in use, else the first one of the page"_s);
   connect(entry, &QAction::triggered, this, [this, actionText] {
-    const LineList* list = listInUse();
+    const QAbstractItemView* list = listInUse();
     if (list == nullptr) return;
     for (QAction* action : list->actions()) {
       if (action->text() == actionText) action->trigger();
@@ -223,12 +275,21 @@ QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {
   return entry;
 }
 
-LineList* MainWindow::listInUse() const {
+QAbstractItemView* MainWindow::listInUse() const {
   if (lastList_ && lastList_->isVisible()) return lastList_;
-  for (auto* list : pages_->currentWidget()->findChildren<LineList*>()) {
-    if (list->isVisible() && qobject_cast<QComboBox*>(list->parentWidget()) == nullptr) return list;
+  for (auto* list : pages_->currentWidget()->findChildren<QAbstractItemView*>()) {
+    const bool isOfPicker = qobject_cast<QComboBox*>(list->parentWidget()) != nullptr;
+    if (list->isVisible() && !list->actions().isEmpty() && !isOfPicker) return list;
   }
   return nullptr;
+}
+
+void MainWindow::titleEmptyLists() {
+  if (std::exchange(titled_, gameOnShow(main_.frames)) == gameOnShow(main_.frames)) return;
+  for (auto* list : pages_->findChildren<LineList*>()) {
+    if (list->lineModel() != nullptr && list->lineModel()->lines().empty() && list->beforeReload)
+      list->beforeReload();
+  }
 }
 
 void MainWindow::greyUnset() {

@@ -2,19 +2,24 @@
 // The main window: the bar, the four pages, the menus and the status bar.
 #pragma once
 
-#include "ui/qt/parts/line_list.h"
+#include "core/os.h"
 #include "ui/qt/windows/form_window.h"
 
+#include <QAbstractItemView>
 #include <QPointer>
+#include <string>
+#include <tuple>
+#include <vector>
 
 class QAction;
 class QLabel;
 class QTabWidget;
+class QToolButton;
 
 namespace tallywick {
 
 class GlanceStrip;
-class MadeUpStrip;
+class NoticeStrip;
 class DrawsView;
 class MainForm;
 class NavigationBarView;
@@ -36,7 +41,13 @@ class MainWindow : public FormWindow {
   void addMenusAndStatus();
   void addOptionEntries();
   void showDoublePlayNote();
+  /// What the strips over the pages say of the draws on show.
+  void showNotices();
+  /// Looks whether the record book has other draws than before; what was made of them then says so.
+  void followDraws();
   void addKeys();
+  /// The manual at the page in front, which is F1.
+  void addHelpEntry();
   /// Lets the parts of the strip lead to their pages.
   void followGlance();
   /// The window's own entries of the menu File, over Exit.
@@ -44,20 +55,28 @@ class MainWindow : public FormWindow {
   /// An entry that does to the list in use what the list's own action of that text does.
   QAction* listEntry(const QString& text, const QString& actionText);
   /// The list that was in front last, else the first one of the page.
-  LineList* listInUse() const;
+  QAbstractItemView* listInUse() const;
   /// Greys what the settings have no address for.
   void greyUnset();
   QWidget* gameShown();
+  /// Empty lists get the titles of the game on show; the others keep those of their lines.
+  void titleEmptyLists();
   /// Whether a press takes no selected plays away, or the user wants it.
   bool mayPress(const Control& control);
 
   MainForm& main_;
   NavigationBarView* bar_;
-  MadeUpStrip* madeUp_;
+  NoticeStrip* madeUp_;
+  NoticeStrip* age_;
   GlanceStrip* glance_;
   QLabel* doublePlayNote_;
+  QToolButton* doublePlay_ = nullptr;
+  std::vector<os::FileStamp> drawFiles_;
+  /// For which files, game and day the age of the draws was asked.
+  std::tuple<std::vector<os::FileStamp>, std::string, std::string> ageAsked_;
   QTabWidget* pages_;
-  QPointer<LineList> lastList_;
+  QPointer<QAbstractItemView> lastList_;
+  const GameInfo* titled_ = nullptr;
   DrawsView* draws_ = nullptr;
   SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
