@@ -123,6 +123,10 @@ bool canRun(const std::filesystem::path& program);
 void startProgram(const std::filesystem::path& program, const std::filesystem::path& argument,
                   const std::filesystem::path& workingFolder);
 
+/// Lets a program with windows write to the console that it was started from; where every program does so,
+/// nothing.
+void joinConsole();
+
 /// Whether standard error is a terminal, where somebody reads it.
 bool isTerminalBehindErrors();
 

@@ -326,6 +326,8 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   if (error != 0) failToStart(program, error);
 }
 
+void joinConsole() {}
+
 bool isTerminalBehindErrors() {
   return ::isatty(STDERR_FILENO) == 1;
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <sstream>
@@ -55,6 +56,23 @@ bool isMissing(DWORD error) {
     throw RuntimeError(ErrorNumber::pathFileAccess, textOf(file) + " (a folder)");
   }
   throw runtimeErrorFrom(std::error_code(static_cast<int>(error), std::system_category()), file);
+}
+
+/// Repeats `step`, which returns an error code, for a second while somebody holds `file` open: virus scanners
+/// and search indexes do so for a moment after it has been written. Another error, or this one still, is
+/// raised.
+template <typename Step>
+void retryWhileHeld(Step step, const fs::path& file) {
+  using namespace std::chrono_literals;
+  const auto until = std::chrono::steady_clock::now() + 1s;
+  for (;;) {
+    const DWORD error = step();
+    if (error == ERROR_SUCCESS) return;
+    const bool mayPass =
+        error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !isFolder(file));
+    if (!mayPass || std::chrono::steady_clock::now() >= until) fail(error, file);
+    std::this_thread::sleep_for(10ms);
+  }
 }
 
 /// An open file that is closed on every way out.
@@ -214,16 +232,14 @@ void writeDurably(const fs::path& file, std::string_view contents, Access) {
 void syncFolder(const fs::path&) {}
 
 void takeName(const fs::path& from, const fs::path& to) {
-  // Virus scanners and search indexes hold a file open for a moment after it has been written.
-  using namespace std::chrono_literals;
-  const auto until = std::chrono::steady_clock::now() + 1s;
-  while (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-    const DWORD error = ::GetLastError();
-    if (error == ERROR_ACCESS_DENIED && removeFolderLink(to)) continue;
-    const bool mayPass = error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !isFolder(to));
-    if (!mayPass || std::chrono::steady_clock::now() >= until) fail(error, to);
-    std::this_thread::sleep_for(10ms);
-  }
+  retryWhileHeld(
+      [&] {
+        if (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+          return DWORD{ERROR_SUCCESS};
+        const DWORD error = ::GetLastError();
+        return error == ERROR_ACCESS_DENIED && removeFolderLink(to) ? DWORD{ERROR_SHARING_VIOLATION} : error;
+      },
+      to);
 }
 
 void checkReplaceable(const fs::path& file) {
@@ -232,16 +248,30 @@ void checkReplaceable(const fs::path& file) {
     if (const DWORD error = ::GetLastError(); !isMissing(error)) fail(error, file);
     return;
   }
-  const bool isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
-  const bool isPlainFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && !isLink(file);
-  if (isReadOnly || isPlainFolder) fail(ERROR_ACCESS_DENIED, file);
+  const bool isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  if (isFolder && isLink(file)) return;
+  if (isFolder || (attributes & FILE_ATTRIBUTE_READONLY) != 0) fail(ERROR_ACCESS_DENIED, file);
+  // Somebody may have the file open so that it keeps its name.
+  retryWhileHeld(
+      [&file] {
+        const HANDLE handle =
+            ::CreateFileW(file.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                          nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+        if (handle == INVALID_HANDLE_VALUE) return ::GetLastError();
+        ::CloseHandle(handle);
+        return DWORD{ERROR_SUCCESS};
+      },
+      file);
 }
 
 void removeDurably(const fs::path& file) {
-  if (::DeleteFileW(file.c_str()) == 0) {
-    const DWORD error = ::GetLastError();
-    if (!isMissing(error) && !removeFolderLink(file)) fail(error, file);
-  }
+  retryWhileHeld(
+      [&file] {
+        if (::DeleteFileW(file.c_str()) != 0) return DWORD{ERROR_SUCCESS};
+        const DWORD error = ::GetLastError();
+        return isMissing(error) || removeFolderLink(file) ? DWORD{ERROR_SUCCESS} : error;
+      },
+      file);
 }
 
 FileLock::FileLock(const fs::path& lockFile, Wait wait) : file_(lockFile) {
@@ -307,6 +337,14 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
+}
+
+void joinConsole() {
+  // Handles that lead somewhere were given on purpose.
+  if (::GetStdHandle(STD_OUTPUT_HANDLE) != nullptr || ::AttachConsole(ATTACH_PARENT_PROCESS) == 0) return;
+  for (std::FILE* stream : {stdout, stderr}) {
+    if (std::freopen("CONOUT$", "w", stream) == nullptr) return;
+  }
 }
 
 bool isTerminalBehindErrors() {

@@ -8,15 +8,26 @@
 #include "core/program_run.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "support/host.h"
 #include "support/scratch_folder.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace tallywick {
 namespace {
 
 using test::ScratchFolder;
+using test::setVariable;
+
+#ifdef _WIN32
+constexpr const char* dataVariable = "LOCALAPPDATA";
+const std::string drive = "C:";
+const std::string sortTool = "qzrsrt3.exe";
+#else
+constexpr const char* dataVariable = "XDG_DATA_HOME";
+const std::string drive;
+const std::string sortTool = "qzrsrt3";
+#endif
 
 TEST(Settings, ComeBackAsTheyWereWritten) {
   const ScratchFolder scratch;
@@ -91,20 +102,21 @@ TEST(Settings, ALineThatCannotBeUnderstoodIsNamedRatherThanIgnored) {
 TEST(DataFolderChoice, GoesFromTheCommandLineDownToTheUsersFolder) {
   const ScratchFolder scratch;
   const std::filesystem::path before = std::filesystem::current_path();
-  ::setenv("XDG_DATA_HOME", "/users/data", 1);
-  ::unsetenv("TALLYWICK_FOLDER");
+  setVariable(dataVariable, drive + "/users/data");
+  setVariable("TALLYWICK_FOLDER", "");
   std::filesystem::current_path(scratch.root() / "QzrNumbers");
-  EXPECT_EQ(chooseDataFolder(""), "/users/data/tallywick");
+  EXPECT_EQ(chooseDataFolder(""), drive + "/users/data/tallywick");
   std::filesystem::current_path(scratch.root());
   EXPECT_EQ(chooseDataFolder(""), scratch.root());
-  ::setenv("TALLYWICK_FOLDER", "/from/environment", 1);
-  EXPECT_EQ(chooseDataFolder(""), "/from/environment");
-  EXPECT_EQ(chooseDataFolder("/named"), "/named");
-  for (const char* name : {"TALLYWICK_FOLDER", "XDG_DATA_HOME"}) ::unsetenv(name);
+  setVariable("TALLYWICK_FOLDER", drive + "/from/environment");
+  EXPECT_EQ(chooseDataFolder(""), drive + "/from/environment");
+  EXPECT_EQ(chooseDataFolder(drive + "/named"), drive + "/named");
+  for (const char* name : {"TALLYWICK_FOLDER", dataVariable}) setVariable(name, "");
   std::filesystem::current_path(before);
 }
 
 TEST(DataFolderChoice, NeedsTheWorkingFolderForARelativeNameOnly) {
+  if (!test::hasPosixFiles) GTEST_SKIP() << "a working folder cannot be removed here";
   namespace fs = std::filesystem;
   const fs::path before = fs::current_path();
   const ScratchFolder scratch;
@@ -146,7 +158,7 @@ TEST(StartedProgram, TheSortToolOfAGameFolderIsNeverTheOneThatRuns) {
     const auto tool = scratch.root() / "QzrNumbers" / "QZR6PWR" / "QZRSRT3.EXE";
     std::filesystem::permissions(tool, row.rights);
     const StartedProgram start = startedProgram(scratch.folder(), path, R"(C:\)");
-    EXPECT_EQ(start.program, os::programFile().parent_path() / "qzrsrt3") << row.way;
+    EXPECT_EQ(start.program, os::programFile().parent_path() / sortTool) << row.way;
     EXPECT_TRUE(std::filesystem::equivalent(start.argument, tool.parent_path())) << row.way;
     EXPECT_THROW(startedProgram(scratch.folder(), tool.string() + "x", ""), RuntimeError) << row.way;
   }

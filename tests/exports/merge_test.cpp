@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "exports/folder_merge.h"
 #include "exports/made_up.h"
+#include "support/host.h"
 #include "support/record_book.h"
 
 #include <gmock/gmock.h>
@@ -189,6 +190,7 @@ TEST_F(MergeOfAFolder, ChangesTheDrawsAloneOnceAndLeavesItWhereItFails) {
 }
 
 TEST_F(MergeOfAFolder, IsAtWorkAloneFollowsNoLinkAndMakesAMissingGame) {
+  if (!test::hasPosixFiles) GTEST_SKIP() << "needs a link to a folder";
   merge(200);
   {
     const os::FileLock atWork = lockFolder(scratch.folder().resolve(powerBall.folder));

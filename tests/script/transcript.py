@@ -10,8 +10,10 @@ one only its first and last items. --accept writes it anew: read every changed l
 Lines that begin with #! are for this driver: `write FILE` writes the records that follow (separated by ` | `), `remove FILE`
 removes a file, `cat FILE` prints it as it is now. Those before the script's first line run before the program starts. A FILE
 with a folder is below QzrNumbers; a + in its name is a blank."""
-import argparse, datetime, difflib, json, pathlib, re, subprocess, sys, tempfile
+import argparse, datetime, difflib, json, os, pathlib, re, subprocess, sys, tempfile
 
+# What runs the program where this system does not.
+THROUGH = os.environ.get('TALLYWICK_EMULATOR', '').split()
 NOW = '06-16-2026 12:00:00'  # a Tuesday
 
 
@@ -125,7 +127,7 @@ class Run:
 
     def command(self, number, line):
         if self.process is None:
-            start = [self.program, '--folder', str(self.folder), '--now', NOW, '--seed', '1', '--source', 'server']
+            start = [*THROUGH, self.program, '--folder', str(self.folder), '--now', NOW, '--seed', '1', '--source', 'server']
             self.process = subprocess.Popen(start, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.errors, encoding='utf-8')
         # What `windows` prints ends what the line prints.
         self.sent += [number] if line == 'windows' else [number, number]
@@ -146,7 +148,9 @@ class Run:
         self.errors.seek(0)
         for line in self.errors:
             line = re.sub(r'(?<=: line )\d+', lambda found: str(self.sent[int(found[0]) - 1]), line.rstrip())
-            self.text.append('stderr: ' + line.replace(str(self.folder), 'BOOK'))
+            # On Windows its paths have a drive and back slashes.
+            book = r'(?:[A-Z]:)?' + r'[\\/]'.join(re.escape(part) for part in str(self.folder).split('/'))
+            self.text.append('stderr: ' + re.sub(book + r'([\w\\/]*)', lambda found: 'BOOK' + found[1].replace('\\', '/'), line))
         self.text.append('exit code %d' % self.process.returncode)
         return '\n'.join(self.text) + '\n'
 

@@ -50,7 +50,7 @@ def trial(program, folder, code, search, white, extra):
            [text for n in latest for text in (plays[n - 1][0], plays[n - 1][0], '')])
     expect(['click Option2', 'click Command47'], 'List11', [play[0] for play in won])
 
-    run = subprocess.run([program, '--folder', folder, '--now', transcript.NOW], input='\n'.join(lines), capture_output=True, text=True)
+    run = subprocess.run([*transcript.THROUGH, program, '--folder', folder, '--now', transcript.NOW], input='\n'.join(lines), capture_output=True, text=True)
     shown = [entry for entry in map(json.loads, run.stdout.splitlines()) if 'name' in entry]
     for entry, wanted in zip(shown, expected):
         texts = [item[1:11].strip() for item in entry['items']] if 'items' in entry else entry['caption']

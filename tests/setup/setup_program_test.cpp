@@ -5,6 +5,7 @@
 #include "core/day.h"
 #include "core/draws.h"
 #include "core/plays.h"
+#include "support/host.h"
 #include "support/scratch_folder.h"
 
 #include <algorithm>
@@ -75,6 +76,7 @@ TEST(Setup, AnExportIsMergedIntoAFolderAndForceDrawsReplacesAll) {
 }
 
 TEST(Setup, ANewFolderTakesNothingThatIsThereAlready) {
+  if (!test::hasPosixFiles) GTEST_SKIP() << "needs links, and two spellings of a name";
   const test::ScratchFolder scratch;
   namespace fs = std::filesystem;
   struct Case {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/data_folder.h"
+#include "support/host.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -62,8 +63,8 @@ class ScratchFolder {
   /// In memory where the system has such a folder: tests that kill and run again wait for the disk otherwise.
   static std::filesystem::path holder() {
     const std::filesystem::path memory = "/dev/shm";
-    const bool chosen = std::getenv("TMPDIR") != nullptr;
-    return !chosen && std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+    const bool mayUse = hasPosixFiles && std::getenv("TMPDIR") == nullptr;
+    return mayUse && std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
   }
 
   /// A folder that did not exist before.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -10,15 +11,77 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
+
+#ifdef _WIN32
+#include <winsock2.h>
+#else
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
+#endif
 
 namespace tallywick::test {
 
 /// What the servers know their only user by.
 inline constexpr const char* serverLogin = "player one";
 inline constexpr const char* serverPassword = "se/cr:e@t %41";
+
+#ifdef _WIN32
+
+/// A connection to the keeper of servers outside Wine, see tests/support/server_keeper.py.
+class KeeperConnection {
+ public:
+  explicit KeeperConnection(const std::string& line) {
+    const char* port = std::getenv("TALLYWICK_SERVER_KEEPER");
+    WSADATA started{};
+    ::WSAStartup(MAKEWORD(2, 2), &started);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
+    address.sin_port = ::htons(static_cast<std::uint16_t>(std::atoi(port != nullptr ? port : "0")));
+    socket_ = ::socket(AF_INET, SOCK_STREAM, 0);
+    if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
+        ::send(socket_, line.data(), static_cast<int>(line.size()), 0) != static_cast<int>(line.size())) {
+      throw std::runtime_error("nobody keeps the tests' servers: scripts/windows runs them");
+    }
+    for (char letter = 0; ::recv(socket_, &letter, 1, 0) == 1 && letter != '\n';) answer_ += letter;
+  }
+  ~KeeperConnection() { ::closesocket(socket_); }
+  KeeperConnection(const KeeperConnection&) = delete;
+  KeeperConnection& operator=(const KeeperConnection&) = delete;
+
+  const std::string& answer() const { return answer_; }
+
+ private:
+  SOCKET socket_ = INVALID_SOCKET;
+  std::string answer_;
+};
+
+class ServerProcess {
+ public:
+  ServerProcess(const std::string& script, const std::vector<std::string>& arguments)
+      : connection_(line(script, arguments)) {
+    if (connection_.answer().empty()) throw std::runtime_error("the test's server did not start");
+  }
+
+  std::string address() const { return "127.0.0.1:" + connection_.answer(); }
+
+ private:
+  static std::string line(const std::string& script, const std::vector<std::string>& arguments) {
+    std::string text = std::string("server\t" TALLYWICK_TEST_SERVERS "/") + script;
+    for (const std::string& argument : arguments) text += "\t" + argument;
+    return text + "\n";
+  }
+
+  KeeperConnection connection_;
+};
+
+/// What a line of the shell outside Wine ends with.
+inline int shell(const std::string& line) {
+  return std::atoi(KeeperConnection("shell\t" + line + "\n").answer().c_str());
+}
+
+#else
 
 /// A Python that has what the real server needs. There may be several on a machine.
 inline std::string pythonWithServer() {
@@ -85,6 +148,13 @@ class ServerProcess {
   std::string port_;
 };
 
+/// What a line of the shell ends with.
+inline int shell(const std::string& line) {
+  return std::system(line.c_str());
+}
+
+#endif
+
 inline std::string textOf(const std::filesystem::path& file) {
   std::ostringstream text;
   text << std::ifstream(file, std::ios::binary).rdbuf();
@@ -106,7 +176,7 @@ inline void makeCertificate(const std::string& file, const std::string& owner = 
       "-addext subjectAltName=" +
       owner + " -subj /CN=" + std::filesystem::path(file).filename().string() + signer + " -out " + file +
       " -keyout " + file + ".key 2>/dev/null && cat " + file + ".key >> " + file;
-  if (std::system(make.c_str()) != 0) throw std::runtime_error("the openssl command makes no certificate");
+  if (shell(make) != 0) throw std::runtime_error("the openssl command makes no certificate");
 }
 
 }  // namespace tallywick::test

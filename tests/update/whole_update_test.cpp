@@ -3,6 +3,7 @@
 #include "ftp_servers.h"
 #include "setup/new_folder.h"
 #include "setup/publish.h"
+#include "support/host.h"
 #include "support/scratch_folder.h"
 
 #include <chrono>
@@ -16,14 +17,25 @@ constexpr std::uint64_t seed = 7;
 const Day olderDay = dayOf(2026, 11, 17);
 const Day newerDay = dayOf(2026, 11, 21);
 
+std::string quoted(const std::filesystem::path& path) {
+  return "\"" + path.string() + "\"";
+}
+
 /// What the program prints; it is killed where it does not end.
 std::string outputOf(const std::string& lines, const ScratchFolder& book, const std::string& server) {
   putText(book.root() / "lines", lines);
   const std::string source = server.empty() ? "" : " --server " + server;
-  const std::string command = "timeout 60 '" TALLYWICK_SCRIPT "' --folder '" + book.root().string() + "'" +
-                              source + " '" + (book.root() / "lines").string() + "' > '" +
-                              (book.root() / "out").string() + "'";
-  EXPECT_EQ(std::system(command.c_str()), 0);
+#ifdef _WIN32
+  const std::string quote = "\"";
+  const std::string command = "\"\"" TALLYWICK_SCRIPT "\" --folder ";
+#else
+  const std::string quote;
+  const std::string command = "timeout 60 \"" TALLYWICK_SCRIPT "\" --folder ";
+#endif
+  EXPECT_EQ(std::system((command + quoted(book.root()) + source + " " + quoted(book.root() / "lines") +
+                         " > " + quoted(book.root() / "out") + quote)
+                            .c_str()),
+            0);
   return textOf(book.root() / "out");
 }
 
@@ -91,7 +103,7 @@ TEST(WholeUpdate, BringsExportedDrawsOnceAndMovesDrawnPlays) {
   putText(file("pwr"), pwr);
   putText(file("meg"), meg);
 
-  ::setenv("SSL_CERT_FILE", file("authority").c_str(), 1);
+  setVariable("SSL_CERT_FILE", file("authority"));
   const std::string update = "now 11-21-2026 12:00:00\nclick Command2\n";
   EXPECT_EQ(outputOf(update + "print List1\n", book, "").find("11-21-2026"), std::string::npos)
       << "an update fills no list";
@@ -99,7 +111,7 @@ TEST(WholeUpdate, BringsExportedDrawsOnceAndMovesDrawnPlays) {
   EXPECT_EQ(outputOf("print List1\n", book, "").substr(0, 38), " 11-21-2026    10 20 30 40 50   06    ");
   const auto before = book.snapshot();
   const std::string again = outputOf(update, book, "");
-  ::unsetenv("SSL_CERT_FILE");
+  setVariable("SSL_CERT_FILE", "");
   EXPECT_NE(again.find("is completed"), std::string::npos);
   std::string changed;
   for (const auto& [name, text] : book.snapshot()) {

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the tests ask of the system they run on.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace tallywick::test {
+
+/// Whether files have links, rights, and names of two spellings here; tests of these are left out elsewhere.
+#ifdef _WIN32
+inline constexpr bool hasPosixFiles = false;
+#else
+inline constexpr bool hasPosixFiles = true;
+#endif
+
+/// Gives the environment's variable `name` a value; an empty one removes it.
+inline void setVariable(const std::string& name, const std::string& value) {
+#ifdef _WIN32
+  ::_putenv_s(name.c_str(), value.c_str());
+#else
+  if (value.empty()) {
+    ::unsetenv(name.c_str());
+  } else {
+    ::setenv(name.c_str(), value.c_str(), 1);
+  }
+#endif
+}
+
+/// A link `link` to `target`, or a copy of it where there are no links.
+inline void linkOrCopy(const std::filesystem::path& target, const std::filesystem::path& link) {
+  if (hasPosixFiles) {
+    std::filesystem::create_symlink(target, link);
+  } else {
+    std::filesystem::copy_file(target, link);
+  }
+}
+
+}  // namespace tallywick::test
