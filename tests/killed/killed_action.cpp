@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// killed_action FOLDER ACTION: one action that changes files of a data folder, for the test that kills it. A
-// runtime error is reported by its number on standard output and exit code 1.
+// killed_action FOLDER ACTION [announced]: one action that changes files of a data folder, for the test that
+// kills it. A runtime error is reported by its number on standard output and exit code 1. Announced, a line
+// goes before the action.
 #include "backup/backup.h"
 #include "core/file_commit.h"
 #include "core/restored_folder.h"
@@ -108,7 +109,8 @@ void run(const DataFolder& folder, std::string_view action) {
 
 }  // namespace
 
-int main(int, char** arguments) {
+int main(int count, char** arguments) {
+  if (count > 3) std::cout << "now" << std::endl;
   try {
     run(DataFolder(arguments[1]), arguments[2]);
   } catch (const std::exception&) {

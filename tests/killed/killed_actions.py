@@ -5,6 +5,9 @@
 Whatever happens, the next start of the program must find the data folder wholly as it was or wholly as the
 undisturbed action leaves it. Usage: killed_actions.py PROGRAM KIND, where PROGRAM is killed_action. Exit code
 77: this system has no strace, or does not let it trace.
+
+killed_actions.py PROGRAM KIND COUNT takes no strace and ends each action COUNT times at random moments. With TALLYWICK_EMULATOR
+in the environment that command runs PROGRAM.
 """
 
 import collections
@@ -12,14 +15,16 @@ import datetime
 import itertools
 import os
 import pathlib
+import random
 import re
 import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import zipfile
 
-PROGRAM = sys.argv[1]
+PROGRAM = [*os.environ.get("TALLYWICK_EMULATOR", "").split(), sys.argv[1]]
 ACTIONS = {"selection": ["done-10", "done-1", "select", "open"], "files": ["maintain", "receive", "publish"],
            "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
            "draws": ["fetch", "add-draw", "remove-draw"], "restore": ["restore"], "backup": ["backup"]}[sys.argv[2]]
@@ -98,7 +103,7 @@ def served(files):
 
 
 def run(action, *tracing):
-    command = [*tracing, PROGRAM, str(folder), action]
+    command = [*tracing, *PROGRAM, str(folder), action]
     return subprocess.run(command, env=ENVIRONMENT, capture_output=True, text=True)
 
 
@@ -177,7 +182,30 @@ def fail_everywhere(action, start, outcomes):
     return failures
 
 
-def test_action(action):
+def end_at_random(action, count, start, outcomes):
+    """Ends the action at `count` random moments between its first step and its last, starts the program again, and compares."""
+    longest, left = 0, collections.Counter()
+    for number in range(-5, count):
+        lay_out(start)
+        with subprocess.Popen([*PROGRAM, str(folder), action, "announced"], stdout=subprocess.PIPE) as process:
+            process.stdout.readline()
+            began = time.monotonic()
+            if number < 0:
+                process.stdout.read()
+                longest = max(longest, time.monotonic() - began)
+            else:
+                time.sleep(random.uniform(0, longest))
+                process.kill()
+        files = state()
+        left["before" if files == outcomes[0] else "after" if files == outcomes[-1] else "between"] += number >= 0
+        what = f"{action}, ended at random, number {number}"
+        check(run(MENDING[action]).returncode == 0, what + ": no recovery")
+        check(state() in outcomes, what)
+    print(f"{action}: {count} ends within {longest * 1000:.0f} ms, nothing lost; found {dict(left)}", flush=True)
+
+
+def prepare(action):
+    """What the action starts with, and what it may leave: what there was before, and what it does."""
     lay_out(starting_files())
     if action == "publish":
         check(run("publish").returncode == 0, "nothing is published")
@@ -197,11 +225,15 @@ def test_action(action):
     check(before != after, f"{action} does nothing")
     for name in (COMMITTED, PWR / "QZR6PWR2.Ply"):
         check(all(play in b"".join(after.values()) for play in before[name].splitlines()), f"{action} takes a play away")
-    outcomes = (after,) if MENDING[action] == action else (before, after)
+    return start, (after,) if MENDING[action] == action else (before, after)
+
+
+def test_action(action):
+    start, outcomes = prepare(action)
     kills, failures = kill_everywhere(action, start, outcomes), fail_everywhere(action, start, outcomes)
     check(kills > 3 and failures > 5, f"{action}: only {kills} kills and {failures} failures")
     print(f"{action}: {kills} kills and {failures} failures, nothing lost")
-    return after
+    return outcomes[-1]
 
 
 def test_order_on_disk():
@@ -249,6 +281,11 @@ def test_recovery(done):
 
 
 def main():
+    for count in sys.argv[3:]:
+        for action in ACTIONS:
+            end_at_random(action, int(count), *prepare(action))
+        shutil.rmtree(scratch)
+        return 0
     if shutil.which("strace") is None or run("nothing", "strace", "-o", "/dev/null").returncode != 0:
         print("SKIPPED: no strace here, or it is not permitted to trace")
         return 77
