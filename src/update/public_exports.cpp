@@ -315,7 +315,8 @@ FetchedExports::FetchedExports(const DataFolder& folder, const Clock& clock, std
 }
 
 const GameFetch& FetchedExports::fetch(const ExportAddress& from) {
-  std::erase_if(results_, [&](const GameFetch& earlier) { return earlier.game == from.game; });
+  soFar_.files -=
+      std::erase_if(results_, [&](const GameFetch& earlier) { return earlier.game == from.game; });
   std::erase_if(*fetched_, [&](const FetchedExport& earlier) { return earlier.game == from.game; });
   GameFetch& result = results_.emplace_back(GameFetch{from.game, from.address});
   orError(result, [&] {

@@ -41,6 +41,14 @@ constexpr int leastRows = 2;
 /// The marks, what an action did and what Select will do.
 constexpr int hintLines = 4;
 
+/// A sentence with room for two lines, whatever the toolkit would like for it.
+class TwoLines : public Sentences {
+ public:
+  using Sentences::Sentences;
+  QSize sizeHint() const override { return {0, 2 * fontMetrics().lineSpacing()}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 QPushButton* actionButton(QWidget* parent, QGridLayout& grid, int line, int column) {
   auto* button = new QPushButton(parent);
   button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -159,7 +167,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   line->addWidget(count);
   line->addStretch();
   addBringBack(*line, parent);
-  drawCount_ = sentences(parent);
+  drawCount_ = new TwoLines(parent);
   drawCount_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   column.addLayout(line);
   column.addWidget(drawCount_);
