@@ -170,6 +170,8 @@ TEST_F(FileCommits, RecoveryFollowsAJournalOfPlainNamesAndSetsEveryOtherAside) {
            Row{"torn", "tallywick-journal 1\nA\n", aside},
            Row{"torn inside a line", "tallywick-journal 2\nA\n/\n", aside},
            Row{"empty", "", aside},
+           Row{"no size", join("tallywick-journal 2\n3x", isOld.substr(1), " A\n/\n"), aside},
+           Row{"no fingerprint", join("tallywick-journal 2\n", isOld, "g A\n/\n"), aside},
            Row{"not plain", "tallywick-journal 1\nA\n../B\n/\n", aside},
            Row{"a name of its own", "tallywick-journal 2\n- - TALLYWICK.JNL\n/\n", aside},
            Row{"doubled", "tallywick-journal 2\n- - A\n- - a\n/\n", aside},

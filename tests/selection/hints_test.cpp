@@ -53,6 +53,8 @@ TEST_F(Selection, SaysInASentenceWhatSelectWillDo) {
       {"06 23 41 58 75", "25",
        "Select will enter this play for the draw of Tue 11-24-2026. 75 and Mega Ball 25 are no longer "
        "drawn."},
+      {"06 23 41 58 60 61", "",
+       "Six numbers are marked: press one of 01 to 25 again to make it the Mega Ball."},
       {"06 23 41 58 60 61", "14",
        "Six numbers and a Mega Ball are marked: Select will refuse them and take all marks off."},
       {"06", "14 15", "Two Mega Balls are marked: Select will refuse them and take all marks off."},
@@ -91,7 +93,12 @@ TEST_F(Selection, MarksThatARefusalTookOffComeBack) {
     EXPECT_TRUE(removed.bringBack(*form));
     EXPECT_EQ(marks(), "05 [07] 11 ");
   }
-  mark("12 13 14", Mark::main);
+  press("Command84");
+  mark("01", Mark::main);
+  EXPECT_TRUE(removed.watch(*form, [&] { press("Command84"); }));
+  EXPECT_TRUE(removed.bringBack(*form));
+  mark("05 12 13 14", Mark::main);
+  mark("07", Mark::extra);
   EXPECT_FALSE(removed.watch(*form, [&] { press("Command59"); }))
       << "a play that was entered is not brought back";
   EXPECT_FALSE(removed.bringBack(*form));

@@ -89,6 +89,9 @@ TEST_F(Web, IsNotBelievedWithoutItsOwnCertificate) {
 TEST_F(Web, ThatIsNotThereIsNamed) {
   EXPECT_EQ(errorOf([&] { fetchDocument("https://127.0.0.1:1/x", {}, settings); }),
             "The transfer failed: connection refused by the server of \"https://127.0.0.1:1/x\"");
+  // A name that nobody is asked about.
+  EXPECT_EQ(errorOf([&] { fetchDocument("https://no..body/x", {}, settings); }),
+            "The transfer failed: not connected to the internet, or no such server: \"https://no..body/x\"");
 }
 
 TEST_F(Web, IsLeftByWhoeverCancels) {

@@ -175,6 +175,8 @@ TEST_F(BadServer, OrNoneAtAllIsTold) {
               "The transfer failed: the update server's address is not valid")
         << host;
   }
+  EXPECT_EQ(errorOf([&] { connected("no..body"); }),
+            "The transfer failed: the update server's address is not known");
   EXPECT_EQ(scratch.snapshot(), before);
 }
 
