@@ -194,6 +194,11 @@ TEST_F(Windows, AnUpdateWithoutAServerIsNotStarted) {
   widget<QPushButton>("Form1", "Command2").click();
   EXPECT_TRUE(boxText.startsWith(QStringLiteral("No update server is set.")));
   EXPECT_FALSE(platform.ended());
+  auto& selection = static_cast<SelectionForm&>(open("Form3").form());
+  const std::string& name = selection.button(1).name();
+  EXPECT_EQ(name, "Command2") << "the name of the update button, in another window";
+  widget<QAbstractButton>("Form3", name.c_str()).click();
+  EXPECT_NE(markOf(selection.button(1)), Mark::none);
 }
 
 TEST_F(Windows, CloseBeforeTheFormsTheyShow) {

@@ -125,7 +125,10 @@ AfterFailedFetch askAfterFailedFetch(Application& application, QtPlatform& platf
 
 void press(Application& application, QtPlatform& platform, Control& control) {
   constexpr std::array updates = {"Command2", "mnuPowerBall2", "mnuMegaMillions2"};
-  if (std::ranges::find(updates, control.name()) == updates.end()) {
+  // The selection windows have controls of these names, too.
+  const Form* const main = application.find("Form1");
+  const auto isThis = [&](const char* name) { return main != nullptr && main->find(name) == &control; };
+  if (std::ranges::none_of(updates, isThis)) {
     click(control);
     return;
   }
