@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The journal of a change of several files, as a crash, a disk or somebody else left it in a game folder.
-#include "core/file_commit.h"
+#include "core/journal.h"
+
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "fuzz/property.h"
 #include "support/scratch_folder.h"
 

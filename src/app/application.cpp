@@ -2,7 +2,7 @@
 #include "app/application.h"
 
 #include "app/game_pages.h"
-#include "core/file_commit.h"
+#include "core/journal.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 

@@ -10,6 +10,7 @@
 #include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/work_files.h"
 
 #include <algorithm>
 #include <set>

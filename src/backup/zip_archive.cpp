@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/zip_archive.h"
 
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/os.h"
 #include "core/text.h"
+#include "core/work_files.h"
 
 #include <memory>
 #include <stdexcept>

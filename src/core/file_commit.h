@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Replacing files so that no kill, cut or full disk loses what was there before.
+// A change of several files of one folder that no kill, cut or full disk leaves half made.
 #pragma once
 
 #include "core/os.h"
@@ -10,26 +10,6 @@
 #include <vector>
 
 namespace tallywick {
-
-/// Names of the program's own in a game folder. A server that lists one of them is refused.
-inline constexpr std::string_view journalName = "TALLYWICK.JNL";
-inline constexpr std::string_view lockName = "TALLYWICK.LCK";
-inline constexpr std::string_view stagedSuffix = ".tw~";
-
-/// What a game's last fetched export was; it stays between changes.
-inline constexpr std::string_view exportNoteName = "TALLYWICK.SRC";
-/// The draws that were typed in.
-inline constexpr std::string_view typedDrawsName = "TALLYWICK.TYP";
-
-/// The names of locks, journals and staged files, which are there in the middle of a change alone.
-bool isOwnWorkName(std::string_view name);
-/// All names of the program's own.
-bool isOwnName(std::string_view name);
-
-/// Replaces one file in one step: a work file beside it is written and synced, then takes its name. A failure
-/// leaves the file as it was.
-void replaceFile(const std::filesystem::path& file, std::string_view contents,
-                 os::Access access = os::Access::usual);
 
 /// Takes the lock on a folder and finishes what an earlier change of it left behind. Whatever changes play
 /// files holds it meanwhile: the selection window, the maintenance, an update and the sort tool.
@@ -76,18 +56,5 @@ class FileCommit {
   std::vector<std::string> names_;
   std::vector<std::string> removedNames_;
 };
-
-/// Whether nobody is at work in the folder and nothing in it is to be finished.
-bool isAtRest(const std::filesystem::path& folder);
-
-/// Finishes what was cut short. Where there is nothing to finish it takes no lock, so that a folder that
-/// cannot be written is no error. Raises LockedByAnother at once where somebody is at work in the folder.
-void recoverFolder(const std::filesystem::path& folder);
-
-/// Adds to what takeRecoveryNotices() gives.
-void addRecoveryNotice(std::string text);
-
-/// What the recoveries since the last call could not finish or had to keep, as texts for the player.
-std::vector<std::string> takeRecoveryNotices();
 
 }  // namespace tallywick

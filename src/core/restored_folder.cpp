@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/restored_folder.h"
 
-#include "core/file_commit.h"
 #include "core/file_names.h"
+#include "core/journal.h"
 #include "core/os.h"
 #include "core/text.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exports/folder_merge.h"
 
+#include "core/journal.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "exports/made_up.h"

@@ -2,8 +2,8 @@
 #include "exports/game_files.h"
 
 #include "core/data_folder.h"
-#include "core/file_commit.h"
 #include "core/os.h"
+#include "core/work_files.h"
 
 #include <utility>
 

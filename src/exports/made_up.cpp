@@ -5,6 +5,7 @@
 #include "core/file_commit.h"
 #include "core/os.h"
 #include "core/text.h"
+#include "core/work_files.h"
 
 #include <string>
 

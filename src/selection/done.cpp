@@ -3,6 +3,7 @@
 #include "core/dated_copies.h"
 #include "core/eras.h"
 #include "core/file_commit.h"
+#include "core/journal.h"
 #include "core/plays.h"
 #include "core/text.h"
 #include "selection/draw_dates.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/play_lists.h"
 
-#include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "selection/selection_form.h"
 
 namespace tallywick {

@@ -4,6 +4,7 @@
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"

@@ -4,6 +4,7 @@
 #include "core/file_commit.h"
 #include "core/plays.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "selection/draw_dates.h"
 #include "selection/marked_play.h"
 #include "selection/obstacles.h"

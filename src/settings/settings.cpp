@@ -2,10 +2,10 @@
 #include "settings/settings.h"
 
 #include "core/data_folder.h"
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/os.h"
 #include "core/text.h"
+#include "core/work_files.h"
 
 #include <algorithm>
 #include <array>

@@ -8,6 +8,7 @@
 #include "core/file_names.h"
 #include "core/games.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "exports/import_report.h"
 #include "exports/made_up.h"
 #include "exports/merge.h"

@@ -11,6 +11,7 @@
 #include "core/sequential_reader.h"
 #include "core/text.h"
 #include "core/winnings.h"
+#include "core/work_files.h"
 
 #include <algorithm>
 #include <optional>

@@ -6,9 +6,11 @@
 #include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/games.h"
+#include "core/journal.h"
 #include "core/plays.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/work_files.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

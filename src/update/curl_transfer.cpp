@@ -3,9 +3,9 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "update/curl_errors.h"
 #include "update/curl_runner.h"
 #include "update/folder_transfer.h"

@@ -7,6 +7,7 @@
 #include "core/file_names.h"
 #include "core/games.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "exports/made_up.h"
 #include "update/transfer_errors.h"
 

@@ -3,10 +3,10 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "exports/csv_reader.h"
 #include "exports/folder_merge.h"
 #include "exports/made_up.h"

@@ -3,8 +3,9 @@
 #include "backup/backup.h"
 
 #include "core/clock.h"
-#include "core/file_commit.h"
+#include "core/journal.h"
 #include "core/restored_folder.h"
+#include "core/work_files.h"
 #include "support/host.h"
 #include "support/record_book.h"
 

@@ -2,9 +2,9 @@
 // Every way of writing a path leads to one real file, and errors carry the runtime's numbers.
 #include "core/data_folder.h"
 
-#include "core/file_commit.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "core/work_files.h"
 #include "support/raised.h"
 #include "support/scratch_folder.h"
 

@@ -4,8 +4,10 @@
 
 #include "core/clock.h"
 #include "core/dated_copies.h"
+#include "core/journal.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/work_files.h"
 #include "support/raised.h"
 #include "support/scratch_folder.h"
 

@@ -3,7 +3,7 @@
 // kills it. A runtime error is reported by its number on standard output and exit code 1. Announced, a line
 // goes before the action.
 #include "backup/backup.h"
-#include "core/file_commit.h"
+#include "core/journal.h"
 #include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "exports/typed_draws.h"

@@ -3,7 +3,6 @@
 #include "update/incoming_files.h"
 
 #include "core/clock.h"
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/runtime_error.h"
 #include "support/raised.h"

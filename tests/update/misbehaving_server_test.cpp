@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a server does wrong, the error says what happened and the folder stays as it was, to the byte.
+#include "core/work_files.h"
 #include "transfer_test.h"
 
 #include <algorithm>

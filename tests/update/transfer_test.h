@@ -3,7 +3,6 @@
 #pragma once
 
 #include "core/clock.h"
-#include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "ftp_servers.h"

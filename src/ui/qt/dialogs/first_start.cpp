@@ -3,12 +3,12 @@
 
 #include "app/data_folder_choice.h"
 #include "core/data_folder.h"
-#include "core/file_commit.h"
 #include "core/file_names.h"
 #include "core/random.h"
 #include "core/restored_folder.h"
 #include "core/runtime_error.h"
 #include "core/surroundings.h"
+#include "core/work_files.h"
 #include "exports/made_up.h"
 #include "setup/new_folder.h"
 #include "ui/qt/dialogs/real_book.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/line_actions.h"
 
-#include "core/file_commit.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "core/words.h"
+#include "core/work_files.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
