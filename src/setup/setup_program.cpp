@@ -14,11 +14,11 @@
 #include "exports/typed_draws.h"
 #include "settings/settings.h"
 #include "setup/new_folder.h"
+#include "setup/options.h"
 #include "setup/publish.h"
 #include "setup/sample.h"
 #include "update/public_exports.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -35,128 +35,6 @@ namespace tallywick::setup {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The exports of one game; empty where there are none.
-struct ExportFiles {
-  std::string draws;
-  std::string amounts;
-};
-
-struct Options {
-  std::string folder;
-  std::array<ExportFiles, 2> exports;
-  bool forceDraws = false;
-  std::string now;
-  std::uint64_t seed = 1;
-  bool withoutPlays = false;
-  std::string tree;
-  std::string from;
-  bool backsUp = false;
-  std::string backup;
-  std::string restoredFrom;
-  bool fetches = false;
-  /// Addresses in the place of the settings'; empty for these.
-  std::string powerBallSource;
-  std::string megaMillionsSource;
-  /// Game, date, white balls and extra ball.
-  std::vector<std::string> addedDraw;
-  exports::TypedDraw typed;
-  bool replacesDraw = false;
-  /// Game and date.
-  std::vector<std::string> removedDraw;
-};
-
-void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
-  CLI::Option* draws =
-      app.add_option(name, files.draws, "Real draws, from a public export")->type_name("CSV");
-  app.add_option(name + "-amounts", files.amounts, "Their amounts: draw date, amount, mark count")
-      ->type_name("CSV")
-      ->needs(draws);
-}
-
-/// Raises a CLI::ValidationError for any other name.
-Game gameNamed(const std::string& option, const std::string& name) {
-  if (equalIgnoringCase(name, "powerball")) return Game::powerBall;
-  if (equalIgnoringCase(name, "mega-millions")) return Game::megaMillions;
-  throw CLI::ValidationError(option,
-                             join("\"", name, "\" is not a game; it must be powerball or mega-millions"));
-}
-
-/// What brings real draws into DIR, one of them at a time.
-void describeDraws(CLI::App& app, CLI::Option* folder, Options& options) {
-  CLI::Option* fetch =
-      app.add_flag("--fetch", options.fetches,
-                   "Fetch both games' draws from the public exports; DIR is made where there is none");
-  for (const auto& [name, address] : {std::pair("--source-powerball", &options.powerBallSource),
-                                      std::pair("--source-mega-millions", &options.megaMillionsSource)}) {
-    app.add_option(name, *address, "Its address instead of the settings'")
-        ->type_name("ADDRESS")
-        ->needs(fetch);
-  }
-  CLI::Option* add = app.add_option("--add-draw", options.addedDraw,
-                                    "Type in a draw, for example: powerball 11-18-2026 \"5 14 23 41 60\" 7");
-  add->type_name("GAME DATE NUMBERS EXTRA")->expected(4);
-  const auto addPart = [&](const char* name, std::string& text, const char* type, const char* what) {
-    app.add_option(name, text, what)->type_name(type)->needs(add);
-  };
-  addPart("--multiplier", options.typed.multiplier, "NUMBER", "The draw's multiplier");
-  addPart("--double-play", options.typed.doublePlay, "NUMBERS",
-          "Its Double Play: five white balls and the extra ball");
-  addPart("--amount", options.typed.amount, "AMOUNT", "Its amount, as it is to be shown");
-  addPart("--marks", options.typed.marks, "COUNT", "How many tickets won the amount");
-  app.add_flag("--replace", options.replacesDraw, "Replace numbers or an amount that DIR has for the draw")
-      ->needs(add);
-  CLI::Option* remove = app.add_option("--remove-draw", options.removedDraw,
-                                       "Remove a draw that was typed in and that no export has");
-  remove->type_name("GAME DATE")->expected(2);
-  for (CLI::Option* action : {fetch, add, remove}) {
-    action->needs(folder);
-    for (const char* other : {"--fetch", "--add-draw", "--remove-draw", "--powerball", "--mega-millions",
-                              "--force-draws", "--backup", "--restore"}) {
-      if (action->get_name() != other) action->excludes(app.get_option(other));
-    }
-  }
-}
-
-void describe(CLI::App& app, Options& options) {
-  app.set_version_flag("--version", "tallywick-setup " TALLYWICK_VERSION);
-  CLI::Option* folder = app.add_option("DIR", options.folder, "The data folder to make");
-  auto& [powerBallExports, megaMillionsExports] = options.exports;
-  addExports(app, "--powerball", powerBallExports);
-  addExports(app, "--mega-millions", megaMillionsExports);
-  app.add_flag("--force-draws", options.forceDraws,
-               "Replace all draws and amounts of a folder that has some; the plays stay");
-  app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
-  app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
-  app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
-      ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
-  CLI::Option* tree =
-      app.add_option("--publish", options.tree, "Write an update server's folder tree instead");
-  CLI::Option* from = app.add_option("--from", options.from, "The data folder whose draws are published");
-  tree->type_name("TREE")->needs(from)->excludes(folder);
-  from->type_name("DIR")->needs(tree);
-  CLI::Option* backup = app.add_option(
-      "--backup", options.backup,
-      "Write the record book in DIR to TO, a new zip or, where its name does not end in .zip, a "
-      "new folder; without TO to a dated zip beside DIR");
-  CLI::Option* restored =
-      app.add_option("--restore", options.restoredFrom,
-                     "Make DIR what a backup, a zip or a folder, contains; what DIR was stays beside it");
-  backup->type_name("[TO]")->expected(0, 1)->needs(folder);
-  restored->type_name("FROM")->needs(folder)->excludes(backup);
-  describeDraws(app, folder, options);
-  app.final_callback([folder, tree, from, backup, &options] {
-    options.backsUp = backup->count() > 0;
-    if (folder->empty() && tree->empty()) throw CLI::RequiredError("DIR or --publish");
-    for (const CLI::Option* option : {folder, tree, from}) {
-      if (option->count() > 0 && option->as<std::string>().empty()) {
-        throw CLI::ValidationError(option->get_name(), "the name is empty");
-      }
-    }
-    if (!options.addedDraw.empty()) gameNamed("--add-draw", options.addedDraw.front());
-    if (!options.removedDraw.empty()) gameNamed("--remove-draw", options.removedDraw.front());
-  });
-}
 
 /// The date and the time of the day to go by.
 struct Now {
@@ -350,12 +228,8 @@ bool fetch(const Options& options, const Outputs& outputs) {
 
 void addDraw(const Options& options, std::ostream& out) {
   requireGameFolders(options.folder);
-  exports::TypedDraw typed = options.typed;
-  const Game game = gameNamed("--add-draw", options.addedDraw[0]);
-  typed.date = options.addedDraw[1];
-  typed.numbers = options.addedDraw[2];
-  typed.extra = options.addedDraw[3];
-  const exports::CheckedDraw draw = exports::checkedDraw(game, typed, Now(options).today());
+  const Game game = *options.addsTo;
+  const exports::CheckedDraw draw = exports::checkedDraw(game, options.typed, Now(options).today());
   const auto known = options.replacesDraw ? exports::KnownDraw::isReplaced : exports::KnownDraw::stays;
   exports::MergeReport report;
   try {
@@ -372,9 +246,9 @@ void addDraw(const Options& options, std::ostream& out) {
 
 void removeDraw(const Options& options, std::ostream& out) {
   requireGameFolders(options.folder);
-  const Game game = gameNamed("--remove-draw", options.removedDraw[0]);
-  const std::optional<Day> day = parseDay(options.removedDraw[1]);
-  if (!day) throw std::runtime_error(join("\"", options.removedDraw[1], "\" is not a date (MM-DD-YYYY)"));
+  const Game game = *options.removesFrom;
+  const std::optional<Day> day = parseDay(options.removedDate);
+  if (!day) throw std::runtime_error(join("\"", options.removedDate, "\" is not a date (MM-DD-YYYY)"));
   exports::removeDraw(DataFolder(options.folder), game, *day);
   out << infoOf(game).name << ": the draw of " << displayDate(*day) << " was removed\n";
 }
@@ -390,9 +264,9 @@ bool runOptions(const Options& options, const Outputs& outputs) {
     restoreFolder(options, out);
   } else if (options.backsUp) {
     backUpFolder(options, out);
-  } else if (!options.addedDraw.empty()) {
+  } else if (options.addsTo) {
     addDraw(options, out);
-  } else if (!options.removedDraw.empty()) {
+  } else if (options.removesFrom) {
     removeDraw(options, out);
   } else {
     makeFolder(options, out);
@@ -404,12 +278,8 @@ bool runOptions(const Options& options, const Outputs& outputs) {
 
 int runSetup(int argc, const char* const* argv, const Outputs& outputs) {
   Options options;
-  CLI::App app("Makes a data folder for Tallywick, or an update server's folder tree.", "tallywick-setup");
-  describe(app, options);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error, outputs.out, outputs.errors) == 0 ? 0 : 2;
+  if (const std::optional<int> exitCode = readOptions(argc, argv, options, outputs.out, outputs.errors)) {
+    return *exitCode;
   }
   int exitCode = 1;
   try {

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the command line of tallywick-setup asks for.
+#pragma once
+
+#include "core/games.h"
+#include "exports/typed_draws.h"
+
+#include <array>
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace tallywick::setup {
+
+/// The exports of one game; empty where there are none.
+struct ExportFiles {
+  std::string draws;
+  std::string amounts;
+};
+
+struct Options {
+  std::string folder;
+  std::array<ExportFiles, 2> exports;
+  bool forceDraws = false;
+  /// "MM-DD-YYYY HH:MM:SS"; empty for the computer's date and time.
+  std::string now;
+  std::uint64_t seed = 1;
+  bool withoutPlays = false;
+  std::string tree;
+  std::string from;
+  bool backsUp = false;
+  /// Empty for a dated zip beside the folder.
+  std::string backup;
+  std::string restoredFrom;
+  bool fetches = false;
+  /// Addresses in the place of the settings'; empty for these.
+  std::string powerBallSource;
+  std::string megaMillionsSource;
+  /// The game that `typed` is added to; none where no draw is typed in.
+  std::optional<Game> addsTo;
+  exports::TypedDraw typed;
+  bool replacesDraw = false;
+  /// The game that the draw of `removedDate` is removed from.
+  std::optional<Game> removesFrom;
+  std::string removedDate;
+};
+
+/// An exit code where the command line says all already: after --help and --version, or where it cannot be
+/// understood.
+std::optional<int> readOptions(int argc, const char* const* argv, Options& options, std::ostream& out,
+                               std::ostream& errors);
+
+}  // namespace tallywick::setup
