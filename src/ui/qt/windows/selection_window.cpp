@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/selection_window.h"
 
-#include "core/runtime_error.h"
 #include "core/text.h"
 #include "core/words.h"
-#include "display/judging.h"
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
@@ -16,13 +14,13 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/layout_memory.h"
+#include "ui/qt/windows/selection_questions.h"
 #include "ui/qt/windows/slip.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -65,30 +63,6 @@ Wording orElse(const QString& captionless) {
   return [captionless](std::string_view caption) {
     return caption.empty() ? captionless : literally()(caption);
   };
-}
-
-/// "one play that waits for its draw, 2 plays that are drawn already".
-QString sortsOf(const GoingPlays& going, const GameInfo& game, const DataFolder& folder) {
-  std::size_t waiting = 0;
-  std::size_t drawn = 0;
-  try {
-    for (const JudgedPlay& play : judgePlays(game, folder, {}, going.records).plays) {
-      if (play.state == DrawState::waiting) ++waiting;
-      if (play.state == DrawState::drawn) ++drawn;
-    }
-  } catch (const RuntimeError&) {
-    // Without a history of draws no play is known to be drawn or to wait.
-  }
-  QStringList sorts;
-  const auto add = [&](std::size_t plays, const QString& one, const QString& several) {
-    if (plays > 0) sorts += plays == 1 ? one : several.arg(plays);
-  };
-  add(waiting, u"one play that waits for its draw"_s, u"%1 plays that wait for their draws"_s);
-  add(drawn, u"one play that is drawn already"_s, u"%1 plays that are drawn already"_s);
-  add(going.plays - waiting - drawn, u"one play whose draw is not known"_s,
-      u"%1 plays whose draws are not known"_s);
-  if (going.isTorn) sorts += u"a torn record"_s;
-  return sorts.join(u", "_s);
 }
 
 }  // namespace
@@ -331,7 +305,7 @@ void SelectionWindow::surroundActions() {
     note(toQString(countLostHint(selection_, before)));
   };
   selection_.Command5.onClick = [this, done = selection_.Command5.onClick] {
-    if (!mayCommit()) return;
+    if (!confirmDone(selection_, this)) return;
     done();
     if (!selection_.Command5.enabled()) afterDone();
   };
@@ -411,55 +385,7 @@ void SelectionWindow::showState() {
 }
 
 bool SelectionWindow::mayClose() {
-  if (binding().isReleased() || !hasPlaysToLose(selection_)) return true;
-  const std::size_t plays = selection_.Combo1.items().size();
-  QMessageBox box(QMessageBox::Question, toQString(programTitle),
-                  plays == 1 ? u"One selected play is not saved yet."_s
-                             : u"%1 selected plays are not saved yet."_s.arg(plays),
-                  QMessageBox::NoButton, this);
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(u"Only plays that Done has saved are kept for their draws."_s);
-  auto* drop = box.addButton(plays == 1 ? u"&Drop It"_s : u"&Drop Them"_s, QMessageBox::DestructiveRole);
-  auto* back = box.addButton(u"&Back to the Plays"_s, QMessageBox::RejectRole);
-  box.setDefaultButton(back);
-  box.setEscapeButton(back);
-  box.exec();
-  return box.clickedButton() == drop;
-}
-
-bool SelectionWindow::mayCommit() {
-  return finishEarlierChange(selection_) && mayCommitTheFile() && mayReplace();
-}
-
-bool SelectionWindow::mayCommitTheFile() {
-  if (showsCurrentPlays(selection_)) return true;
-  const MessageBox question = {
-      "The file of the current plays is not what this window shows: another program has changed it.\r\n"
-      "Done commits what the file contains now. Go on?",
-      std::string(programTitle), MessageBox::Icon::question, MessageBox::Buttons::yesNo};
-  return selection_.surroundings.boxes.show(question) == MessageBox::Answer::yes;
-}
-
-bool SelectionWindow::mayReplace() {
-  selection_.earlierPlays = EarlierPlays::replaced;
-  const GoingPlays going = playsThatWouldGo(selection_);
-  if (going.plays == 0 && !going.isTorn) return true;
-  QMessageBox box(QMessageBox::Question, toQString(programTitle),
-                  u"Not among the plays selected here: %1."_s.arg(
-                      sortsOf(going, selection_.game, selection_.surroundings.folder)),
-                  QMessageBox::NoButton, this);
-  box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(
-      u"Replace takes them off the list of next plays; a dated copy of their file stays in the "
-      u"record book. Keep Both puts %1 behind the new plays."_s.arg(
-          going.isTorn ? u"all but the torn record, which stays in such a copy,"_s : u"them"_s));
-  auto* replace = box.addButton(u"&Replace"_s, QMessageBox::DestructiveRole);
-  auto* keep = box.addButton(u"&Keep Both"_s, QMessageBox::AcceptRole);
-  box.setEscapeButton(box.addButton(QMessageBox::Cancel));
-  box.setDefaultButton(keep);
-  box.exec();
-  if (box.clickedButton() == keep) selection_.earlierPlays = EarlierPlays::kept;
-  return box.clickedButton() == keep || box.clickedButton() == replace;
+  return binding().isReleased() || confirmDroppingPlays(selection_, this);
 }
 
 QString SelectionWindow::helpPage() const {

@@ -46,12 +46,6 @@ class SelectionWindow : public FormWindow {
   void addStatus();
   /// Lets a double click, and the Enter key, mark the play of a line.
   void markFrom(LineList& list, const TextLines& items);
-  /// Asks what a Done would do beyond what the window shows. False where the player wants none of it.
-  bool mayCommit();
-  /// Asks where the file of the current plays is not what the window shows.
-  bool mayCommitTheFile();
-  /// Asks where committed plays would go: Replace, Keep Both, Cancel.
-  bool mayReplace();
   /// Lets the actions ask before and say afterwards what they did.
   void surroundActions();
   void afterDone();
