@@ -30,7 +30,7 @@ bool isBelow(const fs::path& folder, const fs::path& file) {
 }
 
 /// The working folder as it is written where this platform has it, else the data folder.
-fs::path standingFolder(std::string_view written, const DataFolder& folder) {
+fs::path existingFolder(std::string_view written, const DataFolder& folder) {
   std::error_code ignored;
   const fs::path path = pathOf(written);
   return fs::is_directory(path, ignored) ? path : folder.root();
@@ -40,7 +40,7 @@ fs::path standingFolder(std::string_view written, const DataFolder& folder) {
 
 StartedProgram startedProgram(const DataFolder& folder, std::string_view program,
                               std::string_view workingFolder) {
-  const fs::path startsIn = standingFolder(workingFolder, folder);
+  const fs::path startsIn = existingFolder(workingFolder, folder);
   const std::size_t name = program.find_last_of("\\/") + 1;
   if (equalIgnoringCase(program.substr(name), sortToolFile)) {
     return {ownSortTool(), folder.resolve(program.substr(0, name)), startsIn};

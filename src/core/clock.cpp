@@ -50,12 +50,11 @@ std::string SystemClock::time() const {
   return now("%H:%M:%S");
 }
 
-StandingClock::StandingClock(std::string date, std::string time)
-    : date_(std::move(date)), time_(std::move(time)) {}
+FixedClock::FixedClock(std::string date, std::string time) : date_(std::move(date)), time_(std::move(time)) {}
 
 bool SettableClock::set(std::string_view text) {
   if (!hasForm(text, "00-00-0000 00:00:00") || !isTime(text)) return false;
-  standing_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
+  fixed_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
   return true;
 }
 

@@ -25,9 +25,9 @@ class SystemClock : public Clock {
 };
 
 /// A clock that always shows the time it is given.
-class StandingClock : public Clock {
+class FixedClock : public Clock {
  public:
-  StandingClock(std::string date, std::string time);
+  FixedClock(std::string date, std::string time);
   std::string date() const override { return date_; }
   std::string time() const override { return time_; }
 
@@ -39,14 +39,14 @@ class StandingClock : public Clock {
 /// The computer's clock until it is set; then it does not move.
 class SettableClock : public Clock {
  public:
-  std::string date() const override { return standing_ ? standing_->date() : system_.date(); }
-  std::string time() const override { return standing_ ? standing_->time() : system_.time(); }
+  std::string date() const override { return fixed_ ? fixed_->date() : system_.date(); }
+  std::string time() const override { return fixed_ ? fixed_->time() : system_.time(); }
   /// Takes "MM-DD-YYYY HH:MM:SS". False, with nothing changed, where the text is no such time.
   bool set(std::string_view text);
 
  private:
   SystemClock system_;
-  std::optional<StandingClock> standing_;
+  std::optional<FixedClock> fixed_;
 };
 
 }  // namespace tallywick

@@ -66,7 +66,7 @@ void FileCommit::commit() {
     entry.replaces = fingerprintOf(file);
   }
   try {
-    // The journal may name only what a cut of the power leaves standing.
+    // The journal may name only what a cut of the power leaves there.
     os::syncFolder(folder_);
     replaceFile(folder_ / journalName, journalText(entries));
     takeOver(folder_, entries);

@@ -93,8 +93,8 @@ RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path&
   ErrorNumber number = ErrorNumber::deviceIoError;
   if (is(std::errc::no_such_file_or_directory)) {
     std::error_code ignored;
-    const bool folderStands = std::filesystem::is_directory(file.parent_path(), ignored);
-    number = folderStands ? ErrorNumber::fileNotFound : ErrorNumber::pathNotFound;
+    const bool folderExists = std::filesystem::is_directory(file.parent_path(), ignored);
+    number = folderExists ? ErrorNumber::fileNotFound : ErrorNumber::pathNotFound;
   } else if (is(std::errc::not_a_directory)) {
     number = ErrorNumber::pathNotFound;
   } else if (is(std::errc::permission_denied) || is(std::errc::operation_not_permitted) ||

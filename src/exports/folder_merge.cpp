@@ -53,10 +53,10 @@ FolderMerge::FolderMerge(const DataFolder& folder, Game game, const Merging& mer
 }
 
 void FolderMerge::plan(const Merging& merge) {
-  standing_ = isMadeUp(folder_, game_) ? Standing::madeUp : Standing::real;
+  origin_ = isMadeUp(folder_, game_) ? DrawOrigin::madeUp : DrawOrigin::real;
   const GameFiles files = readGameFiles(infoOf(game_), local_);
   isNewGame_ = files.draws.empty() && files.searchDraws.empty();
-  merge_ = merge(files, standing_);
+  merge_ = merge(files, origin_);
   merge_.report.changesFiles = !merge_.files.empty() || removesMark();
 }
 

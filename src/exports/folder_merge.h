@@ -17,7 +17,7 @@ namespace tallywick::exports {
 /// might be at work meanwhile it asks `merge` again under the lock.
 class FolderMerge {
  public:
-  using Merging = std::function<Merge(const GameFiles& files, Standing standing)>;
+  using Merging = std::function<Merge(const GameFiles& files, DrawOrigin origin)>;
 
   /// Raises what `merge` raises, LockedByAnother where another program is at work in the folder, and error 75
   /// where the game's folder is a link or no folder. A missing folder is made.
@@ -31,13 +31,13 @@ class FolderMerge {
 
  private:
   void plan(const Merging& merge);
-  bool removesMark() const { return standing_ == Standing::madeUp && merge_.report.draws > 0; }
+  bool removesMark() const { return origin_ == DrawOrigin::madeUp && merge_.report.draws > 0; }
 
   DataFolder folder_;
   Game game_;
   std::filesystem::path local_;
   std::optional<FileCommit> change_;
-  Standing standing_ = Standing::real;
+  DrawOrigin origin_ = DrawOrigin::real;
   bool isNewGame_ = false;
   Merge merge_;
 };

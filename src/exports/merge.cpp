@@ -202,8 +202,8 @@ std::size_t countDays(const RecordList& list) {
 }  // namespace
 
 Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vector<AmountEntry>& amounts,
-                const GameFiles& files, Standing standing) {
-  const GameFiles base = standing == Standing::real ? files : GameFiles{};
+                const GameFiles& files, DrawOrigin origin) {
+  const GameFiles base = origin == DrawOrigin::real ? files : GameFiles{};
   DrawsByDay byDay;
   for (const DrawEntry& draw : draws) byDay.emplace(draw.day, &draw);
   Merge merge;
@@ -237,7 +237,7 @@ Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vecto
 }
 
 Merge mergeExport(Game game, const ExportedDraws& draws, const ExportedAmounts& amounts,
-                  const GameFiles& files, Standing standing) {
+                  const GameFiles& files, DrawOrigin origin) {
   const std::string count = std::to_string(draws.draws.size());
   if (draws.draws.empty()) throw std::runtime_error("there is no draw in it");
   if (draws.draws.size() < fewestDraws) {
@@ -245,7 +245,7 @@ Merge mergeExport(Game game, const ExportedDraws& draws, const ExportedAmounts& 
         join("it has ", count, " draws; at least ", std::to_string(fewestDraws), " are needed"));
   }
   Day newest = draws.draws.front().day;
-  if (standing == Standing::real) {
+  if (origin == DrawOrigin::real) {
     const RecordList main(files.draws, drawFields);
     const std::size_t present = countDays(main);
     if (draws.draws.size() * 2 < present) {
@@ -259,7 +259,7 @@ Merge mergeExport(Game game, const ExportedDraws& draws, const ExportedAmounts& 
     throw std::runtime_error(
         join("the newest draw, in line ", std::to_string(row.line), ", cannot be used: ", row.reason));
   }
-  Merge merge = mergeInto(game, draws.draws, amounts.amounts, files, standing);
+  Merge merge = mergeInto(game, draws.draws, amounts.amounts, files, origin);
   merge.report.refused = draws.refused;
   merge.report.refusedAmounts = amounts.refused;
   merge.report.notices = draws.notices;

@@ -37,7 +37,7 @@ struct Merge {
 };
 
 /// Whether the draws and amounts of a folder are real.
-enum class Standing { real, madeUp };
+enum class DrawOrigin { real, madeUp };
 
 /// Merges draws and amounts, both in any order, into the files by date. A draw replaces numbers and
 /// multiplier of its day in all histories, and Double Play numbers where it has them; every other draw and
@@ -47,11 +47,11 @@ enum class Standing { real, madeUp };
 /// newest ones are added with blank Double Play numbers, because the displays need them. None of the draws
 /// counts as typed in any more. Made-up files are replaced as a whole.
 Merge mergeInto(Game game, const std::vector<DrawEntry>& draws, const std::vector<AmountEntry>& amounts,
-                const GameFiles& files, Standing standing = Standing::real);
+                const GameFiles& files, DrawOrigin origin = DrawOrigin::real);
 
 /// The same for a whole export. std::runtime_error where it has fewer than 101 draws, or fewer than half of
 /// those in the files, or where a row newer than every draw is refused.
 Merge mergeExport(Game game, const ExportedDraws& draws, const ExportedAmounts& amounts,
-                  const GameFiles& files, Standing standing);
+                  const GameFiles& files, DrawOrigin origin);
 
 }  // namespace tallywick::exports

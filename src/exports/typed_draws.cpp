@@ -161,8 +161,8 @@ void removeDay(std::string& text, std::size_t fields, Day day) {
 /// Writes `merge` of the files of a game with real draws.
 MergeReport write(const DataFolder& folder, Game game,
                   const std::function<Merge(const GameFiles& files)>& merge) {
-  FolderMerge change(folder, game, [&](const GameFiles& files, Standing standing) {
-    if (standing == Standing::madeUp) {
+  FolderMerge change(folder, game, [&](const GameFiles& files, DrawOrigin origin) {
+    if (origin == DrawOrigin::madeUp) {
       fail("the draws of ", infoOf(game).name, " are made up; fetch or import the real ones first");
     }
     return merge(files);

@@ -12,12 +12,12 @@ std::optional<SequentialReader> openHistory(const DataFolder& folder, std::strin
   try {
     return std::make_optional<SequentialReader>(folder, written, SequentialReader::Reading::inPieces);
   } catch (const RuntimeError& error) {
-    tellUnreadable(written, error, boxes);
+    reportUnreadable(written, error, boxes);
     return std::nullopt;
   }
 }
 
-void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes) {
+void reportUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes) {
   showMessage(boxes,
               join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
               MessageBox::Icon::exclamation);

@@ -19,7 +19,7 @@ std::optional<SequentialReader> openHistory(const DataFolder& folder, std::strin
                                             MessageBoxes& boxes);
 
 /// Shows the message that names a history file that cannot be read.
-void tellUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes);
+void reportUnreadable(std::string_view written, const RuntimeError& error, MessageBoxes& boxes);
 
 /// Runs `read` on an open history. False where the disk fails it meanwhile; the player has been shown a
 /// message then. A file that ends inside a record is raised.
@@ -30,15 +30,15 @@ bool readToEnd(std::string_view written, MessageBoxes& boxes, Read read) {
     return true;
   } catch (const RuntimeError& error) {
     if (error.is(ErrorNumber::inputPastEnd)) throw;
-    tellUnreadable(written, error, boxes);
+    reportUnreadable(written, error, boxes);
     return false;
   }
 }
 
 /// Whether one of the `count` fields from `first` on, which counts from 0, is `number`.
 template <std::size_t Count>
-bool holdsNumber(const RecordView<Count>& record, std::size_t first, std::size_t count,
-                 std::string_view number) {
+bool containsNumber(const RecordView<Count>& record, std::size_t first, std::size_t count,
+                    std::string_view number) {
   bool found = false;
   // All of them are looked at: leaving at the first hit costs more than it saves.
   for (std::size_t i = first; i < first + count; ++i) found |= sameText(record[i], number);

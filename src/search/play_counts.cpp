@@ -81,7 +81,7 @@ class Count {
   void take(const RecordView<Fields>& record, std::size_t first,
             Draw (*drawOf)(const tallywick::Fields<Fields>&)) {
     const bool isExtra = sameText(record[first + 5], number_);
-    if (isExtra || holdsNumber(record, first, 5, number_)) list(drawOf(record.fields()), isExtra);
+    if (isExtra || containsNumber(record, first, 5, number_)) list(drawOf(record.fields()), isExtra);
   }
 
   std::size_t times() const { return times_; }

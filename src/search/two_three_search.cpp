@@ -94,10 +94,10 @@ std::vector<std::string> searchedNumbers(const Combination& combination, const B
   return searched;
 }
 
-bool holdsAll(const RecordView<drawFields>& record, std::size_t compared,
-              const std::vector<std::string>& searched) {
+bool containsAll(const RecordView<drawFields>& record, std::size_t compared,
+                 const std::vector<std::string>& searched) {
   return std::all_of(searched.begin(), searched.end(),
-                     [&](std::string_view number) { return holdsNumber(record, 3, compared, number); });
+                     [&](std::string_view number) { return containsNumber(record, 3, compared, number); });
 }
 
 void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
@@ -151,7 +151,7 @@ void addMatches(Results& results, SequentialReader& history, const Member& membe
                 const Combination& combination, const std::vector<std::string>& searched) {
   try {
     forEachRecordView<drawFields>(history, [&](const RecordView<drawFields>& record) {
-      if (holdsAll(record, combination.compared, searched)) results.add(record.fields());
+      if (containsAll(record, combination.compared, searched)) results.add(record.fields());
     });
   } catch (const RuntimeError& error) {
     if (!member.mayEndInsideRecord || !error.is(ErrorNumber::inputPastEnd)) throw;

@@ -61,7 +61,7 @@ class FolderFiles {
 void stageDraws(FolderFiles& files, const FolderContents::Part& part) {
   const exports::GameFiles before = exports::readGameFiles(infoOf(part.game), files.folder());
   for (const exports::NewFile& file :
-       exports::mergeInto(part.game, part.book.draws, part.book.amounts, before, exports::Standing::madeUp)
+       exports::mergeInto(part.game, part.book.draws, part.book.amounts, before, exports::DrawOrigin::madeUp)
            .files) {
     if (file.isRemoval) continue;
     files.replace(file.name, file.contents);
@@ -176,7 +176,7 @@ bool removeIfEmpty(const fs::path& folder) {
 }
 
 void requireNoRecords(const fs::path& folder) {
-  if (!holdsRecords(folder)) return;
+  if (!containsRecords(folder)) return;
   throw std::runtime_error(textOf(folder) + " already contains draws or plays; nothing was changed");
 }
 
@@ -220,7 +220,7 @@ FolderContents sampleContents(Day last, std::uint64_t seed) {
   return contents;
 }
 
-bool holdsRecords(const fs::path& folder) {
+bool containsRecords(const fs::path& folder) {
   for (const GameInfo* game : {&powerBall, &megaMillions}) {
     std::error_code ignored;
     const fs::path files = DataFolder(folder).resolve(game->folder);
@@ -277,7 +277,7 @@ std::string makeFolderFromFiles(const DataFolder& folder, const Clock& clock, co
     const fs::path& file = part.game == Game::powerBall ? powerBallDraws : megaMillionsDraws;
     const exports::ExportedDraws draws = exports::readDrawsFile(part.game, file, today);
     try {
-      const exports::Merge merge = exports::mergeExport(part.game, draws, {}, {}, exports::Standing::real);
+      const exports::Merge merge = exports::mergeExport(part.game, draws, {}, {}, exports::DrawOrigin::real);
       report << infoOf(part.game).name << ":\n";
       exports::print(merge.report, part.game, report);
     } catch (const std::runtime_error& error) {

@@ -31,7 +31,7 @@ struct FolderContents {
 FolderContents sampleContents(Day last, std::uint64_t seed);
 
 /// Whether draws, amounts or plays of either game are in the folder, so that it is somebody's.
-bool holdsRecords(const std::filesystem::path& folder);
+bool containsRecords(const std::filesystem::path& folder);
 
 /// std::runtime_error where a file, a link or another spelling of the name is in the way of a game's folder,
 /// so that writing there would change what is not this data folder's.

@@ -58,9 +58,9 @@ struct ExportedGame {
     if (!files.amounts.empty()) amounts = exports::readAmountsFile(game, files.amounts, today);
   }
 
-  exports::Merge mergeInto(const exports::GameFiles& files, exports::Standing standing) const {
+  exports::Merge mergeInto(const exports::GameFiles& files, exports::DrawOrigin origin) const {
     try {
-      return exports::mergeExport(game, draws, amounts, files, standing);
+      return exports::mergeExport(game, draws, amounts, files, origin);
     } catch (const std::runtime_error& error) {
       throw std::runtime_error(join(name, ": ", error.what()));
     }
@@ -100,7 +100,7 @@ void makeNewFolder(const Options& options, const std::vector<ExportedGame>& expo
   std::vector<exports::MergeReport> reports;
   for (const ExportedGame& real : exported) {
     FolderContents::Part& part = contents.games[real.game == Game::powerBall ? 0 : 1];
-    reports.push_back(real.mergeInto({}, exports::Standing::real).report);
+    reports.push_back(real.mergeInto({}, exports::DrawOrigin::real).report);
     part.book.draws = real.draws.draws;
     part.book.amounts = real.amounts.amounts;
     part.madeUp = false;
@@ -120,8 +120,8 @@ void mergeExports(const Options& options, const std::vector<ExportedGame>& expor
   for (const ExportedGame& real : exported) {
     merges.push_back(std::make_unique<exports::FolderMerge>(
         DataFolder(options.folder), real.game,
-        [&](const exports::GameFiles& files, exports::Standing standing) {
-          return real.mergeInto(files, options.forceDraws ? exports::Standing::madeUp : standing);
+        [&](const exports::GameFiles& files, exports::DrawOrigin origin) {
+          return real.mergeInto(files, options.forceDraws ? exports::DrawOrigin::madeUp : origin);
         }));
     real.print(merges.back()->report(), out);
   }
@@ -131,7 +131,7 @@ void mergeExports(const Options& options, const std::vector<ExportedGame>& expor
 void makeFolder(const Options& options, std::ostream& out) {
   const std::vector<ExportedGame> exported = readExports(options, Now(options).today());
   requireGameFolders(options.folder);
-  if (!holdsRecords(options.folder)) return makeNewFolder(options, exported, out);
+  if (!containsRecords(options.folder)) return makeNewFolder(options, exported, out);
   if (!exported.empty()) return mergeExports(options, exported, out);
   if (!options.forceDraws) {
     throw std::runtime_error(options.folder +
@@ -196,11 +196,11 @@ bool fetch(const Options& options, const Outputs& outputs) {
   const DataFolder folder(options.folder);
   const Settings settings = fetchSettings(options);
   const Now now(options);
-  const StandingClock clock(now.date, now.time);
+  const FixedClock clock(now.date, now.time);
   std::optional<ProgressLine> line;
   if (outputs.isTerminal) line.emplace(outputs.errors);
   TransferWatch* const watch = line ? &*line : nullptr;
-  const bool isNew = !holdsRecords(options.folder);
+  const bool isNew = !containsRecords(options.folder);
   const std::vector<GameFetch> fetches =
       isNew ? makeFetchedFolder(folder, clock, settings, {}, watch)
             : fetchDraws(folder, clock, exportAddresses(settings), {}, watch);

@@ -63,8 +63,8 @@ class CurlTransfer : public TransferComponent {
   /// No longer than `most` bytes.
   std::string fetch(std::string_view serverFolder, const ListedFile& file, std::uint64_t most);
   fs::path localFolderOf(std::string_view written) const;
-  void tell(std::string_view status) const;
-  void tell(const TransferInfo& info) const;
+  void report(std::string_view status) const;
+  void report(const TransferInfo& info) const;
   std::string whereIs(std::string_view path) const {
     return printable(join("server ", session_.host, " ", path));
   }
@@ -126,7 +126,7 @@ void CurlTransfer::openSession() {
   if (inactivityLifetime_ > 0) {
     session_.times.answer = session_.times.stall = std::chrono::seconds(inactivityLifetime_);
   }
-  tell("Connecting to the update server");
+  report("Connecting to the update server");
   runner_.begin(session_.times);
   FtpOperation operation(session_, "");
   operation.goThereOnly();
@@ -144,13 +144,13 @@ void CurlTransfer::download(std::string_view serverFolder, std::string_view wild
   std::vector<IncomingFile> files;
   std::uint64_t room = settings_.limits.allSizes;
   for (const ListedFile& file : listed) {
-    tell(join("Receiving ", file.name));
+    report(join("Receiving ", file.name));
     files.push_back({file.name, fetch(serverFolder, file, std::min(room, settings_.limits.fileSize))});
     room -= files.back().contents.size();
   }
   runner_.look();
   inRuntimeTerms([&] { takeIn(files, folder_, local, clock_); });
-  tell("");
+  report("");
 }
 
 void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcard,
@@ -162,14 +162,14 @@ void CurlTransfer::upload(std::string_view localFolder, std::string_view wildcar
   runner_.progress().filesInAll = files.size();
   for (const fs::path& file : files) {
     const std::string name = nameOf(file);
-    tell(join("Sending ", name));
+    report(join("Sending ", name));
     const os::FileBytes bytes = os::readFile(file);
     const std::string path = join(serverFolder, name);
     FtpOperation operation(session_, path);
     operation.send(bytes.view());
     runOrRaise(operation, inQuotes(name), path, {name, 0, bytes.view().size()});
   }
-  tell("");
+  report("");
 }
 
 bool CurlTransfer::directoryExists(std::string_view serverFolder) {
@@ -218,7 +218,7 @@ CURLcode CurlTransfer::run(CurlOperation& operation, const TransferInfo& info) {
   const CURLcode result = runner_.run(operation, [&] {
     if (info.file.empty()) return;
     progress.bytes = bytesBefore + operation.bytesDone();
-    tell({info.file, operation.bytesDone(), info.bytesInAll});
+    report({info.file, operation.bytesDone(), info.bytesInAll});
   });
   if (!info.file.empty()) ++progress.files;
   return result;
@@ -251,7 +251,7 @@ Listing CurlTransfer::peopleListing(std::string_view serverFolder) {
 }
 
 std::vector<ListedFile> CurlTransfer::filesOf(std::string_view serverFolder, std::string_view wildcard) {
-  tell("Asking for the files");
+  report("Asking for the files");
   Listing files = machineListing(serverFolder);
   if (!files) files = peopleListing(serverFolder);
   if (!files) {
@@ -279,7 +279,7 @@ std::string CurlTransfer::fetch(std::string_view serverFolder, const ListedFile&
   operation.setLimit(most);
   operation.takeAllBytes();
   const TransferInfo info{file.name, 0, length.value_or(0)};
-  tell(info);
+  report(info);
   runOrRaise(operation, inQuotes(file.name), path, info);
   const std::uint64_t got = operation.received().size();
   if (got != length.value_or(got)) {
@@ -297,11 +297,11 @@ fs::path CurlTransfer::localFolderOf(std::string_view written) const {
   return local;
 }
 
-void CurlTransfer::tell(std::string_view status) const {
+void CurlTransfer::report(std::string_view status) const {
   if (listener_ != nullptr) listener_->status(status);
 }
 
-void CurlTransfer::tell(const TransferInfo& info) const {
+void CurlTransfer::report(const TransferInfo& info) const {
   if (listener_ != nullptr) listener_->transferInfo(info);
   if (windowWanted_ && window_ != nullptr) window_->show(info);
 }

@@ -143,7 +143,7 @@ class PublicExports : public TransferComponent {
   [[noreturn]] static void refuseToSend() {
     throw transferError(TransferFault::protocol, "nothing can be sent to the public exports");
   }
-  void tell(std::string_view status) const {
+  void report(std::string_view status) const {
     if (listener_ != nullptr) listener_->status(status);
   }
 
@@ -169,12 +169,12 @@ void PublicExports::download(std::string_view serverFolder, std::string_view /*w
   if (!fs::is_directory(local) || folder_.resolve(localFolder) != local) {
     throw RuntimeError(ErrorNumber::pathNotFound, textOf(folder_.resolve(localFolder)));
   }
-  tell(join("Asking for the draws of ", game.name));
+  report(join("Asking for the draws of ", game.name));
   Onlookers onlookers(watch_, listener_, windowWanted_ ? window_ : nullptr, join("Draws of ", game.name));
   const FetchedExport fetched = get_(*asked, address_, settings_, onlookers);
   if (onlookers.cancelled()) throw TransferCancelled();
   takeInto(folder_, fetched);
-  tell("");
+  report("");
 }
 
 /// Made-up draws are replaced whatever the server says.
@@ -200,12 +200,12 @@ FetchedExport fetchExport(const DataFolder& folder, const Clock& clock, Game gam
 /// What a game's files become with the export, the note on its version among them; nothing changes where the
 /// document is unchanged. Raises an error that names the address where the export must not be taken.
 exports::Merge mergeOf(const FetchedExport& fetched, const exports::GameFiles& files,
-                       exports::Standing standing) {
+                       exports::DrawOrigin origin) {
   if (fetched.document.isUnchanged) return {};
   const GameInfo& game = infoOf(fetched.game);
   exports::Merge merge;
   try {
-    merge = exports::mergeExport(fetched.game, fetched.draws, {}, files, standing);
+    merge = exports::mergeExport(fetched.game, fetched.draws, {}, files, origin);
   } catch (const std::runtime_error& error) {
     throw transferError(TransferFault::exportContents,
                         join(inQuotes(fetched.address), " cannot be used: ", error.what()),
@@ -224,7 +224,7 @@ exports::Merge trialMerge(const DataFolder& folder, const FetchedExport& fetched
   const GameInfo& game = infoOf(fetched.game);
   return mergeOf(
       fetched, exports::readGameFiles(game, folder.resolve(game.folder)),
-      exports::isMadeUp(folder, fetched.game) ? exports::Standing::madeUp : exports::Standing::real);
+      exports::isMadeUp(folder, fetched.game) ? exports::DrawOrigin::madeUp : exports::DrawOrigin::real);
 }
 
 /// Adds what was fetched before to what one fetch reports, so that several are seen as one transfer.
@@ -289,8 +289,8 @@ exports::ExportedDraws drawsIn(const FetchedDocument& document, const std::strin
 exports::MergeReport takeInto(const DataFolder& folder, const FetchedExport& fetched) {
   if (fetched.document.isUnchanged) return {};
   exports::FolderMerge change(folder, fetched.game,
-                              [&](const exports::GameFiles& files, exports::Standing standing) {
-                                return mergeOf(fetched, files, standing);
+                              [&](const exports::GameFiles& files, exports::DrawOrigin origin) {
+                                return mergeOf(fetched, files, origin);
                               });
   change.commit();
   return change.report();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the transfer classes need: an FTP client, or what stands in for one.
+// What the transfer classes need: an FTP client, or what takes its place.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@ namespace tallywick {
 struct TransferInfo {
   std::string file;
   std::uint64_t bytesDone = 0;
-  /// 0 where the server does not tell.
+  /// 0 where the server does not report it.
   std::uint64_t bytesInAll = 0;
 };
 
@@ -63,7 +63,7 @@ class TransferCancelled : public std::exception {
   const char* what() const noexcept override { return "The transfer was cancelled"; }
 };
 
-/// Set up, open the session, then copy whole folders. Failures are RuntimeErrors that tell
+/// Set up, open the session, then copy whole folders. Failures are RuntimeErrors that say
 /// what happened and never contain the login or the password.
 class TransferComponent {
  public:

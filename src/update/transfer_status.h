@@ -9,7 +9,7 @@
 
 namespace tallywick {
 
-/// "QZRNUM6.Dat: 12,345 of 81,000 bytes"; where the server does not tell the length, without it.
+/// "QZRNUM6.Dat: 12,345 of 81,000 bytes"; where the server does not report the length, without it.
 std::string transferText(const TransferInfo& info);
 
 /// Writes into the bar's first panel.

@@ -11,7 +11,7 @@ namespace tallywick {
 /// SourceFolder is the local one, TargetFolder the server's.
 class Upload : public FolderTransfer, private TransferListener {
  public:
-  /// `listener` hears of what the component's events tell.
+  /// `listener` receives what the component's events say.
   explicit Upload(const TransferFactory& newTransfer, TransferListener* listener = nullptr);
 
   /// After so many idle seconds the component gives up; 0 leaves it to the component.

@@ -49,7 +49,7 @@ class Backup : public testing::Test {
   }
 
   test::ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "18:15:00"};
+  FixedClock clock{"11-21-2026", "18:15:00"};
   fs::path holder = fs::path(scratch.root()) += "-holder";
   fs::path book = holder / "book";
   fs::path zip = holder / "book 2026-11-21 181500.zip";

@@ -230,7 +230,7 @@ TEST_F(FileCommits, AChangeThatCannotBeCarriedOutIsSetAsideAsAWhole) {
 }
 
 TEST_F(FileCommits, OfDatedCopiesTheTwentyNewestStay) {
-  const StandingClock clock("11-21-2026", "18:15:00");
+  const FixedClock clock("11-21-2026", "18:15:00");
   put("qzr6pwr1.PLY", "mine");
   for (const char* other :
        {"QZR6PWR1 2026-11-21.Ply", "QZR6PWR1 2026-11-21 181500 01.Ply", "QZR6PWR1 2026-11-21 181500.Sav",

@@ -55,7 +55,7 @@ void print(const Form& form, std::string_view unlisted = {}) {
 void printAll() {
   const test::ScratchFolder scratch;
   test::FakePlatform platform;
-  const StandingClock clock{"12-28-2026", "12:00:00"};
+  const FixedClock clock{"12-28-2026", "12:00:00"};
   MixingGenerator random{1};
   Application application{{scratch.folder(), {}, clock, random, platform, {}}};
   application.showMainWindow();

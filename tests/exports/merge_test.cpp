@@ -134,9 +134,10 @@ TEST(MergedAmounts, KeepWhatIsKnownAndShowNoOtherDrawsAmount) {
 TEST(MergedExport, FailsWhereItWouldLoseSomething) {
   GameFiles files;
   files.draws = fileOf(mergeInto(Game::powerBall, exportOf(300).draws, {}, {}), drawsFile, {});
-  const auto failure = [&](const ExportedDraws& exported, Standing standing = Standing::real) -> std::string {
+  const auto failure = [&](const ExportedDraws& exported,
+                           DrawOrigin origin = DrawOrigin::real) -> std::string {
     try {
-      mergeExport(Game::powerBall, exported, {}, files, standing);
+      mergeExport(Game::powerBall, exported, {}, files, origin);
       return "";
     } catch (const std::runtime_error& error) {
       return error.what();
@@ -145,7 +146,7 @@ TEST(MergedExport, FailsWhereItWouldLoseSomething) {
   EXPECT_EQ(failure({}), "there is no draw in it");
   EXPECT_EQ(failure(exportOf(100)), "it has 100 draws; at least 101 are needed");
   EXPECT_EQ(failure(exportOf(149)), "it has 149 draws, fewer than half of the 300 that are known already");
-  EXPECT_EQ(failure(exportOf(149), Standing::madeUp), "");
+  EXPECT_EQ(failure(exportOf(149), DrawOrigin::madeUp), "");
   EXPECT_EQ(failure(exportOf(150)), "");
   ExportedDraws refused = exportOf(200);
   refused.refused.newestDay = newer;
@@ -160,8 +161,8 @@ class MergeOfAFolder : public testing::Test {
   MergeOfAFolder() { test::writeRecordBook(scratch); }
 
   void merge(std::size_t count) {
-    FolderMerge change(scratch.folder(), Game::powerBall, [&](const GameFiles& files, Standing standing) {
-      return mergeExport(Game::powerBall, exportOf(count), {}, files, standing);
+    FolderMerge change(scratch.folder(), Game::powerBall, [&](const GameFiles& files, DrawOrigin origin) {
+      return mergeExport(Game::powerBall, exportOf(count), {}, files, origin);
     });
     change.commit();
   }

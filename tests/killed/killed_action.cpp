@@ -76,14 +76,14 @@ void mendRestore(const std::filesystem::path& book) {
 
 /// The next day's backup, without the one before.
 void backUpNext(const std::filesystem::path& book) {
-  const StandingClock clock("11-22-2026", "12:00:00");
+  const FixedClock clock("11-22-2026", "12:00:00");
   std::filesystem::remove(beside(book, " 2026-11-21 120000.zip"));
   std::filesystem::remove(datedBackup(book, clock));
   backUp(book, datedBackup(book, clock));
 }
 
 void run(const DataFolder& folder, std::string_view action) {
-  const StandingClock clock("11-21-2026", "12:00:00");
+  const FixedClock clock("11-21-2026", "12:00:00");
   const std::filesystem::path game = folder.resolve(powerBall.folder);
   MixingGenerator random(1);
   test::RecordingBoxes boxes;

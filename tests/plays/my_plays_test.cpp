@@ -52,7 +52,7 @@ class MyPlays : public testing::Test {
   }
 
   test::ScratchFolder scratch;
-  StandingClock clock{"01-03-2026", "12:00:00"};
+  FixedClock clock{"01-03-2026", "12:00:00"};
   PlayJudge judge{scratch.folder()};
   PlayChanges changes{powerBall, scratch.folder(), clock};
 };
@@ -101,7 +101,7 @@ TEST_F(MyPlays, AreSeenAtAGlance) {
                          Row{"01-03-2026", "12:00:00", "today, Sat 01-03-2026|no plays (2 in all)"},
                          Row{"01-03-2026", "23:30:00", "Mon 01-05-2026|no plays (2 in all)", true},
                          Row{"01-07-2026", "12:00:00", "today, Wed 01-07-2026|1 play (2 in all)", true}}) {
-    const StandingClock now(row.date, row.time);
+    const FixedClock now(row.date, row.time);
     EXPECT_EQ(texts(&now), join("Fri 01-02-2026|", row.nextAndWaiting, wins)) << row.date << row.time;
     const std::string tip = glanceAt(powerBall, scratch.folder(), judge, &now).newest.tip;
     EXPECT_EQ(tip.find("Newer draws") != std::string::npos, row.isBehind) << tip;

@@ -93,7 +93,7 @@ class Desktop : public testing::Test {
 
   const Transfers transfers_;
   ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "12:00:00"};
+  FixedClock clock{"11-21-2026", "12:00:00"};
   MixingGenerator random{1};
   QtPlatform platform{scratch.folder()};
   TransferFactory newTransfer;

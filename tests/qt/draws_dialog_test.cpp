@@ -57,7 +57,7 @@ class Draws : public testing::Test {
   }
 
   ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "12:00:00"};
+  FixedClock clock{"11-21-2026", "12:00:00"};
   std::unique_ptr<DrawsDialog> dialog;
 };
 
@@ -110,7 +110,7 @@ TEST_F(Draws, ThatAreLongPastHaveASentenceOnTheirAge) {
                                                        {"11-01-2028", "23 months"},
                                                        {"12-01-2029", "3 years"}};
   for (const auto& [today, age] : cases) {
-    const std::string note = drawsAgeNote(powerBall, scratch.folder(), StandingClock(today, "12:00:00"));
+    const std::string note = drawsAgeNote(powerBall, scratch.folder(), FixedClock(today, "12:00:00"));
     EXPECT_EQ(note, *age == 0 ? "" : "The newest PowerBall draw is " + std::string(age) + " old.");
   }
 }

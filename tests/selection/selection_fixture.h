@@ -45,7 +45,7 @@ class Selection : public testing::Test {
   /// A window that has been opened at noon of Saturday, the 21st of November 2026, or at another time.
   SelectionForm& open(const GameInfo& game = powerBall, const std::string& date = "11-21-2026",
                       const std::string& time = "12:00:00") {
-    clock = StandingClock(date, time);
+    clock = FixedClock(date, time);
     form =
         std::make_unique<SelectionForm>(game, SelectionSurroundings{scratch.folder(), clock, random, boxes});
     form->load();
@@ -81,7 +81,7 @@ class Selection : public testing::Test {
   }
 
   ScratchFolder scratch;
-  StandingClock clock{"", ""};
+  FixedClock clock{"", ""};
   ScriptedRandom random;
   RecordingBoxes boxes;
   std::unique_ptr<SelectionForm> form;

@@ -46,7 +46,7 @@ class ApplicationTest {
 
   ScratchFolder scratch;
   FakePlatform platform;
-  StandingClock clock{"12-28-2026", "12:00:00"};
+  FixedClock clock{"12-28-2026", "12:00:00"};
   MixingGenerator random{1};
   Application application{
       {scratch.folder(), {"", Settings::Tls::off, "https://example.org/", ""}, clock, random, platform, {}}};

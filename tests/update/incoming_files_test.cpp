@@ -60,7 +60,7 @@ class Incoming : public testing::Test {
   }
 
   ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "18:15:00"};
+  FixedClock clock{"11-21-2026", "18:15:00"};
 };
 
 TEST_F(Incoming, TakeTheNamesOfTheOldOnes) {

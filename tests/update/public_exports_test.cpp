@@ -69,7 +69,7 @@ class Exports : public testing::Test {
 
   ScratchFolder web;
   ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "18:15:00"};
+  FixedClock clock{"11-21-2026", "18:15:00"};
   CountingWatch watch;
   FetchSettings settings;
   std::unique_ptr<ServerProcess> server;
@@ -122,7 +122,7 @@ TEST_F(Exports, AreFetchedAgainOnlyWhereSomethingIsNew) {
 TEST_F(Exports, ADrawThatIsLaterThanTodayFailsAndIsAskedForAgain) {
   put("pwr.csv", exported(Game::powerBall, 120, dayOf(2026, 11, 22)));
   EXPECT_THAT(errorOf("file/pwr.csv"), testing::HasSubstr("11-22-2026 is later than today"));
-  clock = StandingClock("11-22-2026", "18:15:00");
+  clock = FixedClock("11-22-2026", "18:15:00");
   get("file/pwr.csv");
   EXPECT_THAT(draws(), testing::StartsWith(R"("11","22","2026")"));
 }

@@ -112,7 +112,7 @@ class TransferTest : public testing::Test {
   std::string get(const std::string& name) { return scratch.read("QzrNumbers/QZR6PWR/" + name); }
 
   ScratchFolder scratch;
-  StandingClock clock{"11-21-2026", "18:15:00"};
+  FixedClock clock{"11-21-2026", "18:15:00"};
   CountingWatch watch;
   RecordingListener listener;
   RecordingWindow window;

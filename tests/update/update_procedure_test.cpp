@@ -76,7 +76,7 @@ class Update : public testing::Test, public MessageBoxes, public Screen, public 
   UpdatePage page{form};
   MenuEntry mnuPowerBall2{form, "mnuPowerBall2", "1"};
   MenuEntry mnuMegaMillions2{form, "mnuMegaMillions2", "2"};
-  StandingClock clock{"11-21-2026", "07:00:01"};
+  FixedClock clock{"11-21-2026", "07:00:01"};
   std::string server = "10.0.0.1";
   FakeTransfer::Log transfers;
   TransferFactory newTransfer =

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What `show` and `print` tell of a control, and `plays` of a play.
+// What `show` and `print` write about a control, and `plays` of a play.
 #pragma once
 
 #include "controls/controls.h"

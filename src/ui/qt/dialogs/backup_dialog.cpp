@@ -208,7 +208,7 @@ void restoreAndTell(const std::filesystem::path& source, const std::filesystem::
       box.setInformativeText(u"The earlier record book is in %1."_s.arg(pathText(restored.earlier)));
     box.exec();
   } catch (const std::exception& error) {
-    tell(u"The backup was not restored: %1"_s.arg(QString::fromUtf8(error.what())));
+    showWarning(u"The backup was not restored: %1"_s.arg(QString::fromUtf8(error.what())));
   }
 }
 

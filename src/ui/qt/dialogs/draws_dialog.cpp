@@ -246,8 +246,8 @@ void DrawsDialog::importDraws() {
   const Game which = game().game;
   const exports::ExportedDraws draws = exports::readDrawsFile(which, toPath(file), today());
   exports::FolderMerge merge(folder_, which,
-                             [&](const exports::GameFiles& files, exports::Standing standing) {
-                               return exports::mergeExport(which, draws, {}, files, standing);
+                             [&](const exports::GameFiles& files, exports::DrawOrigin origin) {
+                               return exports::mergeExport(which, draws, {}, files, origin);
                              });
   merge.commit();
   hasChanged_ = true;
@@ -263,8 +263,8 @@ void DrawsDialog::importAmounts() {
   if (file.isEmpty()) return;
   const exports::ExportedAmounts amounts = exports::readAmountsFile(which, toPath(file), today());
   exports::FolderMerge merge(folder_, which,
-                             [&](const exports::GameFiles& files, exports::Standing standing) {
-                               if (standing == exports::Standing::madeUp)
+                             [&](const exports::GameFiles& files, exports::DrawOrigin origin) {
+                               if (origin == exports::DrawOrigin::madeUp)
                                  throw std::runtime_error("these draws are made up");
                                exports::Merge made = exports::mergeInto(which, {}, amounts.amounts, files);
                                made.report.refusedAmounts = amounts.refused;

@@ -45,7 +45,7 @@ bool makeSample(const fs::path& folder) {
   }
   QGuiApplication::restoreOverrideCursor();
   if (!failure.isEmpty())
-    tell(u"The record book in %1 could not be made: %2"_s.arg(pathText(folder), failure));
+    showWarning(u"The record book in %1 could not be made: %2"_s.arg(pathText(folder), failure));
   return failure.isEmpty();
 }
 
@@ -54,7 +54,7 @@ std::optional<fs::path> askForFolder() {
   const QString chosen = QFileDialog::getExistingDirectory(nullptr, u"Open a Record Book"_s);
   if (chosen.isEmpty()) return std::nullopt;
   if (isDataFolder(toPath(chosen))) return toPath(chosen);
-  tell(u"%1 contains no record book: there is no folder QzrNumbers in it."_s.arg(chosen));
+  showWarning(u"%1 contains no record book: there is no folder QzrNumbers in it."_s.arg(chosen));
   return std::nullopt;
 }
 
@@ -63,7 +63,7 @@ bool makeFetched(const fs::path& folder) {
   try {
     return makeBookFromExports(folder, readSettings(DataFolder(folder)));
   } catch (const std::exception& error) {
-    tell(toQString(error.what()));
+    showWarning(toQString(error.what()));
     return false;
   }
 }
@@ -157,7 +157,7 @@ std::optional<fs::path> ownFolder(const std::string& named, const fs::path& chos
 
 }  // namespace
 
-void tell(const QString& text) {
+void showWarning(const QString& text) {
   QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.exec();
@@ -190,7 +190,8 @@ std::optional<FolderHold> holdDataFolder(const fs::path& folder) {
   try {
     return FolderHold{os::FileLock(folder / lockName, os::FileLock::Wait::no)};
   } catch (const LockedByAnother&) {
-    tell(u"The record book in %1 is already open in another window of this program."_s.arg(pathText(folder)));
+    showWarning(
+        u"The record book in %1 is already open in another window of this program."_s.arg(pathText(folder)));
     return std::nullopt;
   } catch (const RuntimeError&) {
     // A folder that cannot be written is safe from a second program.

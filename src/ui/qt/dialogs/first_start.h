@@ -14,7 +14,7 @@ namespace tallywick {
 enum class Offer { no, yes };
 
 /// Shows a warning with the program's title.
-void tell(const QString& text);
+void showWarning(const QString& text);
 
 /// The data folder to work on. Where the chosen one contains no record book the user is offered to make one
 /// there, with real or made-up draws, or to open another; nothing where none of it is done. Without the offer

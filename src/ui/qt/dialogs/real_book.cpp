@@ -88,7 +88,7 @@ bool makeBookFromFiles(const fs::path& folder, QWidget* parent) {
   }
   QGuiApplication::restoreOverrideCursor();
   if (!failure.isEmpty()) {
-    tell(u"No record book was made.\n\n"_s + failure);
+    showWarning(u"No record book was made.\n\n"_s + failure);
     return false;
   }
   QMessageBox box(QMessageBox::Information, toQString(programTitle),
@@ -103,9 +103,10 @@ std::optional<fs::path> startBookElsewhere(const Settings& settings, QWidget* pa
   const QString chosen = QFileDialog::getExistingDirectory(parent, u"A Folder for Your Record Book"_s);
   if (chosen.isEmpty()) return std::nullopt;
   const fs::path folder = toPath(chosen);
-  if (setup::holdsRecords(folder)) {
-    tell(u"%1 contains draws or plays already. Choose a folder of its own for the new record book."_s.arg(
-        chosen));
+  if (setup::containsRecords(folder)) {
+    showWarning(
+        u"%1 contains draws or plays already. Choose a folder of its own for the new record book."_s.arg(
+            chosen));
     return std::nullopt;
   }
   return makeBookFromExports(folder, settings, parent) ? std::optional(folder) : std::nullopt;

@@ -133,7 +133,7 @@ BallButton::BallButton(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  tellAccessibly();
+  updateAccessibleName();
 }
 
 void BallButton::setCaption(const QString& number) {
@@ -149,11 +149,11 @@ void BallButton::setColor(Color color) {
 }
 
 void BallButton::refresh() {
-  tellAccessibly();
+  updateAccessibleName();
   update();
 }
 
-void BallButton::tellAccessibly() {
+void BallButton::updateAccessibleName() {
   QString name = text().trimmed().isEmpty() ? tr("No number") : text();
   const int repeat = repeatOf(color_);
   if (mark_ == BallMark::main)

@@ -71,7 +71,7 @@ class BallButton : public QAbstractButton {
   void changeEvent(QEvent* event) override;
 
  private:
-  void tellAccessibly();
+  void updateAccessibleName();
   void refresh();
 
   Color color_ = colors::buttonFace;

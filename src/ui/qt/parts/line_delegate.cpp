@@ -62,7 +62,7 @@ bool hasBalls(LineField field) {
   return field == LineField::whites || field == LineField::extra || field == LineField::ball;
 }
 
-/// The balls of a cell; an extra ball's kind stands for every game's.
+/// The balls of a cell; an extra ball's kind is the same for every game.
 std::vector<LineBall> ballsOf(LineField field, std::span<const std::string> cells,
                               const LineHighlights& highlights, const std::vector<std::string>& found) {
   const auto contains = [](const std::vector<std::string>& texts, const std::string& number) {

@@ -207,7 +207,7 @@ int runProgram(int argumentCount, char** arguments) {
     return options.steps.empty() ? runOnFolderOf(options, qt) : runSteps(options, qt);
   } catch (const std::exception& error) {
     // Who started the program from the desktop sees no standard error.
-    if (!takesPicture(options)) tell(QString::fromUtf8(error.what()));
+    if (!takesPicture(options)) showWarning(QString::fromUtf8(error.what()));
     throw;
   }
 }

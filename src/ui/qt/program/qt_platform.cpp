@@ -100,9 +100,9 @@ void QtPlatform::attempt(const std::function<void()>& action) {
   try {
     action();
   } catch (const std::exception& error) {
-    tell(error.what());
+    reportFailure(error.what());
   } catch (...) {
-    tell(currentRuntimeError().what());
+    reportFailure(currentRuntimeError().what());
   }
 }
 
@@ -290,7 +290,7 @@ void QtPlatform::showError(const RuntimeError& error) {
 }
 
 /// Shows a message as far as that is still possible: what stopped an action may stop the box too.
-void QtPlatform::tell(const std::string& text) {
+void QtPlatform::reportFailure(const std::string& text) {
   try {
     showMessage(*this, text, MessageBox::Icon::exclamation);
   } catch (...) {

@@ -86,7 +86,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   void end(int exitCode);
   /// The box of a runtime error, with what is to be said below its text.
   void showError(const RuntimeError& error);
-  void tell(const std::string& text);
+  void reportFailure(const std::string& text);
 
   const DataFolder& folder_;
   PlayJudge judge_;
