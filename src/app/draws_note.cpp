@@ -18,6 +18,9 @@
 
 namespace tallywick {
 
+namespace {
+
+/// The date of the newest draw; none where there is no draw, or none that can be read.
 std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
   try {
     SequentialReader draws(folder, inFolder(game, drawsFile), SequentialReader::Reading::inPieces);
@@ -26,6 +29,8 @@ std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder)
     return std::nullopt;  // What is wrong with the file is reported where it is read for its draws.
   }
 }
+
+}  // namespace
 
 std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock) {
   constexpr int daysOfWeek = 7;

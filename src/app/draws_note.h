@@ -16,9 +16,6 @@ namespace tallywick {
 class Clock;
 class DataFolder;
 
-/// The date of the newest draw; none where there is no draw, or none that can be read.
-std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder);
-
 /// A sentence for the player: which draw is not published yet, or when the next one takes place.
 std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock);
 

@@ -30,8 +30,6 @@ constexpr Advice otherAdvices[] = {
     {ErrorNumber::diskFull, "Make room on the disk, then start the program again."},
     {ErrorNumber::permissionDenied,
      "Close other programs that use the file, and see whether you may change it and its folder."},
-    {ErrorNumber::fileAlreadyOpen,
-     "Close other programs that use the file, and see whether you may change it and its folder."},
     {ErrorNumber::pathFileAccess, "See whether the path is a file or folder that you may read and change."},
     {ErrorNumber::pathNotFound,
      "See whether the folder is there, for example on a drive that is not connected."},

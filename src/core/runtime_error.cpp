@@ -11,6 +11,31 @@ namespace tallywick {
 
 namespace {
 
+/// The runtime's text for a number, for example "File not found".
+std::string_view descriptionOf(ErrorNumber number) {
+  switch (number) {
+    case ErrorNumber::typeMismatch:
+      return "Type mismatch";
+    case ErrorNumber::internalError:
+      return "Internal error";
+    case ErrorNumber::deviceIoError:
+      return "Device I/O error";
+    case ErrorNumber::fileNotFound:
+      return "File not found";
+    case ErrorNumber::diskFull:
+      return "Disk full";
+    case ErrorNumber::inputPastEnd:
+      return "Input past end of file";
+    case ErrorNumber::permissionDenied:
+      return "Permission denied";
+    case ErrorNumber::pathFileAccess:
+      return "Path/File access error";
+    case ErrorNumber::pathNotFound:
+      return "Path not found";
+  }
+  return "Application-defined or object-defined error";
+}
+
 std::string inspection(std::string_view description, std::string_view where) {
   return where.empty() ? std::string(description) : join(description, ": ", where);
 }
@@ -42,32 +67,6 @@ std::string RuntimeError::boxText() const {
   std::string number = std::to_string(number_);
   std::string hex = number_ < 0 ? join(" (", hexadecimal(static_cast<std::uint32_t>(number_)), ")") : "";
   return join("Run-time error '", number, hex, "':\n\n", description_);
-}
-
-std::string_view descriptionOf(ErrorNumber number) {
-  switch (number) {
-    case ErrorNumber::typeMismatch:
-      return "Type mismatch";
-    case ErrorNumber::internalError:
-      return "Internal error";
-    case ErrorNumber::deviceIoError:
-      return "Device I/O error";
-    case ErrorNumber::fileNotFound:
-      return "File not found";
-    case ErrorNumber::fileAlreadyOpen:
-      return "File already open";
-    case ErrorNumber::diskFull:
-      return "Disk full";
-    case ErrorNumber::inputPastEnd:
-      return "Input past end of file";
-    case ErrorNumber::permissionDenied:
-      return "Permission denied";
-    case ErrorNumber::pathFileAccess:
-      return "Path/File access error";
-    case ErrorNumber::pathNotFound:
-      return "Path not found";
-  }
-  return "Application-defined or object-defined error";
 }
 
 RuntimeError currentRuntimeError() {

@@ -17,7 +17,6 @@ enum class ErrorNumber : std::int32_t {
   internalError = 51,
   deviceIoError = 57,
   fileNotFound = 53,
-  fileAlreadyOpen = 55,
   diskFull = 61,
   inputPastEnd = 62,
   permissionDenied = 70,
@@ -57,9 +56,6 @@ class LockedByAnother : public RuntimeError {
  public:
   explicit LockedByAnother(const std::filesystem::path& lockFile);
 };
-
-/// The runtime's text for a number, for example "File not found".
-std::string_view descriptionOf(ErrorNumber number);
 
 /// The exception being handled as a runtime error: itself, or the equivalent of one of the library's.
 RuntimeError currentRuntimeError();

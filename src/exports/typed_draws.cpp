@@ -158,50 +158,6 @@ void removeDay(std::string& text, std::size_t fields, Day day) {
   text = list.text();
 }
 
-/// Writes `merge` of the files of a game with real draws.
-MergeReport write(const DataFolder& folder, Game game,
-                  const std::function<Merge(const GameFiles& files)>& merge) {
-  FolderMerge change(folder, game, [&](const GameFiles& files, DrawOrigin origin) {
-    if (origin == DrawOrigin::madeUp) {
-      fail("the draws of ", infoOf(game).name, " are made up; fetch or import the real ones first");
-    }
-    return merge(files);
-  });
-  change.commit();
-  return change.report();
-}
-
-}  // namespace
-
-CheckedDraw checkedDraw(Game game, const TypedDraw& typed, Day today) {
-  const Day day = inField(TypedField::date, [&] { return checkedDrawDay(game, typed.date, today); });
-  const Matrix matrix = matrixOn(game, day).value();
-  CheckedDraw checked{{day, {}}, {}};
-  DrawEntry& draw = checked.draw;
-  inField(TypedField::numbers,
-          [&] { draw.balls.white = checkedWhites(checkedNumbers(typed.numbers), matrix.white); });
-  inField(TypedField::extra,
-          [&] { draw.balls.extra = checkedExtra(checkedNumber(trimmed(typed.extra)), matrix.extra); });
-  inField(TypedField::multiplier, [&] { draw.multiplier = checkedMultiplier(trimmed(typed.multiplier)); });
-  if (!trimmed(typed.doublePlay).empty()) {
-    inField(TypedField::doublePlay,
-            [&] { draw.doublePlay = checkedDoublePlay(game, day, typed.doublePlay); });
-  }
-  const AmountEntry amount = checkedTypedAmount(day, typed.amount, typed.marks);
-  if (!amount.amount.empty()) checked.amount = amount;
-  return checked;
-}
-
-AmountEntry checkedTypedAmount(Day day, std::string_view amount, std::string_view marks) {
-  AmountEntry entry = inField(TypedField::amount, [&] { return checkedAmount(day, trimmed(amount), {}); });
-  inField(TypedField::marks, [&] {
-    entry.marks = checkedAmount(day, {}, trimmed(marks)).marks;
-    if (entry.marks < 0) fail(std::to_string(entry.marks), " is less than 0");
-    if (entry.amount.empty() && entry.marks > 0) fail("there is no amount that they won");
-  });
-  return entry;
-}
-
 Merge withDraw(Game game, const CheckedDraw& typed, const GameFiles& files, KnownDraw known) {
   requireDraws(game, files);
   if (known == KnownDraw::stays) requireUnknown(game, typed, files);
@@ -249,6 +205,50 @@ Merge withAmounts(Game game, std::vector<AmountEntry> amounts, const GameFiles& 
   }
   std::erase_if(amounts, [&](const AmountEntry& entry) { return std::ranges::count(shown, entry) > 0; });
   return changeOf(game, mergeInto(game, {}, amounts, files), files, files, files.typed);
+}
+
+/// Writes `merge` of the files of a game with real draws.
+MergeReport write(const DataFolder& folder, Game game,
+                  const std::function<Merge(const GameFiles& files)>& merge) {
+  FolderMerge change(folder, game, [&](const GameFiles& files, DrawOrigin origin) {
+    if (origin == DrawOrigin::madeUp) {
+      fail("the draws of ", infoOf(game).name, " are made up; fetch or import the real ones first");
+    }
+    return merge(files);
+  });
+  change.commit();
+  return change.report();
+}
+
+}  // namespace
+
+CheckedDraw checkedDraw(Game game, const TypedDraw& typed, Day today) {
+  const Day day = inField(TypedField::date, [&] { return checkedDrawDay(game, typed.date, today); });
+  const Matrix matrix = matrixOn(game, day).value();
+  CheckedDraw checked{{day, {}}, {}};
+  DrawEntry& draw = checked.draw;
+  inField(TypedField::numbers,
+          [&] { draw.balls.white = checkedWhites(checkedNumbers(typed.numbers), matrix.white); });
+  inField(TypedField::extra,
+          [&] { draw.balls.extra = checkedExtra(checkedNumber(trimmed(typed.extra)), matrix.extra); });
+  inField(TypedField::multiplier, [&] { draw.multiplier = checkedMultiplier(trimmed(typed.multiplier)); });
+  if (!trimmed(typed.doublePlay).empty()) {
+    inField(TypedField::doublePlay,
+            [&] { draw.doublePlay = checkedDoublePlay(game, day, typed.doublePlay); });
+  }
+  const AmountEntry amount = checkedTypedAmount(day, typed.amount, typed.marks);
+  if (!amount.amount.empty()) checked.amount = amount;
+  return checked;
+}
+
+AmountEntry checkedTypedAmount(Day day, std::string_view amount, std::string_view marks) {
+  AmountEntry entry = inField(TypedField::amount, [&] { return checkedAmount(day, trimmed(amount), {}); });
+  inField(TypedField::marks, [&] {
+    entry.marks = checkedAmount(day, {}, trimmed(marks)).marks;
+    if (entry.marks < 0) fail(std::to_string(entry.marks), " is less than 0");
+    if (entry.amount.empty() && entry.marks > 0) fail("there is no amount that they won");
+  });
+  return entry;
 }
 
 std::vector<Day> typedDraws(const GameFiles& files) {

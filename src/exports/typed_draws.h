@@ -66,23 +66,20 @@ class DrawIsKnown : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Adds a draw, and its amount where it has one. DrawIsKnown; std::runtime_error where the game has no draws
-/// yet.
-Merge withDraw(Game game, const CheckedDraw& typed, const GameFiles& files, KnownDraw known);
-/// Removes a typed draw and its amount. std::runtime_error where the draw is not there, or was not typed.
-Merge withoutDraw(Game game, Day day, const GameFiles& files);
-/// Sets amounts of the fifteen newest draws; a blank one becomes not known. std::runtime_error for another
-/// day.
-Merge withAmounts(Game game, std::vector<AmountEntry> amounts, const GameFiles& files);
-
 /// The draws that were typed in and that no export has had, newest first.
 std::vector<Day> typedDraws(const GameFiles& files);
 
-/// The same three in a game's folder, under its lock, as one change; what changes nothing writes nothing.
-/// They raise what is said above, std::runtime_error where the game's draws are made up, and RuntimeError
-/// where a file cannot be read or written, LockedByAnother where another program is at work in the folder.
+// Each changes a game's folder under its lock, as one change; what changes nothing writes nothing. Beside
+// what is said below they raise std::runtime_error where the game's draws are made up, and RuntimeError where
+// a file cannot be read or written, LockedByAnother where another program is at work in the folder.
+
+/// Adds a draw, and its amount where it has one. DrawIsKnown; std::runtime_error where the game has no draws
+/// yet.
 MergeReport addDraw(const DataFolder& folder, Game game, const CheckedDraw& typed, KnownDraw known);
+/// Removes a typed draw and its amount. std::runtime_error where the draw is not there, or was not typed.
 MergeReport removeDraw(const DataFolder& folder, Game game, Day day);
+/// Sets amounts of the fifteen newest draws; a blank one becomes not known. std::runtime_error for another
+/// day.
 MergeReport setAmounts(const DataFolder& folder, Game game, const std::vector<AmountEntry>& amounts);
 
 }  // namespace tallywick::exports
