@@ -66,10 +66,10 @@ void Draw::appendLine(std::string& to) const {
 }
 
 Draw drawOf(const Fields<drawFields>& record) {
-  return drawAt(record, 3);
+  return drawAt(record, mainBalls);
 }
 Draw doublePlayDrawOf(const Fields<doublePlayFields>& record) {
-  return drawAt(record, 11);
+  return drawAt(record, doublePlayBalls);
 }
 
 }  // namespace tallywick

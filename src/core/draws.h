@@ -17,6 +17,16 @@ inline constexpr std::size_t drawFields = 10;
 /// Date, main draw, two fields, the Double Play draw's six numbers, a field.
 inline constexpr std::size_t doublePlayFields = 18;
 
+/// Where a record, of either history, has the main draw's five white balls and the extra ball; from 0.
+inline constexpr std::size_t mainBalls = 3;
+/// The field of the main history that the server defines, a multiplier by now.
+inline constexpr std::size_t multiplierField = 9;
+/// Where a Double Play record has the second draw's balls.
+inline constexpr std::size_t doublePlayBalls = 11;
+
+/// Where the six numbers are in Draw::line() behind a leading blank, from 1, where each has two digits.
+inline constexpr std::array<std::size_t, 6> numbersInDrawLine = {16, 19, 22, 25, 28, 33};
+
 /// How many draws the displays read without looking for the end of the file.
 inline constexpr std::size_t shownDraws = 15;
 /// How many draws the charts read in the same way.
@@ -38,8 +48,7 @@ struct Draw {
   std::string dateKey() const;
   /// MM-DD-YYYY.
   std::string displayDate() const;
-  /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball. With
-  /// two-digit numbers and a leading blank the numbers are at 16, 19, 22, 25, 28 and 33.
+  /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball.
   std::string line() const;
   void appendLine(std::string& to) const;
 };

@@ -19,6 +19,9 @@ class DataFolder;
 /// Draw date, five main numbers, extra ball, decade pattern.
 inline constexpr std::size_t playFields = 8;
 
+/// Where the six numbers are in Play::itemText(), from 1.
+inline constexpr std::array<std::size_t, 6> numbersInPlayItem = {19, 23, 27, 31, 35, 39};
+
 /// A record with this date is no real play: it is kept and counted, but never listed or scored.
 inline constexpr std::string_view noPlayDate = "11-11-1111";
 
@@ -34,8 +37,7 @@ struct Play {
   bool isListed() const { return date != noPlayDate; }
   /// MMDDYYYY, as Draw::dateKey() makes it: characters 1-2, 4-5 and from 7 of the date.
   std::string dateKey() const;
-  /// Two blanks, the date, six blanks, the six numbers with two blanks between: how lists show a play. The
-  /// numbers are at 19, 23, 27, 31, 35 and 39.
+  /// Two blanks, the date, six blanks, the six numbers with two blanks between: how lists show a play.
   std::string itemText() const;
   /// In the layout of Draw::line().
   std::string drawLine() const;

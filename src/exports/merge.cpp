@@ -20,12 +20,6 @@ namespace {
 /// The fewest that the last draw, the displays and the charts need.
 constexpr std::size_t fewestDraws = 101;
 
-/// Where a record of either history has the main draw's five white balls and the extra ball.
-constexpr std::size_t mainBalls = 3;
-constexpr std::size_t multiplierField = 9;
-/// Where a Double Play record has the second draw's.
-constexpr std::size_t doublePlayBalls = 11;
-
 using DrawsByDay = std::map<Day, const DrawEntry*, std::greater<>>;
 
 void put(const Balls& balls, std::vector<std::string>& fields, std::size_t at) {

@@ -103,9 +103,6 @@ const FileRecord* recordOfDay(const RecordList& list, Day day) {
   return found != list.records.end() ? &*found : nullptr;
 }
 
-constexpr std::size_t mainBalls = 3;
-constexpr std::size_t multiplierField = 9;
-constexpr std::size_t doublePlayBalls = 11;
 constexpr std::size_t ballCount = 6;
 
 /// DrawIsKnown where the draw has other numbers in the histories, or another amount.

@@ -40,7 +40,8 @@ const Combination* chosenCombination(const ButtonRow<6>& numbers) {
 }
 
 void setNumbers(ButtonRow<6>& numbers, std::string_view drawLine, std::size_t extraBallAt) {
-  const std::array<std::size_t, 6> positions = {16, 19, 22, 25, 28, extraBallAt};
+  std::array<std::size_t, 6> positions = numbersInDrawLine;
+  positions.back() = extraBallAt;
   for (std::size_t i = 0; i < positions.size(); ++i) numbers[i].setCaption(cut(drawLine, positions[i], 2));
 }
 

@@ -5,6 +5,7 @@
 
 #include "controls/button_row.h"
 #include "controls/controls.h"
+#include "core/draws.h"
 
 #include <cstddef>
 #include <string>
@@ -12,8 +13,8 @@
 
 namespace tallywick {
 
-/// The position of the extra ball in a draw line, from 1; the white balls are at 16, 19, 22, 25 and 28.
-inline constexpr std::size_t extraBallPosition = 33;
+/// The position of the extra ball in a draw line, from 1.
+inline constexpr std::size_t extraBallPosition = numbersInDrawLine.back();
 /// The same in the lines of the leftover state game.
 inline constexpr std::size_t hoosierExtraBallPosition = 31;
 

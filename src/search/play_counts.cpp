@@ -113,11 +113,11 @@ std::optional<std::size_t> countDraws(Count count, const History& history, const
   const bool whole = readToEnd(file, boxes, [&] {
     if (history.isDoublePlay) {
       forEachRecordView<doublePlayFields>(*reader, [&](const RecordView<doublePlayFields>& record) {
-        count.take(record, 11, doublePlayDrawOf);
+        count.take(record, doublePlayBalls, doublePlayDrawOf);
       });
     } else {
       forEachRecordView<drawFields>(
-          *reader, [&](const RecordView<drawFields>& record) { count.take(record, 3, drawOf); });
+          *reader, [&](const RecordView<drawFields>& record) { count.take(record, mainBalls, drawOf); });
     }
   });
   return whole ? std::make_optional(count.times()) : std::nullopt;

@@ -7,15 +7,11 @@
 #include "search/marks.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace tallywick {
 
 namespace {
-
-/// Of the six numbers of a draw line, from 1.
-constexpr std::array<std::size_t, 6> ballPositions = {16, 19, 22, 25, 28, extraBallPosition};
 
 std::vector<Button*> filledOf(std::vector<Button*> numbers) {
   std::erase_if(numbers, [](const Button* number) { return trimmed(number->caption()).empty(); });
@@ -92,7 +88,7 @@ std::optional<std::string> typedDrawLine(std::string_view typed) {
   std::string line;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     const bool isExtra = hasExtra && i + 1 == numbers.size();
-    line.resize(ballPositions[isExtra ? 5 : i] - 1, ' ');
+    line.resize(numbersInDrawLine[isExtra ? 5 : i] - 1, ' ');
     line += twoDigits(numbers[i]);
   }
   return line;
@@ -121,7 +117,7 @@ std::string typedHint(const Button& display, const ComboBox& source, const std::
   std::vector<std::string> typed;
   bool areShown = true;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    const std::string_view number = trimmed(cut(*line, ballPositions[i], 2));
+    const std::string_view number = trimmed(cut(*line, numbersInDrawLine[i], 2));
     if (!number.empty()) typed.emplace_back(number);
     areShown = areShown && trimmed(numbers[i]->caption()) == number;
   }

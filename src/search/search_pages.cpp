@@ -44,7 +44,7 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
     for (ListBox* list : {&havePlayed.List6, &played.List7, &twoThree.List8, &havePlayedPlays.List9}) {
       list->add(item);
     }
-    addToPicker(played.Combo3, join(" ", draw.displayDate(), "    ", record[9]));
+    addToPicker(played.Combo3, join(" ", draw.displayDate(), "    ", record[multiplierField]));
   });
 }
 

@@ -96,15 +96,16 @@ std::vector<std::string> searchedNumbers(const Combination& combination, const B
 
 bool containsAll(const RecordView<drawFields>& record, std::size_t compared,
                  const std::vector<std::string>& searched) {
-  return std::all_of(searched.begin(), searched.end(),
-                     [&](std::string_view number) { return containsNumber(record, 3, compared, number); });
+  return std::all_of(searched.begin(), searched.end(), [&](std::string_view number) {
+    return containsNumber(record, mainBalls, compared, number);
+  });
 }
 
 void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
   line.assign(1, ' ');
   drawOf(record).appendLine(line);
   if (tail != LineTail::none) line.append("     ");
-  if (tail == LineTail::fieldTen) line.append(record[9]);
+  if (tail == LineTail::fieldTen) line.append(record[multiplierField]);
 }
 
 std::string tally(const std::vector<std::string>& searched, std::size_t matches) {

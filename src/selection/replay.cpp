@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Replay: marks a play of the history again.
+#include "core/plays.h"
 #include "core/text.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
@@ -9,17 +10,10 @@
 
 namespace tallywick {
 
-namespace {
-
-/// Where the numbers are in an item of a play list, the extra ball last.
-constexpr std::array<std::size_t, 6> places = {19, 23, 27, 31, 35, 39};
-
-}  // namespace
-
 void Command60_Click(SelectionForm& form) {
   form.Command59.show();
   std::array<std::string_view, 6> numbers;
-  std::transform(places.begin(), places.end(), numbers.begin(),
+  std::transform(numbersInPlayItem.begin(), numbersInPlayItem.end(), numbers.begin(),
                  [&](std::size_t place) { return cut(form.Combo7.text(), place, 2); });
 
   form.unmarkAll();
