@@ -2,9 +2,9 @@
 #include "core/clock.h"
 
 #include "core/day.h"
+#include "core/text.h"
 
 #include <array>
-#include <charconv>
 #include <ctime>
 #include <utility>
 
@@ -20,27 +20,6 @@ std::string now(const char* form) {
   return {text.data(), size};
 }
 
-/// Whether `text` has a digit wherever `form` has one and equals it elsewhere.
-bool hasForm(std::string_view text, std::string_view form) {
-  if (text.size() != form.size()) return false;
-  for (std::size_t i = 0; i < form.size(); ++i) {
-    const bool digit = text[i] >= '0' && text[i] <= '9';
-    if (form[i] == '0' ? !digit : text[i] != form[i]) return false;
-  }
-  return true;
-}
-
-/// Whether the numbers of a text in the form "MM-DD-YYYY HH:MM:SS" are those of a day and a time.
-bool isTime(std::string_view text) {
-  const auto number = [&](std::size_t begin, std::size_t size) {
-    int value = 0;
-    std::from_chars(text.data() + begin, text.data() + begin + size, value);
-    return value;
-  };
-  return Day::from(number(6, 4), number(0, 2), number(3, 2)) && number(11, 2) < 24 && number(14, 2) < 60 &&
-         number(17, 2) < 60;
-}
-
 }  // namespace
 
 std::string SystemClock::date() const {
@@ -52,9 +31,19 @@ std::string SystemClock::time() const {
 
 FixedClock::FixedClock(std::string date, std::string time) : date_(std::move(date)), time_(std::move(time)) {}
 
+FixedClock::FixedClock(const Clock& clock) : FixedClock(clock.date(), clock.time()) {}
+
+std::optional<FixedClock> fixedClock(std::string_view text) {
+  if (!hasForm(text, "00-00-0000 00:00:00") || !parseDay(text.substr(0, 10))) return std::nullopt;
+  const std::string_view time = text.substr(11);
+  if (time.substr(0, 2) > "23" || time.substr(3, 2) > "59" || time.substr(6) > "59") return std::nullopt;
+  return FixedClock(std::string(text.substr(0, 10)), std::string(time));
+}
+
 bool SettableClock::set(std::string_view text) {
-  if (!hasForm(text, "00-00-0000 00:00:00") || !isTime(text)) return false;
-  fixed_.emplace(std::string(text.substr(0, 10)), std::string(text.substr(11)));
+  std::optional<FixedClock> fixed = fixedClock(text);
+  if (!fixed) return false;
+  fixed_ = std::move(fixed);
   return true;
 }
 

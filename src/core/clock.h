@@ -28,6 +28,8 @@ class SystemClock : public Clock {
 class FixedClock : public Clock {
  public:
   FixedClock(std::string date, std::string time);
+  /// The time that `clock` shows now.
+  explicit FixedClock(const Clock& clock);
   std::string date() const override { return date_; }
   std::string time() const override { return time_; }
 
@@ -35,6 +37,9 @@ class FixedClock : public Clock {
   std::string date_;
   std::string time_;
 };
+
+/// The clock that shows "MM-DD-YYYY HH:MM:SS"; none where the text is no such time.
+std::optional<FixedClock> fixedClock(std::string_view text);
 
 /// The computer's clock until it is set; then it does not move.
 class SettableClock : public Clock {

@@ -37,13 +37,6 @@ std::string sortableDate(const Clock& clock) {
               cut(time, 4, 2), cut(time, 7, 2));
 }
 
-bool isSortableDate(std::string_view text) {
-  constexpr std::string_view form = "0000-00-00 000000";
-  return std::equal(text.begin(), text.end(), form.begin(), form.end(), [](char letter, char place) {
-    return place == '0' ? letter >= '0' && letter <= '9' : letter == place;
-  });
-}
-
 /// The number behind a copy's date, as " 2"; 1 where there is none, 0 where it is no such number.
 std::size_t numberIn(std::string_view text) {
   if (text.empty()) return 1;
@@ -63,7 +56,8 @@ std::optional<DatedCopy> copyOf(std::string_view name, std::string_view candidat
   const std::string_view date = candidate.substr(dateBegin, dateSize);
   const std::size_t number = numberIn(candidate.substr(numberBegin, end - numberBegin));
   if (!equalIgnoringCase(candidate.substr(0, stem.size()), stem) || candidate[stem.size()] != ' ' ||
-      !equalIgnoringCase(candidate.substr(end), extension) || !isSortableDate(date) || number == 0) {
+      !equalIgnoringCase(candidate.substr(end), extension) || !hasForm(date, "0000-00-00 000000") ||
+      number == 0) {
     return std::nullopt;
   }
   return DatedCopy{std::string(candidate), std::string(date), number};

@@ -106,6 +106,12 @@ std::string twoDigits(int number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
+bool hasForm(std::string_view text, std::string_view form) {
+  return std::equal(text.begin(), text.end(), form.begin(), form.end(), [](char letter, char place) {
+    return place == '0' ? letter >= '0' && letter <= '9' : letter == place;
+  });
+}
+
 std::string fingerprint(std::string_view bytes) {
   std::uint64_t hash = 0xCBF29CE484222325U;
   for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;

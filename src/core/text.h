@@ -72,6 +72,9 @@ std::optional<Number> wholeNumber(std::string_view text) {
   return number;
 }
 
+/// Whether `text` has a digit wherever `form` has "0", and equals it elsewhere.
+bool hasForm(std::string_view text, std::string_view form);
+
 /// The size of `bytes` and a hash, with a blank between: it shows whether they are still the same.
 std::string fingerprint(std::string_view bytes);
 

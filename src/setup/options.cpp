@@ -94,7 +94,12 @@ void describe(CLI::App& app, Options& options, Words& words) {
                "Replace all draws and amounts of a folder that has some; the plays stay");
   app.add_flag("--no-plays", options.withoutPlays, "Begin without sample plays");
   app.add_option("--seed", options.seed, "The same seed makes the same samples")->capture_default_str();
-  app.add_option("--now", options.now, "Date and time to go by instead of the computer's")
+  const auto setClock = [&options](const std::string& text) {
+    const std::optional<FixedClock> clock = fixedClock(text);
+    if (!clock) throw CLI::ValidationError("--now", "takes \"MM-DD-YYYY HH:MM:SS\"");
+    options.clock = *clock;
+  };
+  app.add_option_function<std::string>("--now", setClock, "Date and time to go by instead of the computer's")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
   CLI::Option* tree =
       app.add_option("--publish", options.tree, "Write an update server's folder tree instead");

@@ -2,6 +2,7 @@
 // What the command line of tallywick-setup asks for.
 #pragma once
 
+#include "core/clock.h"
 #include "core/games.h"
 #include "exports/typed_draws.h"
 
@@ -23,8 +24,8 @@ struct Options {
   std::string folder;
   std::array<ExportFiles, 2> exports;
   bool forceDraws = false;
-  /// "MM-DD-YYYY HH:MM:SS"; empty for the computer's date and time.
-  std::string now;
+  /// The date and the time to go by.
+  FixedClock clock = FixedClock(SystemClock());
   std::uint64_t seed = 1;
   bool withoutPlays = false;
   std::string tree;

@@ -3,6 +3,7 @@
 
 #include "core/eras.h"
 #include "core/random.h"
+#include "core/text.h"
 
 #include <algorithm>
 #include <array>
@@ -97,7 +98,7 @@ std::vector<DrawEntry> sampleDraws(Game game, Day last, std::uint64_t seed) {
 
 std::vector<AmountEntry> sampleAmounts(Game game, const std::vector<DrawEntry>& draws, std::uint64_t seed) {
   MixingGenerator generator = generatorFor(game, seed, "amounts");
-  const int base = std::stoi(std::string(infoOf(game).baseAmount));
+  const int base = wholeNumber<int>(infoOf(game).baseAmount).value();
   std::vector<AmountEntry> amounts;
   int amount = base;
   for (auto draw = draws.rbegin(); draw != draws.rend(); ++draw) {

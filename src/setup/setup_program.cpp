@@ -36,20 +36,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The date and the time of the day to go by.
-struct Now {
-  explicit Now(const Options& options) : date(cut(options.now, 1, 10)), time(cut(options.now, 12, 8)) {
-    if (!options.now.empty()) return;
-    const SystemClock clock;
-    date = clock.date();
-    time = clock.time();
-  }
-  Day lastDrawn() const { return lastDrawnDay(date, time); }
-  Day today() const { return lastDrawnDay(date, "24:00:00"); }
+Day lastDrawn(const Clock& clock) {
+  return lastDrawnDay(clock.date(), clock.time());
+}
 
-  std::string date;
-  std::string time;
-};
+Day today(const Clock& clock) {
+  return parseDay(clock.date()).value();
+}
 
 /// What the exports of one game contain.
 struct ExportedGame {
@@ -95,7 +88,7 @@ void addSamplePlays(FolderContents& contents, Day last, const Options& options) 
 }
 
 void makeNewFolder(const Options& options, const std::vector<ExportedGame>& exported, std::ostream& out) {
-  const Day last = Now(options).lastDrawn();
+  const Day last = lastDrawn(options.clock);
   FolderContents contents = sampleContents(last, options.seed);
   std::vector<exports::MergeReport> reports;
   for (const ExportedGame& real : exported) {
@@ -129,7 +122,7 @@ void mergeExports(const Options& options, const std::vector<ExportedGame>& expor
 }
 
 void makeFolder(const Options& options, std::ostream& out) {
-  const std::vector<ExportedGame> exported = readExports(options, Now(options).today());
+  const std::vector<ExportedGame> exported = readExports(options, today(options.clock));
   requireGameFolders(options.folder);
   if (!containsRecords(options.folder)) return makeNewFolder(options, exported, out);
   if (!exported.empty()) return mergeExports(options, exported, out);
@@ -138,7 +131,7 @@ void makeFolder(const Options& options, std::ostream& out) {
                              " already contains draws or plays; nothing was changed. --force-draws replaces "
                              "its draws and amounts");
   }
-  for (const FolderContents::Part& part : sampleContents(Now(options).lastDrawn(), options.seed).games) {
+  for (const FolderContents::Part& part : sampleContents(lastDrawn(options.clock), options.seed).games) {
     replaceDraws(options.folder, part);
     out << infoOf(part.game).name << ": " << part.book.draws.size() << " made-up sample draws\n";
   }
@@ -195,15 +188,13 @@ bool fetch(const Options& options, const Outputs& outputs) {
   requireGameFolders(options.folder);
   const DataFolder folder(options.folder);
   const Settings settings = fetchSettings(options);
-  const Now now(options);
-  const FixedClock clock(now.date, now.time);
   std::optional<ProgressLine> line;
   if (outputs.isTerminal) line.emplace(outputs.errors);
   TransferWatch* const watch = line ? &*line : nullptr;
   const bool isNew = !containsRecords(options.folder);
   const std::vector<GameFetch> fetches =
-      isNew ? makeFetchedFolder(folder, clock, settings, {}, watch)
-            : fetchDraws(folder, clock, exportAddresses(settings), {}, watch);
+      isNew ? makeFetchedFolder(folder, options.clock, settings, {}, watch)
+            : fetchDraws(folder, options.clock, exportAddresses(settings), {}, watch);
   line.reset();
   const bool isComplete = std::ranges::all_of(fetches, &std::string::empty, &GameFetch::error);
   const bool isMade = !isNew || isComplete;
@@ -229,7 +220,7 @@ bool fetch(const Options& options, const Outputs& outputs) {
 void addDraw(const Options& options, std::ostream& out) {
   requireGameFolders(options.folder);
   const Game game = *options.addsTo;
-  const exports::CheckedDraw draw = exports::checkedDraw(game, options.typed, Now(options).today());
+  const exports::CheckedDraw draw = exports::checkedDraw(game, options.typed, today(options.clock));
   const auto known = options.replacesDraw ? exports::KnownDraw::isReplaced : exports::KnownDraw::stays;
   exports::MergeReport report;
   try {
