@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/random.h"
 
+#include "core/text.h"
+
 #include <random>
 
 namespace tallywick {
 
 void MixingGenerator::seed(std::string_view text) {
-  std::uint64_t folded = draw();
-  for (char letter : text) folded = (folded ^ static_cast<unsigned char>(letter)) * 0x100000001B3U;  // FNV-1a
+  const std::uint64_t folded = hashed(draw(), text);
   state_ ^= folded;
 }
 

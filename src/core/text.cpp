@@ -112,9 +112,13 @@ bool hasForm(std::string_view text, std::string_view form) {
   });
 }
 
-std::string fingerprint(std::string_view bytes) {
-  std::uint64_t hash = 0xCBF29CE484222325U;
+std::uint64_t hashed(std::uint64_t hash, std::string_view bytes) {
   for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+  return hash;
+}
+
+std::string fingerprint(std::string_view bytes) {
+  const std::uint64_t hash = hashed(0xCBF29CE484222325U, bytes);
   std::array<char, 16> digits{};
   const char* const end = std::to_chars(digits.begin(), digits.end(), hash, 16).ptr;
   return join(std::to_string(bytes.size()), " ", std::string_view(digits.data(), end));

@@ -31,6 +31,9 @@ std::string join(const Pieces&... pieces) {
 /// `text` without blanks at either end.
 std::string_view trimmed(std::string_view text);
 
+/// What some editors write before a text in UTF-8.
+inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 /// Whether `text` is UTF-8, as every text of the letters of ASCII is.
 bool isUtf8(std::string_view text);
 
@@ -74,6 +77,9 @@ std::optional<Number> wholeNumber(std::string_view text) {
 
 /// Whether `text` has a digit wherever `form` has "0", and equals it elsewhere.
 bool hasForm(std::string_view text, std::string_view form);
+
+/// `hash` goes on over `bytes` (FNV-1a).
+std::uint64_t hashed(std::uint64_t hash, std::string_view bytes);
 
 /// The size of `bytes` and a hash, with a blank between: it shows whether they are still the same.
 std::string fingerprint(std::string_view bytes);

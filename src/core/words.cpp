@@ -39,6 +39,12 @@ std::string inFigures(std::size_t count, std::string_view thing) {
   return join(std::to_string(count), " ", thing, count == 1 ? "" : "s");
 }
 
+std::string grouped(std::uint64_t number) {
+  std::string text = std::to_string(number);
+  for (std::size_t at = text.size(); at > 3; at -= 3) text.insert(at - 3, ",");
+  return text;
+}
+
 std::string listed(const std::vector<std::string>& things) {
   std::string text;
   for (std::size_t i = 0; i < things.size(); ++i) {

@@ -6,6 +6,7 @@
 #include "core/games.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,8 @@ std::string numberWord(std::size_t count);
 std::string counted(std::size_t count, std::string_view thing);
 /// "1 play", "12 plays".
 std::string inFigures(std::size_t count, std::string_view thing);
+/// "12,345": a comma before every three digits.
+std::string grouped(std::uint64_t number);
 /// "05", "05 and 07", "05, 07 and 11".
 std::string listed(const std::vector<std::string>& things);
 /// With its first letter as a capital.

@@ -14,7 +14,6 @@ namespace {
 
 constexpr int extraBallScore = 5;
 constexpr std::string_view noPlays = " No plays were created to search for";
-constexpr std::string_view winningTicket = "Winning Ticket...";
 
 bool wins(const Play& play, const Draw& draw) {
   return play.isListed() && matchScore(play, draw) >= winningScore;
@@ -36,13 +35,13 @@ void clearResults(WinningsPage& page) {
 
 /// Makes the winning plays stand out, in the results and in the list of plays.
 void emphasise(WinningsPage& page, std::vector<std::string> winners) {
-  page.List11.setEmphasis({std::string(winningTicket)});
+  page.List11.setEmphasis({join(winningTicket, "...")});
   page.List14.setEmphasis(std::move(winners));
 }
 
 void showLatestWinner(WinningsPage& page, const Play& play, std::size_t ordinal) {
   const std::string line = ticketLine(play);
-  page.List11.add(join(" ", play.date, "   ", winningTicket, " Play Number ", std::to_string(ordinal)));
+  page.List11.add(join(" ", play.date, "   ", winningTicket, "... Play Number ", std::to_string(ordinal)));
   page.List11.add(line);
   page.List11.add(" ");
   page.Combo10.add(line);
@@ -50,7 +49,7 @@ void showLatestWinner(WinningsPage& page, const Play& play, std::size_t ordinal)
 }
 
 void showWinnerOfItsDate(WinningsPage& page, const Play& play) {
-  page.List11.add(join(" ", play.date, "   ", winningTicket, " "));
+  page.List11.add(join(" ", play.date, "   ", winningTicket, "... "));
   page.List10.add(join(ticketLine(play), "     "));
 }
 
@@ -58,7 +57,7 @@ void showWinnerOfItsDate(WinningsPage& page, const Play& play) {
 void checkDoublePlay(WinningsPage& page, const DataFolder& folder, std::string_view file, const Play& first) {
   SequentialReader draws(folder, file);
   if (wins(first, doublePlayDrawOf(draws.record<doublePlayFields>()))) {
-    page.List10.add(" Winning Ticket for PowerBall Double Play");
+    page.List10.add(join(" ", winningTicket, " for PowerBall Double Play"));
   }
 }
 

@@ -9,6 +9,7 @@
 #include "frames/game_frames.h"
 
 #include <string>
+#include <string_view>
 
 namespace tallywick {
 
@@ -34,6 +35,9 @@ struct WinningsPage {
   /// The winning tickets.
   ListBox List11;
 };
+
+/// In each line of the results that says that a play has won.
+inline constexpr std::string_view winningTicket = "Winning Ticket";
 
 /// A point for each white ball of the draw found among the play's, five for the extra ball. It wins with 3 or
 /// more.

@@ -43,7 +43,7 @@ std::optional<std::size_t> CsvReader::column(std::initializer_list<std::string_v
 }
 
 bool CsvReader::next(Row& row) {
-  while (!atEnd()) {
+  while (refill()) {
     readRow(row);
     if (row.fields.size() > 1 || !row.field(0).empty()) return true;
   }
@@ -51,8 +51,9 @@ bool CsvReader::next(Row& row) {
 }
 
 void CsvReader::readNames() {
-  // A byte-order mark.
-  if (skip('\xEF') && skip('\xBB')) skip('\xBF');
+  for (const char letter : byteOrderMark) {
+    if (!skip(letter)) break;
+  }
   Row row;
   if (!next(row)) return;
   names_ = std::move(row.fields);
@@ -88,7 +89,7 @@ void CsvReader::readField(std::string& field, Row& row) {
 
 /// A doubled quote is one.
 void CsvReader::readQuoted(std::string& field, Row& row) {
-  while (!atEnd()) {
+  while (refill()) {
     const char letter = take();
     if (letter == '"' && !skip('"')) return;
     if (letter == '\n') ++line_;
@@ -97,15 +98,15 @@ void CsvReader::readQuoted(std::string& field, Row& row) {
   row.isCut = true;
 }
 
-bool CsvReader::atEnd() {
-  if (position_ < size_) return false;
+bool CsvReader::refill() {
+  if (position_ < size_) return true;
   position_ = 0;
   size_ = source_(piece_.data(), piece_.size());
-  return size_ == 0;
+  return size_ > 0;
 }
 
 bool CsvReader::isEndOfField() {
-  return atEnd() || std::string_view(",\r\n").find(piece_[position_]) != std::string_view::npos;
+  return !refill() || std::string_view(",\r\n").find(piece_[position_]) != std::string_view::npos;
 }
 
 char CsvReader::take() {
@@ -117,7 +118,7 @@ char CsvReader::take() {
 }
 
 bool CsvReader::skip(char letter) {
-  if (atEnd() || piece_[position_] != letter) return false;
+  if (!refill() || piece_[position_] != letter) return false;
   take();
   return true;
 }

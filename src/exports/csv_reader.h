@@ -53,7 +53,8 @@ class CsvReader {
   bool isEndOfField();
   char take();
   bool skip(char letter);
-  bool atEnd();
+  /// Reads on where the piece is used up. False at the end.
+  bool refill();
 
   Source source_;
   std::vector<char> piece_;

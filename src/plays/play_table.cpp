@@ -140,8 +140,7 @@ std::string doublePlayText(const JudgedPlay& play) {
 }
 
 std::string moneyText(std::int64_t cents) {
-  std::string text = std::to_string(cents / 100);
-  for (std::size_t end = text.size(); end > 3; end -= 3) text.insert(end - 3, ",");
+  std::string text = grouped(static_cast<std::uint64_t>(cents / 100));
   if (cents % 100 != 0) text += join(".", twoDigits(static_cast<int>(cents % 100)));
   return join("$", text);
 }

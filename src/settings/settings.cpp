@@ -16,7 +16,6 @@ namespace tallywick {
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t\r";
 /// The server that the first release wrote into a new folder. It exists on no player's computer.
 constexpr std::string_view firstReleaseServer = "127.0.0.1:2121";

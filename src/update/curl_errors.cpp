@@ -24,8 +24,7 @@ struct Meaning {
 };
 
 constexpr std::array meanings = {
-    Meaning{CURLE_URL_MALFORMAT, TransferFault::address, "the update server's address is not valid", false,
-            "no web address: "},
+    Meaning{CURLE_URL_MALFORMAT, TransferFault::address, noServerAddress, false, "no web address: "},
     Meaning{CURLE_COULDNT_RESOLVE_HOST, TransferFault::address, "the update server's address is not known",
             false, "not connected to the internet, or no such server: "},
     Meaning{CURLE_COULDNT_CONNECT, TransferFault::connection, "no connection to the update server", false,

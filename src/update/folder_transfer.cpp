@@ -2,6 +2,7 @@
 #include "update/folder_transfer.h"
 
 #include "core/text.h"
+#include "update/transfer_errors.h"
 
 #include <array>
 
@@ -10,7 +11,6 @@ namespace tallywick {
 namespace {
 
 constexpr int firstCode = 28000;
-constexpr std::uint32_t applicationErrors = 0x80040000;
 
 /// In the order in which they are checked; the code of each is the first code plus its place.
 constexpr std::array<std::string_view, 5> checkedProperties = {"Server", "Login", "Password", "SourceFolder",

@@ -14,7 +14,7 @@
 namespace tallywick {
 
 /// The error that the transfer classes raise for `code`; a code that has no text of its own gets the text for
-/// unknown errors. The number is the application's base 0x80040000 plus the code.
+/// unknown errors. The number is on the application's error base.
 RuntimeError transferClassError(int code, std::string_view source);
 
 class FolderTransfer {

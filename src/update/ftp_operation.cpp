@@ -24,7 +24,7 @@ std::string serverAddress(std::string_view host) {
   if (host.ends_with('/')) host.remove_suffix(1);
   std::string address = join("ftp://", host);
   if (!isServerAddress(address)) {
-    throw transferError(TransferFault::address, "the update server's address is not valid");
+    throw transferError(TransferFault::address, noServerAddress);
   }
   return address;
 }

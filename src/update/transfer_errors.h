@@ -5,12 +5,18 @@
 
 #include "core/runtime_error.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace tallywick {
 
-/// Codes on the application's error base 0x80040000.
+/// The application's error base: the number of an error is this and its code.
+inline constexpr std::uint32_t applicationErrors = 0x80040000;
+/// Of an address that cannot be one, whether the library or the program finds it.
+inline constexpr std::string_view noServerAddress = "the update server's address is not valid";
+
+/// Codes on the application's error base.
 enum class TransferFault : int {
   address = 28100,
   connection,

@@ -31,9 +31,6 @@ const QString winningMeaning = u"winning"_s;
 
 const QString beforeCheck = u"What each play's own draw says is shown here after a check."_s;
 
-/// What a line of a winning ticket says.
-constexpr std::string_view winningWords = "Winning Ticket";
-
 LineList* titledList(QSplitter& side, const QString& title, ListBox& list, const QString& whenEmpty,
                      Binding& binding) {
   auto* box = new QWidget;
@@ -52,7 +49,7 @@ LineList* titledList(QSplitter& side, const QString& title, ListBox& list, const
 
 void showWinningLines(LineList& list) {
   list.lineModel()->setStandOut(
-      [](std::size_t, std::string_view line) { return line.find(winningWords) != std::string_view::npos; },
+      [](std::size_t, std::string_view line) { return line.find(winningTicket) != std::string_view::npos; },
       winningMeaning);
 }
 
