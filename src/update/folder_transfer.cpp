@@ -57,6 +57,54 @@ void FolderTransfer::openSession() {
   component_->openSession();
 }
 
+Download::Download(const TransferFactory& newTransfer, TransferListener* listener)
+    // Kept slip: the five letters of the scheme.
+    : FolderTransfer({"ftp.Download", "fttp://"}, newTransfer) {
+  component().setListener(listener);
+}
+
+void Download::Start() {
+  check(allProperties);
+  openSession();
+  component().download(closedWith('/', SourceFolder()), "*.*", closedWith('\\', TargetFolder()));
+}
+
+Upload::Upload(const TransferFactory& newTransfer, TransferListener* listener)
+    : FolderTransfer({"UP_FTP.Upload", "ftp://"}, newTransfer), listener_(listener) {
+  component().setListener(this);
+}
+
+void Upload::Start() {
+  check(allProperties);
+  connect();
+  component().upload(closedWith('\\', SourceFolder()), "*.*", closedWith('/', TargetFolder()));
+}
+
+bool Upload::DirectoryExists(std::string_view folder) {
+  check(sessionProperties);
+  connect();
+  return component().directoryExists(folder);
+}
+
+void Upload::CreateDirectory(std::string_view folder) {
+  check(sessionProperties);
+  connect();
+  component().createDirectory(folder);
+}
+
+void Upload::mFTP_Status(std::string_view text) {
+  if (listener_ != nullptr) listener_->status(text);
+}
+
+void Upload::mFTP_TransferInfo(const TransferInfo& info) {
+  if (listener_ != nullptr) listener_->transferInfo(info);
+}
+
+void Upload::connect() {
+  component().setInactivityLifetime(inactivityLifetime_);
+  openSession();
+}
+
 std::string closedWith(char slash, std::string_view folder) {
   std::string closed(folder);
   if (!closed.ends_with(slash)) closed += slash;

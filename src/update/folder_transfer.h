@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What Download and Upload have in common: the properties, their check, and a transfer component of their
-// own.
+// The transfer classes: Download and Upload copy every file of a folder from and to a server.
 #pragma once
 
 #include "core/runtime_error.h"
@@ -17,6 +16,8 @@ namespace tallywick {
 /// unknown errors. The number is on the application's error base.
 RuntimeError transferClassError(int code, std::string_view source);
 
+/// What Download and Upload have in common: the properties, their check, and a transfer component of their
+/// own.
 class FolderTransfer {
  public:
   FolderTransfer(const FolderTransfer&) = delete;
@@ -71,6 +72,49 @@ class FolderTransfer {
   std::string targetFolder_;
   bool passive_ = true;
   bool showTransferWindow_ = false;
+};
+
+/// Copies every file of a server folder into a local folder: SourceFolder is the server's, TargetFolder the
+/// local one.
+class Download : public FolderTransfer {
+ public:
+  /// `listener` hears of the transfer's progress.
+  explicit Download(const TransferFactory& newTransfer, TransferListener* listener = nullptr);
+
+  /// Raises the error of an empty property before anything is transferred; the component's errors pass
+  /// through.
+  void Start();
+};
+
+/// Copies every file of a local folder into a server folder, and tests for and creates server folders. The
+/// program itself uploads nothing, and so this class alone calls the component's upload(). SourceFolder is
+/// the local one, TargetFolder the server's.
+class Upload : public FolderTransfer, private TransferListener {
+ public:
+  /// `listener` receives what the component's events say.
+  explicit Upload(const TransferFactory& newTransfer, TransferListener* listener = nullptr);
+
+  /// After so many idle seconds the component gives up; 0 leaves it to the component.
+  int InactivityLifetime() const { return inactivityLifetime_; }
+  void setInactivityLifetime(int seconds) { inactivityLifetime_ = seconds; }
+
+  /// As Download::Start(), the other way.
+  void Start();
+  /// Whether the server folder `folder` exists.
+  bool DirectoryExists(std::string_view folder);
+  void CreateDirectory(std::string_view folder);
+
+  /// The component's events.
+  void mFTP_Status(std::string_view text);
+  void mFTP_TransferInfo(const TransferInfo& info);
+
+ private:
+  void status(std::string_view text) override { mFTP_Status(text); }
+  void transferInfo(const TransferInfo& info) override { mFTP_TransferInfo(info); }
+  void connect();
+
+  TransferListener* listener_;
+  int inactivityLifetime_ = 0;
 };
 
 /// `folder` with `slash` at its end.

@@ -4,7 +4,7 @@
 #include "core/data_folder.h"
 #include "core/sequential_reader.h"
 #include "core/text.h"
-#include "update/download.h"
+#include "update/folder_transfer.h"
 #include "update/maintenance.h"
 #include "update/transfer_status.h"
 

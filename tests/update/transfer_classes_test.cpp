@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Download and Upload: their properties, their check, and what they ask of their component, in order.
 #include "support/fake_transfer.h"
-#include "update/download.h"
-#include "update/upload.h"
+#include "update/folder_transfer.h"
 
 #include <gtest/gtest.h>
 
