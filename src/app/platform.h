@@ -4,7 +4,7 @@
 #pragma once
 
 #include "controls/form.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 #include "update/transfer_component.h"
 
 #include <string>

@@ -12,18 +12,18 @@ namespace tallywick::exports {
 namespace fs = std::filesystem;
 
 GameFiles readGameFiles(const GameInfo& game, const fs::path& folder) {
-  const auto textOf = [&](std::string_view name) {
+  const auto read = [&](std::string_view name) {
     const fs::path file = entryInAnyCase(folder, name);
     if (!fs::exists(file)) return std::string();
     return std::string(os::readFile(file).view());
   };
   GameFiles files;
-  files.draws = textOf(drawsFile);
-  files.searchDraws = textOf(searchDrawsFile);
-  if (game.game == Game::powerBall) files.doublePlay = textOf(doublePlayFile);
-  files.amounts = textOf(game.winningsFile);
-  files.typed = textOf(typedDrawsName);
-  files.exportNote = textOf(exportNoteName);
+  files.draws = read(drawsFile);
+  files.searchDraws = read(searchDrawsFile);
+  if (game.game == Game::powerBall) files.doublePlay = read(doublePlayFile);
+  files.amounts = read(game.winningsFile);
+  files.typed = read(typedDrawsName);
+  files.exportNote = read(exportNoteName);
   return files;
 }
 

@@ -90,7 +90,7 @@ Numbers numbersOf(const Balls& balls) {
 }
 
 /// As a player reads them.
-std::string textOf(const Numbers& numbers) {
+std::string numbersText(const Numbers& numbers) {
   std::string text;
   for (const std::optional<int>& number : numbers) {
     text.append(text.empty() ? "" : " ").append(number ? twoDigits(*number) : "?");
@@ -116,7 +116,7 @@ void requireUnknown(Game game, const CheckedDraw& typed, const GameFiles& files)
   const RecordList main(files.draws, drawFields);
   if (const FileRecord* const known = recordOfDay(main, draw.day)) {
     const Numbers numbers = numbersIn(*known, mainBalls, ballCount);
-    if (numbers != numbersOf(draw.balls)) fail("other numbers are", textOf(numbers));
+    if (numbers != numbersOf(draw.balls)) fail("other numbers are", numbersText(numbers));
     const std::string& multiplier = known->fields[multiplierField];
     if (wholeNumber<int>(trimmed(multiplier)) != wholeNumber<int>(draw.multiplier)) {
       fail("another multiplier is", multiplier);
@@ -126,7 +126,7 @@ void requireUnknown(Game game, const CheckedDraw& typed, const GameFiles& files)
   if (const FileRecord* const known = recordOfDay(doublePlay, draw.day); known && draw.doublePlay) {
     const Numbers numbers = numbersIn(*known, doublePlayBalls, ballCount);
     if (numbers != Numbers(ballCount) && numbers != numbersOf(*draw.doublePlay)) {
-      fail("other Double Play numbers are", textOf(numbers));
+      fail("other Double Play numbers are", numbersText(numbers));
     }
   }
   const auto amounts = shownAmounts(files.amounts);

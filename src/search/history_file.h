@@ -3,9 +3,9 @@
 // the player.
 #pragma once
 
+#include "core/outside.h"
 #include "core/runtime_error.h"
 #include "core/sequential_reader.h"
-#include "core/surroundings.h"
 #include "core/text.h"
 
 #include <cstddef>

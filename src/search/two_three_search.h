@@ -4,7 +4,7 @@
 
 #include "controls/button_row.h"
 #include "controls/controls.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 
 namespace tallywick {
 

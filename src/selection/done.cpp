@@ -49,7 +49,7 @@ std::vector<Play> repeated(const std::vector<Play>& plays, const std::vector<std
   return all;
 }
 
-std::string textOf(const std::vector<Play>& plays) {
+std::string playsText(const std::vector<Play>& plays) {
   std::string text;
   for (const Play& play : plays) appendRecord(text, play);
   return text;
@@ -96,10 +96,10 @@ struct EarlierFile {
 /// The earlier plays that are not among `next`. A play that is there twice needs two equal ones to stay.
 std::vector<Play> playsNotAmong(const std::vector<Play>& next, const std::vector<Play>& earlier) {
   std::map<std::string, int> kept;
-  for (const Play& play : next) ++kept[textOf({play})];
+  for (const Play& play : next) ++kept[playsText({play})];
   std::vector<Play> gone;
   for (const Play& play : earlier) {
-    if (kept[textOf({play})]-- <= 0) gone.push_back(play);
+    if (kept[playsText({play})]-- <= 0) gone.push_back(play);
   }
   return gone;
 }
@@ -126,7 +126,7 @@ Committed commit(const SelectionForm& form, int draws) {
   const std::string name = playFileName(form.game, PlaySlot::committed);
   const bool somethingGoes = earlier.isTorn() || (!gone.empty() && !bothKept);
   const std::string copy = somethingGoes ? stageDatedCopy(files, name, form.surroundings.clock) : "";
-  const std::string text = textOf(plays);
+  const std::string text = playsText(plays);
   // Entered for one draw the current plays change their name only, and keep every byte.
   files.stage(name, draws > 1 || bothKept ? text : current.text());
   files.stage(playFileName(form.game, PlaySlot::current), {});
@@ -181,7 +181,7 @@ GoingPlays playsThatWouldGo(const SelectionForm& form) {
     const NextPlays next = nextPlays(form, current, drawCountOf(form.Label1.caption()));
     std::vector<Play> gone = playsNotAmong(next.plays, earlier.whole.plays);
     std::erase_if(gone, [](const Play& play) { return !play.isListed(); });
-    return {gone.size(), textOf(gone), earlier.isTorn()};
+    return {gone.size(), playsText(gone), earlier.isTorn()};
   } catch (const CalendarGap&) {
     return {};
   }

@@ -6,8 +6,8 @@
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/games.h"
+#include "core/outside.h"
 #include "core/random.h"
-#include "core/surroundings.h"
 #include "selection/selection_rules.h"
 
 #include <cstdint>

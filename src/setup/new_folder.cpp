@@ -14,7 +14,7 @@
 #include "exports/merge.h"
 #include "settings/settings.h"
 #include "setup/ball_bitmap.h"
-#include "setup/records.h"
+#include "setup/book_texts.h"
 #include "setup/sample.h"
 
 #include <functional>

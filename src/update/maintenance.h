@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/games.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 
 namespace tallywick {
 

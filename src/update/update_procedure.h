@@ -5,7 +5,7 @@
 #include "controls/controls.h"
 #include "core/clock.h"
 #include "core/games.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 #include "update/transfer_component.h"
 #include "update/update_page.h"
 

@@ -28,7 +28,7 @@ BallLook lookOf(Color color) {
   BallLook look;
   look.number = QStringLiteral("27");
   if (color.kind == Color::Kind::rgb) look.fill = theme::toQColor(color, palette(false));
-  look.mark = markOf(color);
+  look.mark = ballMarkOf(color);
   look.dots = repeatOf(color);
   return look;
 }

@@ -8,7 +8,7 @@
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
-#include "ui/qt/windows/transfer_window.h"
+#include "ui/qt/windows/qt_transfer_window.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The lines that a script may not have.
 #include "support/record_book.h"
-#include "ui/script/program.h"
+#include "ui/script/script_program.h"
 #include "ui/script/script_run.h"
 
 #include <array>
@@ -70,7 +70,7 @@ TEST(Program, EndsWithTwoWhereItsFolderOrItsSettingsAreNoUse) {
     std::string option = "--folder";
     std::array<char*, 3> arguments = {name.data(), option.data(), folder.data()};
     testing::internal::CaptureStderr();
-    EXPECT_EQ(runProgram(3, arguments.data()), 2);
+    EXPECT_EQ(runScriptProgram(3, arguments.data()), 2);
     return testing::internal::GetCapturedStderr();
   };
   const std::string nowhere = (scratch.root() / "nowhere").string();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 
 #include <deque>
 #include <string>

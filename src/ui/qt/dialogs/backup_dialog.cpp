@@ -2,7 +2,7 @@
 #include "ui/qt/dialogs/backup_dialog.h"
 
 #include "core/clock.h"
-#include "core/surroundings.h"
+#include "core/outside.h"
 #include "ui/qt/dialogs/first_start.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"

@@ -3,8 +3,8 @@
 
 #include "core/clock.h"
 #include "core/data_folder.h"
+#include "core/outside.h"
 #include "core/runtime_error.h"
-#include "core/surroundings.h"
 #include "core/text.h"
 #include "settings/settings.h"
 #include "setup/new_folder.h"

@@ -84,7 +84,7 @@ void paintFocus(QPainter& painter, const QRectF& ball, const QPalette& palette) 
 
 }  // namespace
 
-BallMark markOf(Color color) {
+BallMark ballMarkOf(Color color) {
   if (color == colors::cyan) return BallMark::main;
   return color == colors::magenta ? BallMark::extra : BallMark::none;
 }
@@ -144,7 +144,7 @@ void BallButton::setCaption(const QString& number) {
 
 void BallButton::setColor(Color color) {
   color_ = color;
-  mark_ = markOf(color);
+  mark_ = ballMarkOf(color);
   refresh();
 }
 

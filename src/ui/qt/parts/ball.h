@@ -19,7 +19,7 @@ namespace tallywick {
 enum class BallMark { none, main, extra };
 
 /// The mark that a number button's colour means: cyan a main number, magenta the extra ball.
-BallMark markOf(Color color);
+BallMark ballMarkOf(Color color);
 /// How many draws before the newest a frequent number's colour means: 1 (red) to 5 (light cyan), else 0.
 int repeatOf(Color color);
 

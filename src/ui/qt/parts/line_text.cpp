@@ -28,7 +28,7 @@ bool hasFieldBeginningWith(std::string_view line, std::string_view typed) {
 
 }  // namespace
 
-std::vector<std::string_view> fieldsOf(std::string_view line) {
+std::vector<std::string_view> piecesOf(std::string_view line) {
   std::vector<std::string_view> fields;
   std::size_t begin = line.find_first_not_of(blank);
   while (begin != std::string_view::npos) {
@@ -55,7 +55,7 @@ std::string csvLine(std::span<const std::string> fields) {
 }
 
 std::string csvLine(std::string_view line) {
-  const std::vector<std::string_view> views = fieldsOf(line);
+  const std::vector<std::string_view> views = piecesOf(line);
   return csvLine(std::vector<std::string>(views.begin(), views.end()));
 }
 

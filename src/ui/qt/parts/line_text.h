@@ -13,7 +13,7 @@
 namespace tallywick {
 
 /// The pieces of a line between its runs of blanks.
-std::vector<std::string_view> fieldsOf(std::string_view line);
+std::vector<std::string_view> piecesOf(std::string_view line);
 
 /// The fields separated by commas; a field with a comma or a quote is quoted. No line end.
 std::string csvLine(std::span<const std::string> fields);

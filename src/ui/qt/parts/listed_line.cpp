@@ -100,7 +100,7 @@ bool isTable(const LineColumns& columns) {
 }  // namespace
 
 ListedLine readLine(std::string_view text) {
-  const FieldsOfLine fields = fieldsOf(text);
+  const FieldsOfLine fields = piecesOf(text);
   ListedLine line;
   if (fields.empty()) return line;
   if (!isDate(fields[0])) {
@@ -128,7 +128,7 @@ std::size_t cellsIn(LineField field) {
 std::optional<std::vector<std::string>> cellsOf(const LineColumns& columns, std::string_view text,
                                                 std::string_view matched) {
   if (isTable(columns)) {
-    const FieldsOfLine fields = fieldsOf(text);
+    const FieldsOfLine fields = piecesOf(text);
     if (fields.size() != columns.size()) return std::nullopt;
     return std::vector<std::string>(fields.begin(), fields.end());
   }

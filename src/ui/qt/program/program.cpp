@@ -13,9 +13,9 @@
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/program/screenshot.h"
 #include "ui/qt/program/steps.h"
+#include "ui/qt/windows/qt_transfer_window.h"
 #include "ui/qt/windows/selection_window.h"
 #include "ui/qt/windows/text_size.h"
-#include "ui/qt/windows/transfer_window.h"
 
 #include <QIcon>
 #include <QSettings>

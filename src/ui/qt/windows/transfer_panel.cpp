@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString textOf(const TransferProgress& soFar) {
+QString progressText(const TransferProgress& soFar) {
   if (soFar.filesInAll == 0) return u"Connecting…"_s;
   const QLocale locale;
   return u"%1 of %2 files, %3"_s.arg(locale.toString(soFar.files), locale.toString(soFar.filesInAll),
@@ -37,7 +37,7 @@ TransferPanel::TransferPanel(QWidget* parent)
 }
 
 void TransferPanel::showProgress(const TransferProgress& soFar) {
-  if (!cancelled_) text_->setText(textOf(soFar));
+  if (!cancelled_) text_->setText(progressText(soFar));
   if (!isHidden()) return;
   focusBefore_ = QApplication::focusWidget();
   show();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/qt/windows/transfer_window.h"
+#include "ui/qt/windows/qt_transfer_window.h"
 
-#include "core/surroundings.h"
+#include "core/outside.h"
 #include "ui/qt/parts/wording.h"
 #include "update/transfer_status.h"
 

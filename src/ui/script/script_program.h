@@ -5,6 +5,6 @@
 namespace tallywick::script {
 
 /// 0; 1 after a runtime error; 2 where the command line, the settings or a line cannot be understood.
-int runProgram(int argumentCount, char** arguments);
+int runScriptProgram(int argumentCount, char** arguments);
 
 }  // namespace tallywick::script

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "setup/records.h"
+#include "setup/book_texts.h"
 
 #include "core/plays.h"
 #include "core/text.h"

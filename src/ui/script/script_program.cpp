@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/script/program.h"
+#include "ui/script/script_program.h"
 
 #include "app/data_folder_choice.h"
 #include "core/file_names.h"
@@ -102,7 +102,7 @@ int run(const Options& options) {
 
 }  // namespace
 
-int runProgram(int argumentCount, char** arguments) {
+int runScriptProgram(int argumentCount, char** arguments) {
   Options options;
   CLI::App line("Runs the record book by the lines of a script, without a screen.", "tallywick-script");
   declare(line, options);
