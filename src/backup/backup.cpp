@@ -98,7 +98,8 @@ std::vector<std::string> takeOutOdd(BookContents& contents) {
 }
 
 bool isRecordBook(const BookContents& contents) {
-  const auto isInBook = [](const auto& entry) { return lowered(entry.first).starts_with("qzrnumbers/"); };
+  const std::string games = join(lowered(numbersFolder), "/");
+  const auto isInBook = [&games](const auto& entry) { return lowered(entry.first).starts_with(games); };
   return std::ranges::any_of(contents, isInBook);
 }
 

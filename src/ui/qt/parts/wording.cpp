@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/wording.h"
 
+#include "core/file_names.h"
 #include "core/text.h"
 
 namespace tallywick {
@@ -34,13 +35,11 @@ std::string toText(const QString& text) {
 }
 
 QString pathText(const std::filesystem::path& file) {
-  const std::u8string text = file.u8string();
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  return toQString(textOf(file));
 }
 
 std::filesystem::path toPath(const QString& file) {
-  const std::string text = toText(file);
-  return std::u8string(text.begin(), text.end());
+  return pathOf(toText(file));
 }
 
 Wording literally() {
