@@ -7,7 +7,6 @@
 #include "core/os.h"
 #include "core/runtime_error.h"
 
-#include <cstdlib>
 #include <exception>
 
 namespace tallywick {
@@ -27,9 +26,9 @@ fs::path seenFromHere(const fs::path& named) {
 }  // namespace
 
 fs::path chooseDataFolder(const std::string& named) {
-  if (!named.empty()) return seenFromHere(named);
-  if (const char* folder = std::getenv("TALLYWICK_FOLDER"); folder != nullptr && *folder != '\0') {
-    return seenFromHere(folder);
+  if (!named.empty()) return seenFromHere(pathOf(named));
+  if (const std::string folder = os::environment("TALLYWICK_FOLDER"); !folder.empty()) {
+    return seenFromHere(pathOf(folder));
   }
   std::error_code error;
   fs::path here = fs::current_path(error);

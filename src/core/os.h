@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tallywick::os {
 
@@ -114,6 +115,12 @@ std::filesystem::path userDataFolder();
 
 /// The file of the running program itself. Raises RuntimeError 53 where the platform does not say it.
 std::filesystem::path programFile();
+
+/// The words of the command line as UTF-8, the program's name first. The arguments are those of main().
+std::vector<std::string> commandLine(int argumentCount, char** arguments);
+
+/// An environment variable's value as UTF-8; empty where it is not set.
+std::string environment(const char* name);
 
 /// Whether the platform can start `program` as it is.
 bool canRun(const std::filesystem::path& program);

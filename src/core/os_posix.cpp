@@ -263,6 +263,15 @@ fs::path programFile() {
   return file;
 }
 
+std::vector<std::string> commandLine(int argumentCount, char** arguments) {
+  return {arguments, arguments + argumentCount};
+}
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
 bool canRun(const fs::path& program) {
   std::error_code ignored;
   if (!fs::is_regular_file(program, ignored) || ::access(program.c_str(), X_OK) != 0) return false;

@@ -19,6 +19,8 @@
 #define NOMINMAX
 #endif
 #include <windows.h>
+// Needs what the one above declares.
+#include <shellapi.h>
 
 namespace tallywick::os {
 
@@ -311,6 +313,22 @@ fs::path programFile() {
   name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
   if (name.empty()) throw RuntimeError(ErrorNumber::fileNotFound, "the program's own file");
   return name;
+}
+
+// The arguments of main() are in the code page, which lacks most letters.
+std::vector<std::string> commandLine(int, char**) {
+  int count = 0;
+  wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+  if (words == nullptr) fail(::GetLastError(), "command line");
+  std::vector<std::string> texts;
+  for (int i = 0; i < count; ++i) texts.push_back(textOf(fs::path(words[i])));
+  ::LocalFree(words);
+  return texts;
+}
+
+std::string environment(const char* name) {
+  const wchar_t* value = ::_wgetenv(wide(name).c_str());
+  return value != nullptr ? textOf(fs::path(value)) : "";
 }
 
 bool canRun(const fs::path& program) {

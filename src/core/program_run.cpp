@@ -8,6 +8,12 @@
 
 namespace tallywick {
 
+CommandLine::CommandLine(int argumentCount, char** arguments)
+    : words_(os::commandLine(argumentCount, arguments)) {
+  for (std::string& word : words_) pointers_.push_back(word.data());
+  pointers_.push_back(nullptr);
+}
+
 int runToItsEnd(std::string_view name, const std::function<int()>& program) noexcept {
   try {
     os::reportSizeLimit();

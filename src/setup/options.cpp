@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "setup/options.h"
 
+#include "core/file_names.h"
 #include "core/text.h"
 
 #include <CLI/CLI.hpp>
@@ -19,10 +20,16 @@ struct Words {
   std::vector<std::string> removedDraw;
 };
 
+/// The words of the command line are UTF-8 on every platform.
+CLI::Option* addPath(CLI::App& app, const std::string& name, std::filesystem::path& path,
+                     const std::string& description) {
+  const auto take = [&path](const std::string& text) { path = pathOf(text); };
+  return app.add_option_function<std::string>(name, take, description);
+}
+
 void addExports(CLI::App& app, const std::string& name, ExportFiles& files) {
-  CLI::Option* draws =
-      app.add_option(name, files.draws, "Real draws, from a public export")->type_name("CSV");
-  app.add_option(name + "-amounts", files.amounts, "Their amounts: draw date, amount, mark count")
+  CLI::Option* draws = addPath(app, name, files.draws, "Real draws, from a public export")->type_name("CSV");
+  addPath(app, name + "-amounts", files.amounts, "Their amounts: draw date, amount, mark count")
       ->type_name("CSV")
       ->needs(draws);
 }
@@ -86,7 +93,7 @@ void takeWords(const Words& words, Options& options) {
 
 void describe(CLI::App& app, Options& options, Words& words) {
   app.set_version_flag("--version", "tallywick-setup " TALLYWICK_VERSION);
-  CLI::Option* folder = app.add_option("DIR", options.folder, "The data folder to make");
+  CLI::Option* folder = addPath(app, "DIR", options.folder, "The data folder to make");
   auto& [powerBallExports, megaMillionsExports] = options.exports;
   addExports(app, "--powerball", powerBallExports);
   addExports(app, "--mega-millions", megaMillionsExports);
@@ -101,18 +108,17 @@ void describe(CLI::App& app, Options& options, Words& words) {
   };
   app.add_option_function<std::string>("--now", setClock, "Date and time to go by instead of the computer's")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"");
-  CLI::Option* tree =
-      app.add_option("--publish", options.tree, "Write an update server's folder tree instead");
-  CLI::Option* from = app.add_option("--from", options.from, "The data folder whose draws are published");
+  CLI::Option* tree = addPath(app, "--publish", options.tree, "Write an update server's folder tree instead");
+  CLI::Option* from = addPath(app, "--from", options.from, "The data folder whose draws are published");
   tree->type_name("TREE")->needs(from)->excludes(folder);
   from->type_name("DIR")->needs(tree);
-  CLI::Option* backup = app.add_option(
-      "--backup", options.backup,
-      "Write the record book in DIR to TO, a new zip or, where its name does not end in .zip, a "
-      "new folder; without TO to a dated zip beside DIR");
+  CLI::Option* backup =
+      addPath(app, "--backup", options.backup,
+              "Write the record book in DIR to TO, a new zip or, where its name does not end in .zip, a "
+              "new folder; without TO to a dated zip beside DIR");
   CLI::Option* restored =
-      app.add_option("--restore", options.restoredFrom,
-                     "Make DIR what a backup, a zip or a folder, contains; what DIR was stays beside it");
+      addPath(app, "--restore", options.restoredFrom,
+              "Make DIR what a backup, a zip or a folder, contains; what DIR was stays beside it");
   backup->type_name("[TO]")->expected(0, 1)->needs(folder);
   restored->type_name("FROM")->needs(folder)->excludes(backup);
   describeDraws(app, folder, options, words);

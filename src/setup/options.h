@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -16,24 +17,24 @@ namespace tallywick::setup {
 
 /// The exports of one game; empty where there are none.
 struct ExportFiles {
-  std::string draws;
-  std::string amounts;
+  std::filesystem::path draws;
+  std::filesystem::path amounts;
 };
 
 struct Options {
-  std::string folder;
+  std::filesystem::path folder;
   std::array<ExportFiles, 2> exports;
   bool forceDraws = false;
   /// The date and the time to go by.
   FixedClock clock = FixedClock(SystemClock());
   std::uint64_t seed = 1;
   bool withoutPlays = false;
-  std::string tree;
-  std::string from;
+  std::filesystem::path tree;
+  std::filesystem::path from;
   bool backsUp = false;
   /// Empty for a dated zip beside the folder.
-  std::string backup;
-  std::string restoredFrom;
+  std::filesystem::path backup;
+  std::filesystem::path restoredFrom;
   bool fetches = false;
   /// Addresses in the place of the settings'; empty for these.
   std::string powerBallSource;

@@ -8,7 +8,8 @@
 
 int main(int argc, char** argv) {
   return tallywick::runToItsEnd("tallywick-setup", [&] {
-    return tallywick::setup::runSetup(argc, argv,
+    tallywick::CommandLine line(argc, argv);
+    return tallywick::setup::runSetup(line.count(), line.arguments(),
                                       {std::cout, std::cerr, tallywick::os::isTerminalBehindErrors()});
   });
 }

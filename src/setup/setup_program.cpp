@@ -47,7 +47,7 @@ Day today(const Clock& clock) {
 /// What the exports of one game contain.
 struct ExportedGame {
   ExportedGame(Game itsGame, const ExportFiles& files, Day today)
-      : game(itsGame), name(files.draws), draws(exports::readDrawsFile(game, files.draws, today)) {
+      : game(itsGame), name(textOf(files.draws)), draws(exports::readDrawsFile(game, files.draws, today)) {
     if (!files.amounts.empty()) amounts = exports::readAmountsFile(game, files.amounts, today);
   }
 
@@ -127,7 +127,7 @@ void makeFolder(const Options& options, std::ostream& out) {
   if (!containsRecords(options.folder)) return makeNewFolder(options, exported, out);
   if (!exported.empty()) return mergeExports(options, exported, out);
   if (!options.forceDraws) {
-    throw std::runtime_error(options.folder +
+    throw std::runtime_error(textOf(options.folder) +
                              " already contains draws or plays; nothing was changed. --force-draws replaces "
                              "its draws and amounts");
   }
@@ -138,14 +138,13 @@ void makeFolder(const Options& options, std::ostream& out) {
 }
 
 void backUpFolder(const Options& options, std::ostream& out) {
-  const fs::path to =
-      options.backup.empty() ? datedBackup(options.folder, SystemClock()) : fs::path(options.backup);
+  const fs::path to = options.backup.empty() ? datedBackup(options.folder, SystemClock()) : options.backup;
   out << reportOf(backUp(options.folder, to), to) << "\n";
 }
 
 void restoreFolder(const Options& options, std::ostream& out) {
   const Restored restored = restore(options.restoredFrom, options.folder, SystemClock());
-  out << restored.files << " files restored to " << options.folder << " and compared\n";
+  out << restored.files << " files restored to " << textOf(options.folder) << " and compared\n";
   if (!restored.earlier.empty()) out << "What was there before is in " << textOf(restored.earlier) << "\n";
 }
 
@@ -211,7 +210,7 @@ bool fetch(const Options& options, const Outputs& outputs) {
     }
   }
   if (!isMade) {
-    outputs.errors << "tallywick-setup: " << options.folder
+    outputs.errors << "tallywick-setup: " << textOf(options.folder)
                    << " was not made; it needs the draws of both games\n";
   }
   return isComplete;

@@ -6,6 +6,8 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
-  return tallywick::runToItsEnd("qzrsrt3",
-                                [&] { return tallywick::sort::runSort(argc, argv, std::cout, std::cerr); });
+  return tallywick::runToItsEnd("qzrsrt3", [&] {
+    tallywick::CommandLine line(argc, argv);
+    return tallywick::sort::runSort(line.count(), line.arguments(), std::cout, std::cerr);
+  });
 }

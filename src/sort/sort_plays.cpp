@@ -123,7 +123,7 @@ int runSort(int argc, const char* const* argv, std::ostream& out, std::ostream& 
     return app.exit(error, out, errors) == 0 ? 0 : 2;
   }
   try {
-    sortFolder(folder);
+    sortFolder(pathOf(folder));
     for (const std::string& notice : takeRecoveryNotices()) errors << "qzrsrt3: " << notice << "\n";
     return 0;
   } catch (const std::exception& error) {

@@ -5,5 +5,8 @@
 
 int main(int argumentCount, char** arguments) {
   tallywick::os::joinConsole();
-  return tallywick::runToItsEnd("tallywick", [&] { return tallywick::runProgram(argumentCount, arguments); });
+  return tallywick::runToItsEnd("tallywick", [&] {
+    tallywick::CommandLine line(argumentCount, arguments);
+    return tallywick::runProgram(line.count(), line.arguments());
+  });
 }

@@ -3,6 +3,8 @@
 #include "ui/script/script_program.h"
 
 int main(int argumentCount, char** arguments) {
-  return tallywick::runToItsEnd(
-      "tallywick-script", [&] { return tallywick::script::runScriptProgram(argumentCount, arguments); });
+  return tallywick::runToItsEnd("tallywick-script", [&] {
+    tallywick::CommandLine line(argumentCount, arguments);
+    return tallywick::script::runScriptProgram(line.count(), line.arguments());
+  });
 }

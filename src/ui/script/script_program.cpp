@@ -84,9 +84,9 @@ int run(const Options& options) {
   if (!options.now.empty() && !clock.set(options.now)) return complain("--now takes \"MM-DD-YYYY HH:MM:SS\"");
   std::ifstream file;
   if (!options.script.empty()) {
-    file.open(options.script);
-    if (!file || std::filesystem::is_directory(options.script))
-      return complain(options.script + " cannot be read");
+    const std::filesystem::path script = pathOf(options.script);
+    file.open(script);
+    if (!file || std::filesystem::is_directory(script)) return complain(options.script + " cannot be read");
   }
   Settings settings = readSettings(folder);
   if (!options.server.empty()) {
