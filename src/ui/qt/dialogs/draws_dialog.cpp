@@ -86,7 +86,7 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   });
   showGame();
   const int width = sentencesWidth(*this, 88 * theme::gap);
-  resize(width, std::max(80 * theme::gap, column->heightForWidth(width)));
+  resizeOnScreen(*this, {width, std::max(80 * theme::gap, column->heightForWidth(width))});
 }
 
 void DrawsDialog::importAtOnce() {

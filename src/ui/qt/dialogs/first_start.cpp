@@ -15,7 +15,6 @@
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
 
-#include <QCommandLinkButton>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -23,6 +22,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QStyle>
+#include <algorithm>
 #include <iostream>
 
 namespace tallywick {
@@ -75,8 +76,8 @@ class StartChoices : public QDialog {
  public:
   StartChoices(const fs::path& folder, const fs::path& last) {
     setWindowTitle(toQString(programTitle));
-    setMinimumWidth(64 * theme::gap);
-    column_ = columnIn(this, theme::pageMargin);
+    auto* content = new QWidget;
+    column_ = columnIn(content, theme::pageMargin);
     column_->addWidget(heading(this, u"Welcome to Tallywick"_s));
     auto* text = new QLabel(u"There is no record book in %1 yet."_s.arg(pathText(folder)));
     text->setTextFormat(Qt::PlainText);
@@ -91,10 +92,17 @@ class StartChoices : public QDialog {
         Choice::sample);
     if (isDataFolder(last)) add(u"Open the &last one"_s, pathText(last), Choice::last);
     add(u"Open &another…"_s, u"Opens a record book in a folder that you choose."_s, Choice::open);
+    column_->addStretch();
     auto* buttons = new QDialogButtonBox;
     connect(buttons->addButton(u"&Quit"_s, QDialogButtonBox::RejectRole), &QPushButton::clicked, this,
             &QDialog::reject);
-    column_->addWidget(buttons);
+    buttons->setContentsMargins(theme::pageMargin, 0, theme::pageMargin, theme::pageMargin);
+    auto* all = columnIn(this);
+    all->addWidget(scrolled(content), 1);
+    all->addWidget(buttons);
+    const int least = content->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int width = std::max(sentencesWidth(*this, 64 * theme::gap), least);
+    resizeOnScreen(*this, {width, column_->heightForWidth(width) + all->minimumSize().height()});
   }
 
   Choice choose() {
@@ -105,10 +113,18 @@ class StartChoices : public QDialog {
 
  private:
   void add(const QString& text, const QString& explanation, Choice choice) {
-    auto* button = new QCommandLinkButton(text, explanation);
+    auto* button = new QPushButton(text);
     button->setAccessibleDescription(explanation);
-    column_->addWidget(button);
-    connect(button, &QCommandLinkButton::clicked, this, [this, choice] {
+    auto* below = new QLabel(explanation);
+    below->setTextFormat(Qt::PlainText);
+    below->setWordWrap(true);
+    below->setIndent(theme::pageMargin);
+    auto* both = new QVBoxLayout;
+    both->setSpacing(theme::halfGap);
+    both->addWidget(button, 0, Qt::AlignLeft);
+    both->addWidget(below);
+    column_->addLayout(both);
+    connect(button, &QPushButton::clicked, this, [this, choice] {
       choice_ = choice;
       accept();
     });

@@ -4,8 +4,9 @@
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,7 +22,10 @@ TypedDrawDialog::TypedDrawDialog(const DataFolder& folder, const GameInfo& game,
     : QDialog(parent), folder_(folder), game_(game), today_(today), error_(new QLabel) {
   const bool isPowerBall = game.game == Game::powerBall;
   setWindowTitle(u"Type In a Draw of %1"_s.arg(toQString(game.name)));
-  auto* form = new QFormLayout;
+  auto* fields = new QWidget;
+  auto* form = new QGridLayout(fields);
+  form->setContentsMargins(0, 0, theme::gap, 0);
+  form->setColumnStretch(1, 1);
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::gap);
   addField(*form, TypedField::date, u"&Date:"_s, u"Month, day and year: MM-DD-YYYY"_s);
@@ -46,19 +50,23 @@ TypedDrawDialog::TypedDrawDialog(const DataFolder& folder, const GameInfo& game,
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { add(); });
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* column = columnIn(this, theme::pageMargin);
-  column->addLayout(form);
+  scroller_ = scrolled(fields);
+  column->addWidget(scroller_, 1);
   column->addWidget(error_);
-  column->addStretch();
   column->addWidget(buttons);
-  resize(64 * theme::gap, sizeHint().height());
+  const int width = sentencesWidth(*this, 64 * theme::gap);
+  const int height = form->heightForWidth(width - 2 * theme::pageMargin) + buttons->sizeHint().height() +
+                     2 * theme::pageMargin + 2 * theme::gap;
+  resizeOnScreen(*this, {width, height});
   // The date is there already.
   fields_.at(TypedField::numbers).edit->setFocus();
 }
 
-void TypedDrawDialog::addField(QFormLayout& form, TypedField field, const QString& label,
+void TypedDrawDialog::addField(QGridLayout& form, TypedField field, const QString& label,
                                const QString& hint) {
-  const Field made{new QLineEdit, new QLabel};
-  made.edit->setPlaceholderText(hint);
+  const Field made{new QLineEdit, new QLabel, hint};
+  auto* explanation = new QLabel(hint);
+  explanation->setWordWrap(true);
   made.edit->setAccessibleDescription(hint);
   made.edit->setObjectName(u"typed%1"_s.arg(static_cast<int>(field)));
   made.error->setTextFormat(Qt::PlainText);
@@ -67,10 +75,13 @@ void TypedDrawDialog::addField(QFormLayout& form, TypedField field, const QStrin
   auto* column = new QVBoxLayout;
   column->setSpacing(theme::halfGap);
   column->addWidget(made.edit);
+  column->addWidget(explanation);
   column->addWidget(made.error);
   auto* name = new QLabel(label);
   name->setBuddy(made.edit);
-  form.addRow(name, column);
+  const int line = form.rowCount();
+  form.addWidget(name, line, 0, Qt::AlignTop);
+  form.addLayout(column, line, 1);
   fields_.emplace(field, made);
 }
 
@@ -86,12 +97,15 @@ void TypedDrawDialog::showError(TypedField field, const QString& text) {
   shown.edit->setAccessibleDescription(text);
   shown.edit->setFocus();
   shown.edit->selectAll();
+  // The error gets its place first.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  scroller_->ensureWidgetVisible(shown.error);
 }
 
 void TypedDrawDialog::add() {
   for (const auto& [field, shown] : fields_) {
     shown.error->hide();
-    shown.edit->setAccessibleDescription(shown.edit->placeholderText());
+    shown.edit->setAccessibleDescription(shown.hint);
   }
   error_->hide();
   try {

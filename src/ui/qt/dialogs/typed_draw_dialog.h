@@ -9,9 +9,10 @@
 #include <QDialog>
 #include <map>
 
-class QFormLayout;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 
 namespace tallywick {
 
@@ -27,9 +28,10 @@ class TypedDrawDialog : public QDialog {
   struct Field {
     QLineEdit* edit;
     QLabel* error;
+    QString hint;
   };
 
-  void addField(QFormLayout& form, exports::TypedField field, const QString& label, const QString& hint);
+  void addField(QGridLayout& form, exports::TypedField field, const QString& label, const QString& hint);
   std::string text(exports::TypedField field) const;
   void showError(exports::TypedField field, const QString& text);
   void add();
@@ -40,6 +42,7 @@ class TypedDrawDialog : public QDialog {
   const GameInfo& game_;
   Day today_;
   std::map<exports::TypedField, Field> fields_;
+  QScrollArea* scroller_;
   QLabel* error_;
   QString report_;
 };

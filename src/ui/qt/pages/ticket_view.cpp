@@ -33,13 +33,11 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::gap);
-  numbers_->setPlaceholderText(u"five numbers, as 5 11 23 42 60"_s);
-  numbers_->setMaximumWidth(40 * theme::gap);
-  extra_->setMaximumWidth(8 * theme::gap);
+  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  numbers_->setPlaceholderText(u"as 5 11 23 42 60"_s);
   date_->setDisplayFormat(u"MM-dd-yyyy"_s);
   date_->setCalendarPopup(true);
-  date_->setMaximumWidth(20 * theme::gap);
-  form->addRow(u"Num&bers:"_s, numbers_);
+  form->addRow(u"Five num&bers:"_s, numbers_);
   extraLabel_->setBuddy(extra_);
   form->addRow(extraLabel_, extra_);
   form->addRow(u"Da&te of the draw:"_s, date_);

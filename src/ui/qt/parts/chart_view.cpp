@@ -2,6 +2,7 @@
 #include "ui/qt/parts/chart_view.h"
 
 #include "core/text.h"
+#include "ui/qt/parts/focus_style.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
@@ -37,7 +38,8 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
       heading_(new QCPTextElement(plot_)),
       table_(new QTableWidget(this)) {
   auto* line = new QHBoxLayout(this);
-  line->setContentsMargins(0, 0, 0, 0);
+  // Room for the mark of the keyboard.
+  line->setContentsMargins(1, 1, 1, 1);
   line->setSpacing(theme::gap);
   line->addWidget(plot_, 3);
   line->addWidget(table_, 2);
@@ -159,6 +161,13 @@ void ChartView::colorAxes() {
 void ChartView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) draw();
   QWidget::changeEvent(event);
+}
+
+void ChartView::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  FocusStyle::drawRing(painter, plot_->geometry().adjusted(-1, -1, 1, 1), palette());
 }
 
 void ChartView::addActions(HandlerRunner& runner) {

@@ -30,6 +30,7 @@ class ChartView : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void draw();

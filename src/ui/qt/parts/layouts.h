@@ -8,6 +8,8 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSplitter>
 #include <algorithm>
 #include <initializer_list>
@@ -89,6 +91,22 @@ inline QLabel* sentences(QWidget* parent) {
 /// The width of a dialog with wrapped sentences: `least`, or 45 characters where the text is large.
 inline int sentencesWidth(const QWidget& dialog, int least) {
   return std::max(least, 45 * dialog.fontMetrics().averageCharWidth());
+}
+
+/// `content`, which scrolls where there is too little room for it. A part of its window, not of what the Tab
+/// key reaches.
+inline QScrollArea* scrolled(QWidget* content) {
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(content);
+  return area;
+}
+
+/// Gives the window that size, as far as it and its frame fit into the screen.
+inline void resizeOnScreen(QWidget& window, QSize size) {
+  window.resize(size.boundedTo(window.screen()->availableGeometry().size().shrunkBy(theme::windowFrame)));
 }
 
 inline QSplitter* splitter(Qt::Orientation orientation, const QString& name) {

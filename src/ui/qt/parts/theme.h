@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QMargins>
 #include <QPalette>
 
 namespace tallywick::theme {
@@ -15,6 +16,9 @@ namespace tallywick::theme {
 inline constexpr int gap = 8;
 inline constexpr int halfGap = gap / 2;
 inline constexpr int pageMargin = 2 * gap;
+
+/// Room for the frame that a desktop puts around a window, in device-independent pixels.
+inline constexpr QMargins windowFrame = {gap, 5 * gap, gap, gap};
 
 /// Readable text on its ground, and a shape that differs from its surroundings.
 inline constexpr double textContrast = 4.5;

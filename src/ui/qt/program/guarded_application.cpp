@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/guarded_application.h"
 
+#include "ui/qt/parts/focus_style.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QTimer>
@@ -11,6 +12,7 @@ namespace tallywick {
 
 GuardedApplication::GuardedApplication(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
+  setStyle(new FocusStyle);
   theme::makeHintsReadable();
 }
 

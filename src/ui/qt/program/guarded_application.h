@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The toolkit's application, with a guard where it hands events to the program's own code.
+// The toolkit's application, with the program's style and a guard where it hands events to the program's own
+// code.
 #pragma once
 
 #include "core/runtime_error.h"

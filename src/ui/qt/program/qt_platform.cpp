@@ -7,6 +7,7 @@
 #include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "ui/qt/parts/theme.h"
 #include "ui/qt/windows/transfer_panel.h"
 
 #include <QApplication>
@@ -42,11 +43,12 @@ QMessageBox::Icon iconOf(MessageBox::Icon icon) {
   return QMessageBox::NoIcon;
 }
 
-/// The window's top left corner where it is in the middle of its screen, halved in whole units.
+/// The top left corner of the window's frame where it is in the middle of its screen, halved in whole units.
 QPoint centred(const QWidget& window) {
   const QRect screen = window.screen()->availableGeometry();
-  return {screen.left() + std::max(0, (screen.width() - window.width()) / 2),
-          screen.top() + std::max(0, (screen.height() - window.height()) / 2)};
+  const QSize whole = window.size().grownBy(theme::windowFrame);
+  return {screen.left() + std::max(0, (screen.width() - whole.width()) / 2),
+          screen.top() + std::max(0, (screen.height() - whole.height()) / 2)};
 }
 
 /// Puts a value back at the end of a scope.

@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QImage>
 #include <QPointer>
-#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -111,7 +110,7 @@ HelpWindow::HelpWindow() : text_(new ManualText) {
   back->setEnabled(false);
   auto* close = new QShortcut(Qt::Key_Escape, this);
   connect(close, &QShortcut::activated, this, &QWidget::close);
-  resize(usualSize.boundedTo(screen()->availableSize() * 0.95));
+  resizeOnScreen(*this, usualSize);
 }
 
 void HelpWindow::goTo(const QString& page) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/layout_memory.h"
 
-#include <QScreen>
+#include "ui/qt/parts/layouts.h"
+
 #include <QSettings>
-#include <QSplitter>
-#include <QStyle>
 #include <QWidget>
 
 namespace tallywick {
@@ -21,18 +20,12 @@ QString nameOf(const QSplitter& splitter) {
   return splitter.property("layoutName").toString();
 }
 
-/// Room for a frame that the window manager draws.
-QSize largestOn(const QScreen& screen, const QWidget& window) {
-  const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-  return screen.availableGeometry().size() - QSize(0, title);
-}
-
 }  // namespace
 
 void restoreLayout(QWidget& window, QSize usual) {
   const QSettings settings;
   const QSize last = settings.value(keyOf(window, u"size"_s), usual).toSize();
-  window.resize(last.boundedTo(largestOn(*window.screen(), window)));
+  resizeOnScreen(window, last);
   for (QSplitter* splitter : window.findChildren<QSplitter*>()) {
     splitter->restoreState(settings.value(keyOf(window, nameOf(*splitter))).toByteArray());
   }

@@ -25,7 +25,6 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -106,12 +105,7 @@ void MainWindow::addPages() {
   column->addWidget(doublePlayNote_);
   column->addWidget(pages_, 1);
   // On a screen too small for the pages they scroll.
-  auto* scroller = new QScrollArea;
-  scroller->setFrameShape(QFrame::NoFrame);
-  scroller->setWidgetResizable(true);
-  scroller->setFocusPolicy(Qt::NoFocus);
-  scroller->setWidget(content);
-  setCentralWidget(scroller);
+  setCentralWidget(scrolled(content));
 }
 
 QWidget* MainWindow::gameShown() {

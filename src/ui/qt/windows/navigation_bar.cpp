@@ -85,21 +85,21 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   auto* games = row(0);
   games->addWidget(powerBall_);
   games->addWidget(megaMillions_);
-  auto* bar = new QHBoxLayout(this);
-  bar->setContentsMargins(0, 0, 0, 0);
-  bar->setSpacing(theme::gap);
+  auto* bar = row();
   bar->addLayout(games);
   bar->addSpacing(theme::gap);
   bar->addWidget(selection);
   bar->addWidget(update);
   bar->addWidget(progress, 1);
-  bar->addWidget(updateNote(), 1);
   bar->addWidget(transfer_);
   bar->addStretch();
   bar->addWidget(next);
   bar->addWidget(backup);
   bar->addWidget(draws);
   bar->addWidget(settings);
+  auto* column = columnIn(this);
+  column->addLayout(bar);
+  column->addWidget(updateNote());
 
   Binding& binding = window.binding();
   binding.bind(form.bar.Command7, *powerBall_, withMnemonic('P'));
@@ -121,7 +121,6 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
 
 QWidget* NavigationBarView::updateNote() {
   auto* box = new QWidget(this);
-  note_->setMinimumWidth(20 * theme::gap);
   again_->setToolTip(u"Asks once more for the draws of both games"_s);
   auto* line = new QHBoxLayout(box);
   line->setContentsMargins(0, 0, 0, 0);

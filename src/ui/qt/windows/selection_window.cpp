@@ -22,7 +22,6 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolButton>
 #include <array>
@@ -75,12 +74,7 @@ SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
   sides->setSpacing(theme::pageMargin);
   sides->addWidget(slipSide());
   sides->addWidget(listSide(), 1);
-  auto* scroller = new QScrollArea;
-  scroller->setFrameShape(QFrame::NoFrame);
-  scroller->setWidgetResizable(true);
-  scroller->setFocusPolicy(Qt::NoFocus);
-  scroller->setWidget(content);
-  setCentralWidget(scroller);
+  setCentralWidget(scrolled(content));
   addStatus();
   answerHelpKey();
   surroundActions();
