@@ -1,19 +1,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Runs the window tests without a display and without the user's own settings.
+// Runs the window tests without a display and without the user's own settings. The screen has the size that
+// TALLYWICK_TEST_SCREEN gives, 1024x768 without it. Every dialog and box that a test shows is looked at.
+#include "qt/look.h"
 #include "ui/qt/program/guarded_application.h"
 
+#include <QDialog>
+#include <QFile>
+#include <QFileDialog>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+namespace {
+
+class WatchedApplication : public tallywick::GuardedApplication {
+ public:
+  using GuardedApplication::GuardedApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    const bool isShown = event->type() == QEvent::Show && qobject_cast<QDialog*>(receiver) != nullptr &&
+                         qobject_cast<QFileDialog*>(receiver) == nullptr;
+    const bool isAccepted = GuardedApplication::notify(receiver, event);
+    if (isShown) tallywick::test::look(*static_cast<QWidget*>(receiver));
+    return isAccepted;
+  }
+};
+
+void makeScreen(const QString& file) {
+  const QList<QByteArray> sides =
+      QByteArray(qEnvironmentVariableIsSet("TALLYWICK_TEST_SCREEN") ? qgetenv("TALLYWICK_TEST_SCREEN")
+                                                                    : "1024x768")
+          .split('x');
+  QFile screen(file);
+  EXPECT_TRUE(screen.open(QFile::WriteOnly));
+  screen.write(R"({"screens":[{"name":"test","x":0,"y":0,"width":)" + sides.at(0) + R"(,"height":)" +
+               sides.at(1) + R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.toLocal8Bit());
+}
+
+}  // namespace
+
 int main(int argumentCount, char** arguments) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argumentCount, arguments);
   const QTemporaryDir settings;
+  makeScreen(settings.filePath(QStringLiteral("screen.json")));
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   QCoreApplication::setOrganizationName(QStringLiteral("Tallywick"));
   QCoreApplication::setApplicationName(QStringLiteral("tallywick"));
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  const tallywick::GuardedApplication qt(argumentCount, arguments);
+  const WatchedApplication qt(argumentCount, arguments);
   return RUN_ALL_TESTS();
 }
