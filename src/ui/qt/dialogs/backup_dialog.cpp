@@ -44,17 +44,22 @@ class Waiting {
 BackupDialog::BackupDialog(const std::filesystem::path& book, HandlerRunner& runner, QWidget* parent)
     : QDialog(parent), book_(book), runner_(runner) {
   setWindowTitle(u"Backup"_s);
+  auto* content = new QWidget;
+  auto* parts = columnIn(content);
+  parts->addWidget(backUpPart());
+  parts->addSpacing(theme::gap);
+  parts->addWidget(restorePart());
+  parts->addStretch();
   auto* column = columnIn(this, theme::pageMargin);
-  column->addWidget(backUpPart());
-  column->addSpacing(theme::gap);
-  column->addWidget(restorePart());
-  column->addStretch();
+  column->addWidget(scrolled(content), 1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
   suggest();
   const int width = sentencesWidth(*this, 80 * theme::gap);
-  resize(width, column->heightForWidth(width));
+  const int height = parts->heightForWidth(width - 2 * theme::pageMargin) + buttons->sizeHint().height() +
+                     2 * theme::pageMargin + theme::gap;
+  resizeOnScreen(*this, {width, height});
 }
 
 QWidget* BackupDialog::backUpPart() {
