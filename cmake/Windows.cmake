@@ -1,0 +1,27 @@
+# What programs for Windows have beyond the others: an icon, a version, and a manifest (long paths, UTF-8 as the code page,
+# sharp on every display).
+if(WIN32)
+  enable_language(RC)
+endif()
+
+# tallywick_windows_resources(TARGET DESCRIPTION): gives the program `target` its resources; elsewhere nothing.
+function(tallywick_windows_resources target description)
+  if(NOT WIN32)
+    return()
+  endif()
+  set(windows "${PROJECT_SOURCE_DIR}/packaging/windows")
+  set(icon "${PROJECT_BINARY_DIR}/tallywick.ico")
+  if(NOT TARGET tallywick_icon)
+    find_program(ICOTOOL icotool REQUIRED)
+    file(GLOB pictures CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/packaging/icons/*.png")
+    add_custom_command(OUTPUT "${icon}" COMMAND ${ICOTOOL} --create --output=${icon} ${pictures} DEPENDS ${pictures} VERBATIM)
+    add_custom_target(tallywick_icon DEPENDS "${icon}")
+  endif()
+  set(resources "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
+  string(REPLACE "." "," version_numbers "${PROJECT_VERSION}")
+  configure_file("${windows}/program.rc.in" "${resources}" @ONLY)
+  configure_file("${windows}/program.manifest.in" "${resources}.manifest" @ONLY)
+  target_sources(${target} PRIVATE "${resources}")
+  set_source_files_properties("${resources}" PROPERTIES OBJECT_DEPENDS "${icon};${resources}.manifest")
+  add_dependencies(${target} tallywick_icon)
+endfunction()
