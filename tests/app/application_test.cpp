@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the program: the splash, the registry, what closes with what, recovery.
+#include "app/error_explained.h"
 #include "app/game_pages.h"
+#include "core/runtime_error.h"
 #include "support/fake_platform.h"
 
 #include <gmock/gmock.h>
@@ -11,6 +13,16 @@ namespace {
 
 using test::ApplicationTest;
 using testing::ElementsAre;
+
+TEST(ErrorExplained, SaysInWholeSentencesWhereAndWhatToDo) {
+  for (const ErrorNumber number :
+       {ErrorNumber::typeMismatch, ErrorNumber::internalError, ErrorNumber::deviceIoError,
+        ErrorNumber::fileNotFound, ErrorNumber::diskFull, ErrorNumber::inputPastEnd,
+        ErrorNumber::permissionDenied, ErrorNumber::pathFileAccess, ErrorNumber::pathNotFound}) {
+    const std::string text = errorExplained(RuntimeError(number, "QZRNUM6.Dat, record 3"));
+    EXPECT_THAT(text, testing::MatchesRegex("Where: QZRNUM6.Dat, record 3\n\n.*[.]\n\n[A-Z].*[a-z][.]"));
+  }
+}
 
 TEST(StartUp, SurvivesAFolderThatDoesNotStand) {
   MainForm form;

@@ -38,7 +38,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"drwxr-xr-x 2 owner group 4096 Nov 21 10:35 folder", ""},
                     Case{"lrwxrwxrwx 1 owner group 9 Nov 21 10:35 link -> /etc/passwd", ""},
                     Case{"crw-rw-rw- 1 root root 1, 3 Nov 21 10:35 null", ""}, Case{"total 12", ""},
-                    Case{"", ""}, Case{"-rw-r--r-- 1 owner group", "bad"},
+                    Case{"", ""}, Case{"-rw-r--r- 1 owner group 5 Nov 21 10:35 a", ""},
+                    Case{"-rw-r--r-- 1 owner group", "bad"},
                     Case{"-rw-r--r-- 1 owner group 5 Nov 21 10:35", "bad"}));
 INSTANTIATE_TEST_SUITE_P(Windows, PeopleListing,
                          testing::Values(Case{"11-21-26  10:35AM                 1234 a b.Dat",

@@ -56,7 +56,7 @@ class Handler(BaseHTTPRequestHandler):
         if self.headers["If-None-Match"] == version:
             self.answer(304)
         else:
-            self.answer(200, gzip.compress(body), ETag=version, Content_Encoding="gzip")
+            self.answer(200, gzip.compress(body), ETag=version, Content_Encoding="x-gzip")
 
     def send_cut(self, name):
         """Everything but the checksum and the length of what was packed."""
