@@ -2,6 +2,7 @@
 #include "core/record_shapes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tallywick {
 
@@ -31,16 +32,19 @@ RecordShape::RecordShape(std::string_view record, std::span<const FieldPlace> pl
   }
   std::memcpy(mask_.data(), mask.data(), mask.size());
   std::memcpy(value_.data(), value.data(), value.size());
-  std::copy(places.begin(), places.end(), places_.begin());
+  std::copy(places.begin(), places.end(), places_.of.begin());
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    if (places[i].size == 2) places_.pairs |= std::uint32_t{1} << i;
+  }
 }
 
-const RecordShape* RecordShapes::findOther(std::string_view text, std::size_t fieldCount) {
-  const auto other = std::find_if(shapes_.begin(), shapes_.end(),
-                                  [&](const RecordShape& shape) { return shape.fits(text, fieldCount); });
-  if (other == shapes_.end()) return nullptr;
-  const auto index = static_cast<std::size_t>(other - shapes_.begin());
-  shapes_[last_].follower = index;
-  return found(index);
+RecordShape* RecordShapes::findOther(RecordShape& last, std::string_view text) {
+  for (RecordShape& other : shapes_) {
+    if (!other.fits(text)) continue;
+    last.otherFollower = std::exchange(last.follower, &other);
+    return &other;
+  }
+  return nullptr;
 }
 
 void RecordShapes::learn(std::string_view record, std::span<const FieldPlace> places) {
@@ -48,19 +52,21 @@ void RecordShapes::learn(std::string_view record, std::span<const FieldPlace> pl
   // separator.
   const bool endsForSure = record.ends_with(',') || record.ends_with('\n');
   if (!endsForSure || record.size() > RecordShape::maxLength) return;
-  if (learned_ > patience && learned_ > found_) {
+  const bool seldomFound = learned_ > patience && learned_ > found_;
+  if (seldomFound || !isFor(places.size())) {
     shapes_.clear();
-    return;
+    last_ = nullptr;
+    if (seldomFound) return;
   }
+  shapes_.reserve(mostShapes);
   const std::size_t index = learned_++ % mostShapes;
-  if (index == shapes_.size()) {
-    shapes_.emplace_back(record, places);
-  } else {
-    shapes_[index] = RecordShape(record, places);
-  }
-  shapes_[last_].follower = index;
-  shapes_[index].follower = index;
-  last_ = index;
+  const bool isNew = index >= shapes_.size();
+  RecordShape& learned = isNew ? shapes_.emplace_back(record, places) : shapes_[index];
+  if (!isNew) learned = RecordShape(record, places);
+  learned.follower = &learned;
+  learned.otherFollower = &learned;
+  if (last_ != nullptr) last_->otherFollower = std::exchange(last_->follower, &learned);
+  last_ = &learned;
 }
 
 }  // namespace tallywick

@@ -20,7 +20,13 @@ struct FieldPlace {
 };
 
 inline constexpr std::size_t maxRecordFields = 18;
-using FieldPlaces = std::array<FieldPlace, maxRecordFields>;
+
+/// Where the fields of a record are.
+struct FieldPlaces {
+  std::array<FieldPlace, maxRecordFields> of{};
+  /// Bit i is set where field i is known to have two characters, as nearly all numbers have.
+  std::uint32_t pairs = 0;
+};
 
 /// Where the separators of a record are and where its digits.
 class RecordShape {
@@ -31,31 +37,36 @@ class RecordShape {
   /// `record` is a whole record with its last separator, which must be a comma or LF.
   RecordShape(std::string_view record, std::span<const FieldPlace> places);
 
+  std::size_t fieldCount() const { return fieldCount_; }
+
   /// Whether the record that begins `text` looks like this one, and something follows it.
-  bool fits(std::string_view text, std::size_t fieldCount) const {
-    if (fieldCount != fieldCount_ || text.size() <= blocks_ * sizeof(Block)) return false;
-    std::uint64_t differences = 0;
-    for (std::size_t i = 0; i < blocks_; ++i) differences |= differencesIn(i, text.data());
-    return differences == 0;
+  bool fits(std::string_view text) const {
+    if (text.size() <= blocks_ * sizeof(Block)) return false;
+    Words differences{};
+    for (std::size_t i = 0; i < blocks_; ++i) {
+      const char* const here = text.data() + i * sizeof(Block);
+      differences |= (wordsAt(here) & mask_[i][0]) ^ value_[i][0];
+      differences |= (wordsAt(here + sizeof(Words)) & mask_[i][1]) ^ value_[i][1];
+    }
+    return (differences[0] | differences[1]) == 0;
   }
 
   std::size_t length() const { return length_; }
   const FieldPlaces& places() const { return places_; }
 
-  /// Which of the learned shapes followed this one the last time.
-  std::size_t follower = 0;
+  /// Which of the learned shapes follow this one, the usual one and another.
+  RecordShape* follower = nullptr;
+  RecordShape* otherFollower = nullptr;
 
  private:
-  using Block = std::array<std::uint64_t, 4>;
+  /// Two words that the processor compares at once.
+  using Words [[gnu::vector_size(16)]] = std::uint64_t;
+  using Block = std::array<Words, 2>;
 
-  std::uint64_t differencesIn(std::size_t block, const char* text) const {
-    Block read;
-    std::memcpy(&read, text + block * sizeof(Block), sizeof(Block));
-    std::uint64_t differences = 0;
-    for (std::size_t i = 0; i < read.size(); ++i) {
-      differences |= (read[i] & mask_[block][i]) ^ value_[block][i];
-    }
-    return differences;
+  static Words wordsAt(const char* text) {
+    Words words;
+    std::memcpy(&words, text, sizeof words);
+    return words;
   }
 
   std::size_t fieldCount_;
@@ -69,27 +80,58 @@ class RecordShape {
 /// The shapes of a file's records, as far as they are worth knowing.
 class RecordShapes {
  public:
+  RecordShapes() = default;
+  RecordShapes(RecordShapes&&) = default;
+  RecordShapes& operator=(RecordShapes&&) = default;
+  RecordShapes(const RecordShapes&) = delete;
+  RecordShapes& operator=(const RecordShapes&) = delete;
+
   /// The shape of the record that begins `text`; null where none is known.
   const RecordShape* find(std::string_view text, std::size_t fieldCount) {
-    if (shapes_.empty()) return nullptr;
-    const std::size_t guess = shapes_[last_].follower;
-    if (!shapes_[guess].fits(text, fieldCount)) return findOther(text, fieldCount);
-    return found(guess);
+    if (!isFor(fieldCount)) return nullptr;
+    RecordShape* const shape = findAfter(*last_, text);
+    if (shape != nullptr) {
+      last_ = shape;
+      ++found_;
+    }
+    return shape;
+  }
+
+  /// Gives the start of each record at the front of `text` and the places of its fields to `use`, as long as
+  /// the shapes are known, and returns how many there were. `text` becomes what is left.
+  template <typename Use>
+  std::size_t forEachKnown(std::string_view& text, std::size_t fieldCount, Use use) {
+    if (!isFor(fieldCount)) return 0;
+    std::size_t count = 0;
+    RecordShape* last = last_;
+    while (RecordShape* const shape = findAfter(*last, text)) {
+      use(text.data(), shape->places());
+      text.remove_prefix(shape->length());
+      last = shape;
+      ++count;
+    }
+    last_ = last;
+    found_ += count;
+    return count;
   }
 
   /// Takes note of a record whose shape was not known.
   void learn(std::string_view record, std::span<const FieldPlace> places);
 
  private:
-  const RecordShape* found(std::size_t index) {
-    ++found_;
-    last_ = index;
-    return &shapes_[index];
+  bool isFor(std::size_t fieldCount) const { return last_ != nullptr && last_->fieldCount() == fieldCount; }
+  /// The shape of the record that begins `text` and follows one of the shape `last`.
+  RecordShape* findAfter(RecordShape& last, std::string_view text) {
+    if (last.follower->fits(text)) return last.follower;
+    if (last.otherFollower->fits(text)) return last.otherFollower;
+    return findOther(last, text);
   }
-  const RecordShape* findOther(std::string_view text, std::size_t fieldCount);
+  RecordShape* findOther(RecordShape& last, std::string_view text);
 
+  /// All of one number of fields. Has its room from the start, so that its elements never move.
   std::vector<RecordShape> shapes_;
-  std::size_t last_ = 0;
+  /// That of the last record; null where none is known.
+  RecordShape* last_ = nullptr;
   std::size_t found_ = 0;
   std::size_t learned_ = 0;
 };

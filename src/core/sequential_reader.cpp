@@ -96,7 +96,7 @@ const FieldPlaces& SequentialReader::cutRecord(std::size_t fieldCount) {
     readOn();
     recordBegin_ = position_;
   }
-  shapes_.learn(text_.substr(recordBegin_, position_ - recordBegin_), std::span(cut_).first(fieldCount));
+  shapes_.learn(text_.substr(recordBegin_, position_ - recordBegin_), std::span(cut_.of).first(fieldCount));
   return cut_;
 }
 
@@ -107,7 +107,7 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
       if (isOpen()) return false;
       // The file ends behind a comma: what follows it is an empty field, as it is before a line end.
       if (i > 0 && i + 1 == fieldCount && endedByComma_) {
-        cut_[i] = {position_ - recordBegin_, 0};
+        cut_.of[i] = {position_ - recordBegin_, 0};
         continue;
       }
       throw RuntimeError(ErrorNumber::inputPastEnd, join(name_, ", record ", std::to_string(recordNumber_),
@@ -115,7 +115,7 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
                                                          std::to_string(fieldCount), " is beyond the end"));
     }
     const std::string_view field = cutField();
-    cut_[i] = {static_cast<std::size_t>(field.data() - text_.data()) - recordBegin_, field.size()};
+    cut_.of[i] = {static_cast<std::size_t>(field.data() - text_.data()) - recordBegin_, field.size()};
   }
   return !isOpen() || !atEnd();
 }

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,8 +27,13 @@ template <std::size_t Count>
 class RecordView {
  public:
   RecordView(const char* begin, const FieldPlaces& places) : begin_(begin), places_(places) {}
-  std::string_view operator[](std::size_t index) const {
-    return {begin_ + places_[index].start, places_[index].size};
+  std::string_view operator[](std::size_t index) const { return {at(index), places_.of[index].size}; }
+  /// The first character of a field.
+  const char* at(std::size_t index) const { return begin_ + places_.of[index].start; }
+  /// Whether the `count` fields from `first` on are known to have two characters each.
+  bool havePairs(std::size_t first, std::size_t count) const {
+    const std::uint32_t asked = ((std::uint32_t{1} << count) - 1) << first;
+    return (places_.pairs & asked) == asked;
   }
   Fields<Count> fields() const {
     Fields<Count> fields;
@@ -75,6 +81,16 @@ class SequentialReader {
     static_assert(Count <= maxRecordFields);
     const FieldPlaces& places = nextRecord(Count);
     return {text_.data() + recordBegin_, places};
+  }
+
+  /// Gives the next records to `use`, as long as they look like others before them; maybe none.
+  template <std::size_t Count, typename Use>
+  void forEachAlike(Use use) {
+    std::string_view left = rest();
+    recordNumber_ += shapes_.forEachKnown(left, Count, [&](const char* begin, const FieldPlaces& places) {
+      use(RecordView<Count>(begin, places));
+    });
+    position_ = text_.size() - left.size();
   }
 
   /// How many records have been begun.
@@ -129,7 +145,10 @@ void forEachRecord(SequentialReader& reader, Use use) {
 /// The same without cutting fields that nobody asks for.
 template <std::size_t Count, typename Use>
 void forEachRecordView(SequentialReader& reader, Use use) {
-  while (!reader.atEnd()) use(reader.recordView<Count>());
+  while (!reader.atEnd()) {
+    use(reader.recordView<Count>());
+    reader.forEachAlike<Count>(use);
+  }
 }
 
 /// Kept slip: gives every record but the last one to `use`; the displays read the first record, then, while
