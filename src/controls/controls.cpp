@@ -33,15 +33,14 @@ Control::Control(Form& form, std::string_view name, ControlType type)
   form_.enter(*this);
 }
 
-void Control::touch() {
-  if (std::exchange(changed_, true)) return;
+void Control::noteChange() {
+  changed_ = true;
   form_.noteChange(*this);
 }
 
 void ListBox::clear() {
-  items_.clear();
+  clearItems();
   emphasis_.clear();
-  touch();
 }
 
 void ListBox::setEmphasis(std::vector<std::string> texts) {
@@ -51,9 +50,8 @@ void ListBox::setEmphasis(std::vector<std::string> texts) {
 }
 
 void ComboBox::clear() {
-  items_.clear();
+  clearItems();
   text_.clear();
-  touch();
 }
 
 void Chart::clear() {

@@ -7,9 +7,11 @@
 #include "controls/form.h"
 #include "controls/text_lines.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,10 +52,14 @@ class Control {
     property = value;
     touch();
   }
-  void touch();
+  void touch() {
+    if (!changed_) noteChange();
+  }
 
  private:
   friend class Form;
+  void noteChange();
+
   Form& form_;
   std::string name_;
   ControlType type_;
@@ -112,15 +118,49 @@ class Label : public VisibleControl {
   std::string caption_;
 };
 
-class ListBox : public VisibleControl {
+/// What lists and drop-downs have in common.
+class ItemsControl : public VisibleControl {
  public:
-  ListBox(Form& form, std::string_view name) : VisibleControl(form, name, ControlType::list) {}
-
   const TextLines& items() const { return items_; }
   void add(std::string_view item) {
     items_.add(item);
     touch();
   }
+  /// Adds one item, the pieces one after the other.
+  template <typename... Pieces>
+  void addJoined(const Pieces&... pieces) {
+    const std::initializer_list<std::string_view> views = {std::string_view(pieces)...};
+    std::size_t size = 0;
+    for (std::string_view view : views) size += view.size();
+    char* to = addItem(size);
+    for (std::string_view view : views) to = std::copy(view.begin(), view.end(), to);
+  }
+  /// Adds an item of `size` characters, which the caller writes to where this points.
+  char* addItem(std::size_t size) {
+    touch();
+    return items_.addLine(size);
+  }
+  /// Takes the items of another control; they are in memory only once.
+  void shareItems(const ItemsControl& other) {
+    items_.share(other.items_);
+    touch();
+  }
+
+ protected:
+  using VisibleControl::VisibleControl;
+  void clearItems() {
+    items_.clear();
+    touch();
+  }
+
+ private:
+  TextLines items_;
+};
+
+class ListBox : public ItemsControl {
+ public:
+  ListBox(Form& form, std::string_view name) : ItemsControl(form, name, ControlType::list) {}
+
   void clear();
   /// Texts that a binding may emphasise in the items, for example the numbers searched for; clear() empties
   /// them.
@@ -128,28 +168,21 @@ class ListBox : public VisibleControl {
   void setEmphasis(std::vector<std::string> texts);
 
  private:
-  TextLines items_;
   std::vector<std::string> emphasis_;
 };
 
 /// A drop-down: a text and a list of items, which are independent of each other until an item is chosen.
-class ComboBox : public VisibleControl {
+class ComboBox : public ItemsControl {
  public:
-  ComboBox(Form& form, std::string_view name) : VisibleControl(form, name, ControlType::combo) {}
+  ComboBox(Form& form, std::string_view name) : ItemsControl(form, name, ControlType::combo) {}
 
   const std::string& text() const { return text_; }
   void setText(std::string_view text) { change(text_, text); }
-  const TextLines& items() const { return items_; }
-  void add(std::string_view item) {
-    items_.add(item);
-    touch();
-  }
   /// Empties the items and the text.
   void clear();
 
  private:
   std::string text_;
-  TextLines items_;
 };
 
 class Frame : public VisibleControl {

@@ -10,16 +10,6 @@ namespace tallywick {
 
 namespace {
 
-/// The draw whose white balls begin at field `first` (from 0); the extra ball follows them.
-template <std::size_t Count>
-Draw drawAt(const Fields<Count>& record, std::size_t first) {
-  return {record[0],
-          record[1],
-          record[2],
-          {record[first], record[first + 1], record[first + 2], record[first + 3], record[first + 4]},
-          record[first + 5]};
-}
-
 /// Copies `piece`, which mostly has two characters, and returns what is behind it.
 char* put(char* to, std::string_view piece) {
   if (piece.size() == 2) {
@@ -46,23 +36,28 @@ std::string Draw::displayDate() const {
 }
 
 std::string Draw::line() const {
-  std::string text;
-  appendLine(text);
+  std::string text(lineSize(), ' ');
+  writeLine(text.data());
   return text;
 }
 
-void Draw::appendLine(std::string& to) const {
+std::size_t Draw::lineSize() const {
   std::size_t size = month.size() + day.size() + year.size() + extra.size() + 13;
   for (std::string_view ball : white) size += ball.size();
-  const std::size_t before = to.size();
-  to.resize(before + size, ' ');
-  char* here = put(to.data() + before, month);
-  *here++ = '-';
-  here = put(here, day);
-  *here++ = '-';
-  here = put(here, year) + 3;
-  for (std::string_view ball : white) here = put(here + 1, ball);
-  put(here + 3, extra);
+  return size;
+}
+
+void Draw::writeLine(char* to) const {
+  to = put(to, month);
+  *to++ = '-';
+  to = put(to, day);
+  *to++ = '-';
+  to = std::fill_n(put(to, year), 3, ' ');
+  for (std::string_view ball : white) {
+    *to++ = ' ';
+    to = put(to, ball);
+  }
+  put(std::fill_n(to, 3, ' '), extra);
 }
 
 Draw drawOf(const Fields<drawFields>& record) {

@@ -50,7 +50,42 @@ struct Draw {
   std::string displayDate() const;
   /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball.
   std::string line() const;
-  void appendLine(std::string& to) const;
+  std::size_t lineSize() const;
+  /// Writes the line, of lineSize() characters.
+  void writeLine(char* to) const;
+};
+
+/// The draw of a record, Fields or RecordView, whose white balls begin at field `first` (from 0); the extra
+/// ball follows them.
+template <typename Record>
+Draw drawAt(const Record& record, std::size_t first) {
+  return {record[0],
+          record[1],
+          record[2],
+          {record[first], record[first + 1], record[first + 2], record[first + 3], record[first + 4]},
+          record[first + 5]};
+}
+
+/// Tells most dates apart from those that are looked for without building a text of each: a history of a
+/// million draws is looked through for a few.
+class WantedDates {
+ public:
+  /// MMDDYYYY or MM-DD-YYYY.
+  void add(std::string_view date) { wanted_.set(mixed(0, date) % wanted_.size()); }
+  /// False where no such date has been added.
+  bool mayHave(std::string_view month, std::string_view day, std::string_view year) const {
+    return wanted_.test(mixed(mixed(mixed(0, month), day), year) % wanted_.size());
+  }
+
+ private:
+  static std::size_t mixed(std::size_t before, std::string_view text) {
+    for (const char letter : text) {
+      if (letter != '-') before = before * 31 + static_cast<unsigned char>(letter);
+    }
+    return before;
+  }
+
+  std::bitset<4096> wanted_;
 };
 
 Draw drawOf(const Fields<drawFields>& record);

@@ -27,9 +27,12 @@ class DrawIndex {
     if (const auto known = draws_.find(date); known != draws_.end()) return &known->second;
     if (!reader_) reader_.emplace(folder_, file_);
     while (!reader_->atEnd()) {
-      const Draw draw = drawOf(reader_->record<drawFields>());
-      const auto entered = draws_.try_emplace((draw.*dateText_)(), draw).first;
-      if (entered->first == date) return &entered->second;
+      const Draw draw = drawAt(reader_->recordView<drawFields>(), mainBalls);
+      if (!wanted_.mayHave(draw.month, draw.day, draw.year)) continue;
+      const auto [entered, isFirst] =
+          draws_.try_emplace(dates_ == Dates::asKeys ? draw.dateKey() : draw.displayDate());
+      if (isFirst) entered->second.keep(draw);
+      if (entered->first == date) return &entered->second.draw;
     }
     return nullptr;
   }

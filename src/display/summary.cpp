@@ -35,10 +35,10 @@ constexpr Headings megaMillionsHeadings = {
 constexpr std::array<std::string_view, 3> luckyFivePrizes = {" 5 of 5 Win:    $50,000",
                                                              " 4 of 5 Win:    $200.00", " 3 of 5 Win:    $3"};
 
-std::string previousDrawLine(const Draw& draw) {
-  std::string text = join(draw.displayDate(), "    ");
-  for (std::string_view ball : draw.white) text.append(" ").append(ball);
-  return text.append("     ").append(draw.extra);
+void addPreviousDraw(ListBox& list, const Draw& draw) {
+  const auto& white = draw.white;
+  list.addJoined(draw.month, "-", draw.day, "-", draw.year, "     ", white[0], " ", white[1], " ", white[2],
+                 " ", white[3], " ", white[4], "     ", draw.extra);
 }
 
 }  // namespace
@@ -115,9 +115,12 @@ void fillAmounts(SummaryPage& page, const DataFolder& folder, const GameInfo& ga
 
 void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List4.clear();
-  SequentialReader reader(folder, inFolder(game, searchDrawsFile));
-  forEachRecordButLast<drawFields>(
-      reader, [&](const Fields<drawFields>& record) { page.List4.add(previousDrawLine(drawOf(record))); });
+  SequentialReader reader(folder, inFolder(game, searchDrawsFile), SequentialReader::Reading::inPieces);
+  constexpr Draw::Gaps gaps = {4, 5};
+  forEachRecordButLast<drawFields>(reader, [&](const RecordView<drawFields>& record) {
+    const Draw draw = drawAt(record, mainBalls);
+    draw.writeLine(page.List4.addItem(draw.lineSize(gaps)), gaps);
+  });
 }
 
 void fillFrequentNumbers(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {

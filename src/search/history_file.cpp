@@ -5,6 +5,8 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace tallywick {
 
 std::optional<SequentialReader> openHistory(const DataFolder& folder, std::string_view written,
@@ -21,6 +23,15 @@ void reportUnreadable(std::string_view written, const RuntimeError& error, Messa
   showMessage(boxes,
               join("The draw history file \"", written, "\" cannot be read:\r\n", error.description(), "."),
               MessageBox::Icon::exclamation);
+}
+
+std::string_view addDraw(ItemsControl& to, const Draw& draw, std::string_view tail) {
+  const std::size_t size = draw.lineSize();
+  char* const item = to.addItem(1 + size + tail.size());
+  *item = ' ';
+  draw.writeLine(item + 1);
+  std::copy(tail.begin(), tail.end(), item + 1 + size);
+  return {item, 1 + size + tail.size()};
 }
 
 }  // namespace tallywick

@@ -3,12 +3,16 @@
 // the player.
 #pragma once
 
+#include "controls/controls.h"
+#include "core/draws.h"
 #include "core/outside.h"
 #include "core/runtime_error.h"
 #include "core/sequential_reader.h"
 #include "core/text.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -35,14 +39,54 @@ bool readToEnd(std::string_view written, MessageBoxes& boxes, Read read) {
   }
 }
 
-/// Whether one of the `count` fields from `first` on, which counts from 0, is `number`.
-template <std::size_t Count>
-bool containsNumber(const RecordView<Count>& record, std::size_t first, std::size_t count,
-                    std::string_view number) {
-  bool found = false;
-  // All of them are looked at: leaving at the first hit costs more than it saves.
-  for (std::size_t i = first; i < first + count; ++i) found |= sameText(record[i], number);
-  return found;
+/// Adds the draw's line, with a blank before it and `tail` behind it, and returns the item.
+std::string_view addDraw(ItemsControl& to, const Draw& draw, std::string_view tail = {});
+
+/// Runs `fill`, which adds items to `from`, and lets the others have the same ones, also where it ends with
+/// an error.
+template <typename Fill, typename... Others>
+void fillAlike(ItemsControl& from, Fill fill, Others&... others) {
+  const auto share = [&] { (others.shareItems(from), ...); };
+  try {
+    fill();
+  } catch (...) {
+    share();
+    throw;
+  }
+  share();
 }
+
+/// A number that is searched for, ready to be compared with the fields of many records.
+class SearchedNumber {
+ public:
+  /// `text` must live as long.
+  explicit SearchedNumber(std::string_view text) : text_(text), isPair_(text.size() == 2) {
+    if (isPair_) pair_ = pairAt(text.data());
+  }
+
+  /// Whether one of the `Compared` fields from `first` on, which counts from 0, is this number.
+  template <std::size_t Compared, std::size_t Count>
+  bool isIn(const RecordView<Count>& record, std::size_t first) const {
+    bool found = false;
+    // All of them are looked at: leaving at the first hit costs more than it saves.
+    if (isPair_ && record.havePairs(first, Compared)) {
+      for (std::size_t i = first; i < first + Compared; ++i) found |= pairAt(record.at(i)) == pair_;
+    } else {
+      for (std::size_t i = first; i < first + Compared; ++i) found |= record[i] == text_;
+    }
+    return found;
+  }
+
+ private:
+  static std::uint16_t pairAt(const char* text) {
+    std::uint16_t pair = 0;
+    std::memcpy(&pair, text, sizeof pair);
+    return pair;
+  }
+
+  std::string_view text_;
+  bool isPair_;
+  std::uint16_t pair_ = 0;
+};
 
 }  // namespace tallywick

@@ -73,34 +73,34 @@ const History* visibleHistory(const Histories& histories, const GameFrames& fram
 /// Lists the draws that contain one number and counts them.
 class Count {
  public:
-  Count(std::string_view number, ComboBox& results, ListBox* list)
-      : number_(number), results_(results), list_(list) {}
+  /// The draws come into `items`; the first one is the text of `results`, too.
+  Count(std::string_view number, ItemsControl& items, ComboBox& results)
+      : number_(number), items_(items), results_(results) {}
 
-  /// The record's draw begins at field `first`.
+  /// Takes the rest of the file, whose records have their draw from field `first` on.
   template <std::size_t Fields>
-  void take(const RecordView<Fields>& record, std::size_t first,
-            Draw (*drawOf)(const tallywick::Fields<Fields>&)) {
-    const bool isExtra = sameText(record[first + 5], number_);
-    if (isExtra || containsNumber(record, first, 5, number_)) list(drawOf(record.fields()), isExtra);
+  void takeAll(SequentialReader& history, std::size_t first) {
+    forEachRecordView<Fields>(history, [this, number = number_, first](const RecordView<Fields>& record) {
+      if (number.template isIn<6>(record, first)) list(record, first);
+    });
   }
 
   std::size_t times() const { return times_; }
 
  private:
-  void list(const Draw& draw, bool isExtra) {
-    line_.assign(1, ' ');
-    draw.appendLine(line_);
+  /// Not inline: that would slow down the loop, which seldom comes here.
+  template <std::size_t Fields>
+  [[gnu::noinline]] void list(const RecordView<Fields>& record, std::size_t first) {
+    const bool isExtra = number_.isIn<1>(record, first + 5);
+    const std::string_view item = addDraw(items_, drawAt(record, first));
     // Kept slip: a draw with the number as extra ball counts as a first one, whatever was found before.
-    if (times_ == 0 || isExtra) results_.setText(line_);
-    results_.add(line_);
-    if (list_ != nullptr) list_->add(line_);
+    if (times_ == 0 || isExtra) results_.setText(item);
     ++times_;
   }
 
-  std::string_view number_;
+  SearchedNumber number_;
+  ItemsControl& items_;
   ComboBox& results_;
-  ListBox* list_;
-  std::string line_;
   std::size_t times_ = 0;
 };
 
@@ -112,12 +112,9 @@ std::optional<std::size_t> countDraws(Count count, const History& history, const
   if (!reader) return std::nullopt;
   const bool whole = readToEnd(file, boxes, [&] {
     if (history.isDoublePlay) {
-      forEachRecordView<doublePlayFields>(*reader, [&](const RecordView<doublePlayFields>& record) {
-        count.take(record, doublePlayBalls, doublePlayDrawOf);
-      });
+      count.takeAll<doublePlayFields>(*reader, doublePlayBalls);
     } else {
-      forEachRecordView<drawFields>(
-          *reader, [&](const RecordView<drawFields>& record) { count.take(record, mainBalls, drawOf); });
+      count.takeAll<drawFields>(*reader, mainBalls);
     }
   });
   return whole ? std::make_optional(count.times()) : std::nullopt;
@@ -149,7 +146,7 @@ void Command21_Click(HavePlayedPage& page, const GameFrames& frames, const DataF
   if (history == nullptr) return;
   page.List6.clear();
   const std::string number = firstMarkedNumber(page.numbers);
-  const auto times = countDraws(Count(number, page.Combo5, nullptr), *history, folder, boxes);
+  const auto times = countDraws(Count(number, page.Combo5, page.Combo5), *history, folder, boxes);
   if (!times) return;
   if (*times == 0) {
     // Kept slip: also where a number is selected and never came up.
@@ -173,7 +170,11 @@ void Command30_Click(PlayedPage& page, const GameFrames& frames, const DataFolde
   const History* history = visibleHistory(drawHistories, frames);
   if (history == nullptr) return;
   const std::string& number = page.Command23.caption();
-  const auto times = countDraws(Count(number, page.Combo6, &page.List7), *history, folder, boxes);
+  std::optional<std::size_t> times;
+  const auto count = [&] {
+    times = countDraws(Count(number, page.List7, page.Combo6), *history, folder, boxes);
+  };
+  fillAlike(page.List7, count, page.Combo6);
   if (!times) return;
   page.List7.setEmphasis({number});
   page.Label24.setCaption(join(number, " Played: ", std::to_string(*times), " Times"));
@@ -194,7 +195,7 @@ void Command46_Click(HavePlayedPlaysPage& page, ComboBox& Combo5, const GameFram
   const History* history = visibleHistory(playHistories, frames);
   if (history == nullptr) return;
   const std::string number = firstMarkedNumber(page.numbers);
-  const auto times = countDraws(Count(number, page.Combo9, nullptr), *history, folder, boxes);
+  const auto times = countDraws(Count(number, page.Combo9, page.Combo9), *history, folder, boxes);
   if (times) page.Label26.setCaption(havePlayedTally(number, *times));
 }
 

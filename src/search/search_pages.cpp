@@ -3,6 +3,7 @@
 
 #include "core/plays.h"
 #include "core/text.h"
+#include "search/history_file.h"
 
 namespace tallywick {
 
@@ -33,19 +34,21 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
   auto& havePlayedPlays = pages.havePlayedPlays;
   clearAll(havePlayed.Combo2, played.Combo3, twoThree.Combo4, havePlayed.List6, played.List7, twoThree.List8,
            havePlayedPlays.List9);
-  SequentialReader history(folder, inFolder(game, searchDrawsFile));
-  std::string item;
-  forEachRecord<drawFields>(history, [&](const Fields<drawFields>& record) {
-    const Draw draw = drawOf(record);
-    item.assign(1, ' ');
-    draw.appendLine(item);
-    addToPicker(havePlayed.Combo2, item);
-    addToPicker(twoThree.Combo4, item);
-    for (ListBox* list : {&havePlayed.List6, &played.List7, &twoThree.List8, &havePlayedPlays.List9}) {
-      list->add(item);
-    }
-    addToPicker(played.Combo3, join(" ", draw.displayDate(), "    ", record[multiplierField]));
-  });
+  SequentialReader history(folder, inFolder(game, searchDrawsFile), SequentialReader::Reading::inPieces);
+  const auto addDraws = [&] {
+    forEachRecord<drawFields>(history, [&](const Fields<drawFields>& record) {
+      const Draw draw = drawOf(record);
+      const std::string_view item = addDraw(havePlayedPlays.List9, draw);
+      if (played.Combo3.items().empty()) {
+        for (ComboBox* picker : {&havePlayed.Combo2, &twoThree.Combo4}) picker->setText(item);
+        played.Combo3.setText(join(" ", draw.displayDate(), "    ", record[multiplierField]));
+      }
+      played.Combo3.addJoined(" ", draw.month, "-", draw.day, "-", draw.year, "    ",
+                              record[multiplierField]);
+    });
+  };
+  fillAlike(havePlayedPlays.List9, addDraws, havePlayed.Combo2, twoThree.Combo4, havePlayed.List6,
+            played.List7, twoThree.List8);
 }
 
 void fillPlayPicker(SearchPages& pages, const DataFolder& folder, const GameInfo& game) {
@@ -63,13 +66,12 @@ void fillDoublePlayLists(SearchPages& pages, const DataFolder& folder) {
   ListBox& List7 = pages.played.List7;
   ListBox& List8 = pages.twoThree.List8;
   clearAll(List6, List7, List8);
-  SequentialReader history(folder, inFolder(powerBall, doublePlayFile));
-  std::string item;
-  forEachRecord<doublePlayFields>(history, [&](const Fields<doublePlayFields>& record) {
-    item.assign(1, ' ');
-    doublePlayDrawOf(record).appendLine(item);
-    for (ListBox* list : {&List6, &List7, &List8}) list->add(item);
-  });
+  SequentialReader history(folder, inFolder(powerBall, doublePlayFile), SequentialReader::Reading::inPieces);
+  const auto addDraws = [&] {
+    forEachRecord<doublePlayFields>(
+        history, [&](const Fields<doublePlayFields>& record) { addDraw(List8, doublePlayDrawOf(record)); });
+  };
+  fillAlike(List8, addDraws, List6, List7);
 }
 
 void setSearchCaptions(SearchPages& pages, const std::array<std::string, 6>& newestDraw) {

@@ -84,7 +84,7 @@ constexpr Member oneTwoThreeHoosierMember = {.gameFolder = hoosierFolder,
                                              .fillsList = false,
                                              .everyLinesTail = LineTail::fieldTen};
 
-using DrawRecord = Fields<drawFields>;
+using DrawRecord = RecordView<drawFields>;
 
 std::vector<std::string> searchedNumbers(const Combination& combination, const ButtonRow<6>& numbers) {
   std::vector<std::string> searched;
@@ -94,18 +94,10 @@ std::vector<std::string> searchedNumbers(const Combination& combination, const B
   return searched;
 }
 
-bool containsAll(const RecordView<drawFields>& record, std::size_t compared,
-                 const std::vector<std::string>& searched) {
-  return std::all_of(searched.begin(), searched.end(), [&](std::string_view number) {
-    return containsNumber(record, mainBalls, compared, number);
-  });
-}
-
-void setLine(std::string& line, const DrawRecord& record, LineTail tail) {
-  line.assign(1, ' ');
-  drawOf(record).appendLine(line);
-  if (tail != LineTail::none) line.append("     ");
-  if (tail == LineTail::fieldTen) line.append(record[multiplierField]);
+/// What follows a draw in its line.
+std::string tailOf(const DrawRecord& record, LineTail tail) {
+  return tail == LineTail::none ? ""
+                                : join("     ", tail == LineTail::fieldTen ? record[multiplierField] : "");
 }
 
 std::string tally(const std::vector<std::string>& searched, std::size_t matches) {
@@ -125,14 +117,11 @@ class Results {
         laterTail_(member.everyLinesTail == LineTail::none ? combination.laterTail : member.everyLinesTail) {}
 
   void add(const DrawRecord& record) {
-    setLine(line_, record, tail_);
-    if (fillsList_) page_.List8.add(line_);
-    if (matches_ == 0) {
-      page_.Combo7.setText(line_);
-    } else if (laterTail_ != tail_) {
-      setLine(line_, record, laterTail_);
-    }
-    page_.Combo7.add(line_);
+    const Draw draw = drawAt(record, mainBalls);
+    if (fillsList_) addDraw(page_.List8, draw, tailOf(record, tail_));
+    const std::string_view item =
+        addDraw(page_.Combo7, draw, tailOf(record, matches_ == 0 ? tail_ : laterTail_));
+    if (matches_ == 0) page_.Combo7.setText(item);
     if (counts_) ++matches_;
   }
 
@@ -144,16 +133,34 @@ class Results {
   bool counts_;
   LineTail tail_;
   LineTail laterTail_;
-  std::string line_;
   std::size_t matches_ = 0;
 };
 
+/// Adds a draw that has the first number where it has the others as well. Seldom called: inline it would slow
+/// down the loop around it.
+template <std::size_t Compared>
+[[gnu::noinline]] void addCandidate(Results& results, const DrawRecord& record,
+                                    const std::vector<SearchedNumber>& searched) {
+  const bool hasAll = std::all_of(searched.begin() + 1, searched.end(), [&](const SearchedNumber& number) {
+    return number.isIn<Compared>(record, mainBalls);
+  });
+  if (hasAll) results.add(record);
+}
+
+/// Adds the draws that have all the numbers among their first `Compared` ones.
+template <std::size_t Compared>
+void addMatches(Results& results, SequentialReader& history, const std::vector<SearchedNumber>& searched) {
+  forEachRecordView<drawFields>(history, [&, first = searched.front()](const DrawRecord& record) {
+    if (first.isIn<Compared>(record, mainBalls)) addCandidate<Compared>(results, record, searched);
+  });
+}
+
 void addMatches(Results& results, SequentialReader& history, const Member& member,
-                const Combination& combination, const std::vector<std::string>& searched) {
+                const Combination& combination, const std::vector<std::string>& texts) {
+  const std::vector<SearchedNumber> searched(texts.begin(), texts.end());
   try {
-    forEachRecordView<drawFields>(history, [&](const RecordView<drawFields>& record) {
-      if (containsAll(record, combination.compared, searched)) results.add(record.fields());
-    });
+    combination.compared == 5 ? addMatches<5>(results, history, searched)
+                              : addMatches<6>(results, history, searched);
   } catch (const RuntimeError& error) {
     if (!member.mayEndInsideRecord || !error.is(ErrorNumber::inputPastEnd)) throw;
   }
