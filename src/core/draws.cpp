@@ -36,28 +36,28 @@ std::string Draw::displayDate() const {
 }
 
 std::string Draw::line() const {
-  std::string text(lineSize(), ' ');
-  writeLine(text.data());
+  std::string text(lineSize({}), ' ');
+  writeLine(text.data(), {});
   return text;
 }
 
-std::size_t Draw::lineSize() const {
-  std::size_t size = month.size() + day.size() + year.size() + extra.size() + 13;
+std::size_t Draw::lineSize(Gaps gaps) const {
+  std::size_t size = month.size() + day.size() + year.size() + extra.size() + 7 + gaps.date + gaps.extra;
   for (std::string_view ball : white) size += ball.size();
   return size;
 }
 
-void Draw::writeLine(char* to) const {
+void Draw::writeLine(char* to, Gaps gaps) const {
   to = put(to, month);
   *to++ = '-';
   to = put(to, day);
   *to++ = '-';
-  to = std::fill_n(put(to, year), 3, ' ');
+  to = std::fill_n(put(to, year), gaps.date, ' ');
   for (std::string_view ball : white) {
     *to++ = ' ';
     to = put(to, ball);
   }
-  put(std::fill_n(to, 3, ' '), extra);
+  put(std::fill_n(to, gaps.extra, ' '), extra);
 }
 
 Draw drawOf(const Fields<drawFields>& record) {

@@ -6,6 +6,7 @@
 #include "core/sequential_reader.h"
 
 #include <array>
+#include <bitset>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -50,9 +51,14 @@ struct Draw {
   std::string displayDate() const;
   /// Display date, four blanks, the white balls with a blank between, three blanks, the extra ball.
   std::string line() const;
-  std::size_t lineSize() const;
-  /// Writes the line, of lineSize() characters.
-  void writeLine(char* to) const;
+  /// Blanks before the blank of the first white ball, and before the extra ball.
+  struct Gaps {
+    std::size_t date = 3;
+    std::size_t extra = 3;
+  };
+  std::size_t lineSize(Gaps gaps) const;
+  /// Writes the line, or one with other gaps, of lineSize() characters.
+  void writeLine(char* to, Gaps gaps) const;
 };
 
 /// The draw of a record, Fields or RecordView, whose white balls begin at field `first` (from 0); the extra

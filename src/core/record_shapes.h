@@ -98,10 +98,10 @@ class RecordShapes {
   }
 
   /// Gives the start of each record at the front of `text` and the places of its fields to `use`, as long as
-  /// the shapes are known, and returns how many there were. `text` becomes what is left.
+  /// the shapes are known. `text` becomes what is left.
   template <typename Use>
-  std::size_t forEachKnown(std::string_view& text, std::size_t fieldCount, Use use) {
-    if (!isFor(fieldCount)) return 0;
+  void forEachKnown(std::string_view& text, std::size_t fieldCount, Use use) {
+    if (!isFor(fieldCount)) return;
     std::size_t count = 0;
     RecordShape* last = last_;
     while (RecordShape* const shape = findAfter(*last, text)) {
@@ -112,7 +112,6 @@ class RecordShapes {
     }
     last_ = last;
     found_ += count;
-    return count;
   }
 
   /// Takes note of a record whose shape was not known.

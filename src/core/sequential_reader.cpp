@@ -40,6 +40,7 @@ void SequentialReader::open(const std::filesystem::path& file, Reading reading) 
     bytes_ = os::readFile(file);
     text_ = bytes_.view();
   } else {
+    keepsPieces_ = reading == Reading::asNeeded;
     file_.emplace(file);
     readOn();
   }
@@ -124,8 +125,14 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
 void SequentialReader::readOn() {
   constexpr std::size_t pieceSize = std::size_t{1} << 18;
   const std::size_t kept = rest().size();
-  if (position_ > 0) std::memmove(piece_.data(), rest().data(), kept);
-  if (piece_.size() - kept < pieceSize / 2) piece_.resize(std::max(pieceSize, 2 * piece_.size()));
+  if (keepsPieces_) {
+    std::vector<char> next(kept + pieceSize);
+    std::copy_n(rest().data(), kept, next.data());
+    before_.push_back(std::exchange(piece_, std::move(next)));
+  } else {
+    if (position_ > 0) std::memmove(piece_.data(), rest().data(), kept);
+    if (piece_.size() - kept < pieceSize / 2) piece_.resize(std::max(pieceSize, 2 * piece_.size()));
+  }
   const std::size_t got = file_->read(piece_.data() + kept, piece_.size() - kept);
   if (got == 0) file_.reset();
   text_ = {piece_.data(), kept + got};

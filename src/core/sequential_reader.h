@@ -55,8 +55,9 @@ class RecordView {
 class SequentialReader {
  public:
   enum class Reading {
-    whole,    ///< by one read: fields are views that stay valid as long as the reader lives
-    inPieces  ///< for one pass over a file of any size: fields are valid until the next record is read
+    whole,     ///< by one read: fields are views that stay valid as long as the reader lives
+    asNeeded,  ///< the same for a file that is seldom read to its end; text() has a piece of it
+    inPieces   ///< for one pass over a file of any size: fields are valid until the next record is read
   };
 
   /// Opens the file that `written` names. Error 53 where it or its folder is missing, else 70 or 75.
@@ -87,7 +88,8 @@ class SequentialReader {
   template <std::size_t Count, typename Use>
   void forEachAlike(Use use) {
     std::string_view left = rest();
-    recordNumber_ += shapes_.forEachKnown(left, Count, [&](const char* begin, const FieldPlaces& places) {
+    shapes_.forEachKnown(left, Count, [&](const char* begin, const FieldPlaces& places) {
+      ++recordNumber_;
       use(RecordView<Count>(begin, places));
     });
     position_ = text_.size() - left.size();
@@ -125,6 +127,9 @@ class SequentialReader {
 
   std::optional<os::InputFile> file_;
   std::vector<char> piece_;
+  /// The pieces before it, where fields stay valid.
+  std::vector<std::vector<char>> before_;
+  bool keepsPieces_ = false;
   os::FileBytes bytes_;
   std::string_view text_;
   std::string name_;
@@ -155,10 +160,12 @@ void forEachRecordView(SequentialReader& reader, Use use) {
 /// the file is not at its end, use the record in hand and read the next. An empty file is error 62.
 template <std::size_t Count, typename Use>
 void forEachRecordButLast(SequentialReader& reader, Use use) {
-  Fields<Count> inHand = reader.record<Count>();
-  while (!reader.atEnd()) {
+  while (true) {
+    const RecordView<Count> inHand = reader.recordView<Count>();
+    if (reader.atEnd()) return;
     use(inHand);
-    inHand = reader.record<Count>();
+    // A record that looks like others has something behind it.
+    reader.forEachAlike<Count>(use);
   }
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 /// Whether a mark count, a decimal number as text, is 1 or more.
 bool isMarked(std::string_view markCount, const SequentialReader& reader) {
+  if (markCount.size() == 1 && markCount[0] >= '0' && markCount[0] <= '9') return markCount[0] > '0';
   std::string_view text = trimmed(markCount);
   if (text.starts_with('+')) text.remove_prefix(1);
   double value = 0;
@@ -30,32 +31,36 @@ bool isMarked(std::string_view markCount, const SequentialReader& reader) {
 
 }  // namespace
 
-void listAmounts(const DataFolder& folder, const GameInfo& game,
-                 const std::function<void(std::string_view)>& add) {
-  SequentialReader reader(folder, inFolder(game, game.winningsFile));
-  forEachRecordButLast<winningsFields>(reader, [&](const Fields<winningsFields>& record) {
-    const auto& [month, day, year, amount, markCount] = record;
-    const std::string_view mark = isMarked(markCount, reader) ? "     * " : "        ";
-    add(join(" ", month, "-", day, "-", year, "    ", trimmed(amount), mark));
-  });
+void forEachAmount(const DataFolder& folder, const GameInfo& game,
+                   const std::function<void(const RecordView<winningsFields>& record, bool isMarked)>& use) {
+  SequentialReader reader(folder, inFolder(game, game.winningsFile), SequentialReader::Reading::inPieces);
+  forEachRecordButLast<winningsFields>(
+      reader, [&](const RecordView<winningsFields>& record) { use(record, isMarked(record[4], reader)); });
+}
+
+AmountLookup::AmountLookup(const GameInfo& game, const std::vector<std::string>& dateKeys) : game_(game) {
+  for (const std::string& key : dateKeys) wanted_.add(key);
 }
 
 void AmountLookup::read(const DataFolder& folder) {
   amounts_.clear();
-  firstAmount_ = {};
-  SequentialReader& reader = reader_.emplace(folder, inFolder(game_, game_.winningsFile));
-  Fields<winningsFields> inHand = reader.record<winningsFields>();
-  firstAmount_ = inHand[3];
-  while (!reader.atEnd()) {
-    amounts_.insert_or_assign(join(inHand[0], inHand[1], inHand[2]), trimmed(inHand[3]));
-    inHand = reader.record<winningsFields>();
-  }
+  firstAmount_.clear();
+  SequentialReader reader(folder, inFolder(game_, game_.winningsFile), SequentialReader::Reading::inPieces);
+  const auto take = [&](const RecordView<winningsFields>& record) {
+    if (wanted_.mayHave(record[0], record[1], record[2]))
+      amounts_.insert_or_assign(join(record[0], record[1], record[2]), trimmed(record[3]));
+  };
+  const RecordView<winningsFields> first = reader.recordView<winningsFields>();
+  firstAmount_ = first[3];
+  if (reader.atEnd()) return;
+  take(first);
+  forEachRecordButLast<winningsFields>(reader, take);
 }
 
 AmountLookup::Amount AmountLookup::of(const std::string& dateKey) const {
   const auto found = amounts_.find(dateKey);
   // Kept slip: a draw without an amount of its own shows the first one.
-  const std::string_view text = found == amounts_.end() ? firstAmount_ : found->second;
+  const std::string& text = found == amounts_.end() ? firstAmount_ : found->second;
   return {text, text == game_.baseAmount ? " * " : "   "};
 }
 

@@ -2,14 +2,14 @@
 // The winnings files: the prize amount announced for each draw.
 #pragma once
 
+#include "core/draws.h"
 #include "core/games.h"
-#include "core/sequential_reader.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace tallywick {
 
@@ -18,14 +18,12 @@ class DataFolder;
 /// Month, day, year, amount, mark count.
 inline constexpr std::size_t winningsFields = 5;
 
-/// One line a record for the amounts list: a blank, the display date, four blanks, the amount without outer
-/// blanks, and the mark "   * " after two blanks where the mark count is 1 or more. The file's last record is
-/// not listed. Error 13 where a mark count is not a number, 62 where the file is empty; the lines before it
-/// have been given to `add`.
-void listAmounts(const DataFolder& folder, const GameInfo& game,
-                 const std::function<void(std::string_view)>& add);
+/// Gives each record but the last one to `use`, and whether its mark count is 1 or more. Error 13 where a
+/// mark count is not a number, 62 where the file is empty; the records before it have been given to `use`.
+void forEachAmount(const DataFolder& folder, const GameInfo& game,
+                   const std::function<void(const RecordView<winningsFields>& record, bool isMarked)>& use);
 
-/// The amounts of a winnings file by draw. Before the file is read every draw has a blank amount.
+/// The amounts of some draws in a winnings file. Before the file is read every draw has a blank amount.
 class AmountLookup {
  public:
   struct Amount {
@@ -34,7 +32,8 @@ class AmountLookup {
     std::string_view mark;
   };
 
-  explicit AmountLookup(const GameInfo& game) : game_(game) {}
+  /// `dateKeys` are those of the draws that are asked for.
+  AmountLookup(const GameInfo& game, const std::vector<std::string>& dateKeys);
 
   /// Reads the game's winnings file. An empty file is error 62; what precedes an error has been taken.
   void read(const DataFolder& folder);
@@ -45,9 +44,9 @@ class AmountLookup {
 
  private:
   GameInfo game_;
-  std::optional<SequentialReader> reader_;
-  std::string_view firstAmount_;
-  std::unordered_map<std::string, std::string_view> amounts_;
+  WantedDates wanted_;
+  std::string firstAmount_;
+  std::unordered_map<std::string, std::string> amounts_;
 };
 
 }  // namespace tallywick

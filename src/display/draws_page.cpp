@@ -76,7 +76,7 @@ void startChart(Chart& chart, const ChartSource& source) {
 
 void showLastHundred(Chart& chart, const ButtonRow<6>& buttons, const DataFolder& folder,
                      const ChartSource& source) {
-  SequentialReader reader(folder, inFolder(powerBall, source.file));
+  SequentialReader reader(folder, inFolder(powerBall, source.file), SequentialReader::Reading::inPieces);
   DrawCounts counts(buttons);
   for (std::size_t i = 0; i < chartedDraws; ++i) counts.add(source.next(reader));
   startChart(chart, source);
@@ -96,7 +96,7 @@ void showBall(Image& image, std::string_view number) {
 /// Shows the first draw of a draw history.
 void showNewest(ImageRow& row, const DataFolder& folder, std::string_view file,
                 Draw (*next)(SequentialReader& reader)) {
-  SequentialReader reader(folder, file);
+  SequentialReader reader(folder, file, SequentialReader::Reading::inPieces);
   const Draw newest = next(reader);
   for (std::size_t i = 0; i < newest.white.size(); ++i) showBall(row[i], newest.white[i]);
   showBall(row.back(), newest.extra);
@@ -129,7 +129,8 @@ void Command27_Click(DrawsPage& page, const ButtonRow<6>& frequent, const DataFo
 
 void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataFolder& folder) {
   startChart(page.Draw1, powerBallChart);
-  SequentialReader reader(folder, inFolder(powerBall, powerBallChart.file));
+  SequentialReader reader(folder, inFolder(powerBall, powerBallChart.file),
+                          SequentialReader::Reading::inPieces);
   DrawCounts counts(frequent);
   try {
     for (std::size_t i = 0; i < chartedDraws && !reader.atEnd(); ++i) counts.add(powerBallChart.next(reader));

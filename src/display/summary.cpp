@@ -10,6 +10,7 @@
 #include "display/recurring_numbers.h"
 #include "display/winning_tickets.h"
 
+#include <exception>
 #include <vector>
 
 namespace tallywick {
@@ -34,12 +35,6 @@ constexpr Headings megaMillionsHeadings = {
 /// Kept slip: the prizes of a leftover state game, in the amounts list of Mega Millions.
 constexpr std::array<std::string_view, 3> luckyFivePrizes = {" 5 of 5 Win:    $50,000",
                                                              " 4 of 5 Win:    $200.00", " 3 of 5 Win:    $3"};
-
-void addPreviousDraw(ListBox& list, const Draw& draw) {
-  const auto& white = draw.white;
-  list.addJoined(draw.month, "-", draw.day, "-", draw.year, "     ", white[0], " ", white[1], " ", white[2],
-                 " ", white[3], " ", white[4], "     ", draw.extra);
-}
 
 }  // namespace
 
@@ -79,28 +74,38 @@ void setSummaryHeadings(SummaryPage& page, const GameInfo& game) {
 void fillLastFifteen(SummaryPage& page, const DataFolder& folder, const GameInfo& game,
                      MissingAmounts missing) {
   page.List1.clear();
-  SequentialReader reader(folder, inFolder(game, drawsFile));
-  AmountLookup amounts(game);
+  SequentialReader reader(folder, inFolder(game, drawsFile), SequentialReader::Reading::asNeeded);
+  std::vector<Draw> draws;
+  std::vector<std::string> dates;
+  std::exception_ptr torn;
+  try {
+    while (draws.size() < shownDraws && !reader.atEnd()) {
+      dates.push_back(draws.emplace_back(drawOf(reader.record<drawFields>())).dateKey());
+    }
+  } catch (const RuntimeError&) {
+    torn = std::current_exception();
+  }
+  AmountLookup amounts(game, dates);
   try {
     amounts.read(folder);
   } catch (const RuntimeError&) {
     if (missing == MissingAmounts::raise) throw;
   }
-  for (std::size_t i = 0; i < shownDraws && !reader.atEnd(); ++i) {
-    const Draw draw = drawOf(reader.record<drawFields>());
-    const auto [amount, mark] = amounts.of(draw.dateKey());
-    page.List1.add(join(" ", draw.line(), " ", mark, " ", amount));
+  for (std::size_t i = 0; i < draws.size(); ++i) {
+    const auto [amount, mark] = amounts.of(dates[i]);
+    page.List1.add(join(" ", draws[i].line(), " ", mark, " ", amount));
   }
+  if (torn) std::rethrow_exception(torn);
 }
 
 void fillWinningPlays(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List2.clear();
   SequentialReader plays = openPlays(folder, playFilePath(game, PlaySlot::played));
   if (plays.atEnd()) return;
-  DrawIndex draws(folder, inFolder(game, drawsFile), &Draw::dateKey);
-  forEachRecordButLast<playFields>(plays, [&](const Fields<playFields>& record) {
-    const Play play = playOf(record);
-    const Draw* const draw = play.isListed() ? draws.find(play.dateKey()) : nullptr;
+  DrawIndex draws(folder, inFolder(game, drawsFile), DrawIndex::Dates::asKeys, plays);
+  forEachRecordButLast<playFields>(plays, [&](const RecordView<playFields>& record) {
+    const Play play = playOf(record.fields());
+    const Draw* const draw = play.isListed() ? draws.find(play) : nullptr;
     if (draw != nullptr && matchScore(play, *draw) >= winningScore)
       page.List2.add(join(" ", play.drawLine()));
   });
@@ -108,7 +113,10 @@ void fillWinningPlays(SummaryPage& page, const DataFolder& folder, const GameInf
 
 void fillAmounts(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List3.clear();
-  listAmounts(folder, game, [&](std::string_view line) { page.List3.add(line); });
+  forEachAmount(folder, game, [&](const RecordView<winningsFields>& record, bool isMarked) {
+    page.List3.addJoined(" ", record[0], "-", record[1], "-", record[2], "    ", trimmed(record[3]),
+                         isMarked ? "     * " : "        ");
+  });
   if (game.game != Game::megaMillions) return;
   for (std::string_view prize : luckyFivePrizes) page.List3.add(prize);
 }
@@ -125,7 +133,7 @@ void fillPreviousDraws(SummaryPage& page, const DataFolder& folder, const GameIn
 
 void fillFrequentNumbers(SummaryPage& page, const DataFolder& folder, const GameInfo& game) {
   page.List5.clear();
-  SequentialReader reader(folder, inFolder(game, drawsFile));
+  SequentialReader reader(folder, inFolder(game, drawsFile), SequentialReader::Reading::asNeeded);
   std::vector<KeptDraw> kept;
   try {
     while (kept.size() < shownDraws) {
@@ -143,7 +151,7 @@ void showDoublePlay(SummaryPage& page, const DataFolder& folder) {
   page.Label15.setCaption(powerBallHeadings.lastFifteen);
   page.Label16.setCaption("PowerBall Double Play Display");
   page.List2.clear();
-  SequentialReader reader(folder, inFolder(powerBall, doublePlayFile));
+  SequentialReader reader(folder, inFolder(powerBall, doublePlayFile), SequentialReader::Reading::asNeeded);
   std::vector<KeptDraw> kept;
   while (kept.size() < shownDraws) {
     const auto record = reader.record<doublePlayFields>();

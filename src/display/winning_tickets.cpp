@@ -55,7 +55,7 @@ void showWinnerOfItsDate(WinningsPage& page, const Play& play) {
 
 /// Kept slip: only the play file's first play meets the newest Double Play draw.
 void checkDoublePlay(WinningsPage& page, const DataFolder& folder, std::string_view file, const Play& first) {
-  SequentialReader draws(folder, file);
+  SequentialReader draws(folder, file, SequentialReader::Reading::inPieces);
   if (wins(first, doublePlayDrawOf(draws.record<doublePlayFields>()))) {
     page.List10.add(join(" ", winningTicket, " for PowerBall Double Play"));
   }
@@ -101,7 +101,7 @@ TicketFiles hoosierTicketFiles() {
 
 void checkAgainstLatestDraw(WinningsPage& page, const DataFolder& folder, const TicketFiles& files) {
   clearResults(page);
-  SequentialReader draws(folder, files.draws);
+  SequentialReader draws(folder, files.draws, SequentialReader::Reading::inPieces);
   const Draw latest = drawOf(draws.record<drawFields>());
   SequentialReader plays = openPlays(folder, files.plays);
   if (plays.atEnd()) return page.Combo10.setText(noPlays);
@@ -123,11 +123,11 @@ void checkByDate(WinningsPage& page, const DataFolder& folder, const TicketFiles
   clearResults(page);
   SequentialReader plays = openPlays(folder, files.plays);
   if (plays.atEnd()) return page.Combo10.setText(noPlays);
-  DrawIndex draws(folder, files.draws, &Draw::displayDate);
+  DrawIndex draws(folder, files.draws, DrawIndex::Dates::asShown, plays);
   std::vector<std::string> winners;
   forEachRecord<playFields>(plays, [&](const Fields<playFields>& record) {
     const Play play = playOf(record);
-    const Draw* const draw = draws.find(std::string(play.date));
+    const Draw* const draw = draws.find(play);
     if (draw != nullptr && wins(play, *draw)) {
       showWinnerOfItsDate(page, play);
       winners.push_back(play.itemText());

@@ -26,10 +26,10 @@ void reportUnreadable(std::string_view written, const RuntimeError& error, Messa
 }
 
 std::string_view addDraw(ItemsControl& to, const Draw& draw, std::string_view tail) {
-  const std::size_t size = draw.lineSize();
+  const std::size_t size = draw.lineSize({});
   char* const item = to.addItem(1 + size + tail.size());
   *item = ' ';
-  draw.writeLine(item + 1);
+  draw.writeLine(item + 1, {});
   std::copy(tail.begin(), tail.end(), item + 1 + size);
   return {item, 1 + size + tail.size()};
 }

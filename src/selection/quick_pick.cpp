@@ -48,7 +48,8 @@ void markPicks(SelectionForm& form, const Picks& picks) {
 
 void Command9_Click(SelectionForm& form) {
   form.Command59.show();
-  SequentialReader draws(form.surroundings.folder, inFolder(form.game, drawsFile));
+  SequentialReader draws(form.surroundings.folder, inFolder(form.game, drawsFile),
+                         SequentialReader::Reading::inPieces);
   const Draw newest = drawOf(draws.record<drawFields>());
   Seeds seeds;
   std::copy(newest.white.begin(), newest.white.end(), seeds.begin());

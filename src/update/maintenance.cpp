@@ -22,7 +22,7 @@ struct Split {
 };
 
 std::string newestDrawDate(const GameInfo& game, const DataFolder& folder) {
-  SequentialReader draws(folder, inFolder(game, drawsFile));
+  SequentialReader draws(folder, inFolder(game, drawsFile), SequentialReader::Reading::inPieces);
   return drawOf(draws.record<drawFields>()).displayDate();
 }
 

@@ -100,6 +100,29 @@ TEST_F(Controls, ListsPicturesAndChartsAreShownAnewEachTime) {
   EXPECT_TRUE(combo.items().empty() && combo.text().empty());
 }
 
+// Items of one length and of several are kept differently, and controls that share items keep them once.
+TEST_F(Controls, ItemsThatAreSharedChangeInTheirOwnListAlone) {
+  ListBox list(form, "list");
+  ComboBox combo(form, "combo");
+  for (std::string_view item : {"ab", "cd"}) list.add(item);
+  combo.shareItems(list);
+  EXPECT_EQ(combo.items()[1].data(), list.items()[1].data());
+  EXPECT_EQ(changes(), "list combo ");
+  combo.addJoined("", "");
+  combo.addJoined("e", "fg");
+  const std::string large(100'000, 'h');
+  combo.add(large);
+  EXPECT_EQ(list.items().size(), 2U);
+  const std::vector<std::string_view> expected = {"ab", "cd", "", "efg", large};
+  for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_EQ(combo.items()[i], expected[i]);
+  list.shareItems(combo);
+  combo.clear();
+  EXPECT_TRUE(combo.items().empty() && list.items().size() == 5);
+  list.clear();
+  list.add("x");
+  EXPECT_EQ(list.items()[0], "x");
+}
+
 TEST_F(Controls, OnlyWhatIsVisibleAndEnabledIsPressed) {
   int presses = 0;
   Button button(form, "button");

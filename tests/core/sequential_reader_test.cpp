@@ -85,8 +85,14 @@ TEST(SequentialReader, AFileReadInPiecesReadsAsAWhole) {
     files.write("QZRNUM62.Dat", text + end);
     SequentialReader whole(files.folder(), "QZRNUM62.Dat");
     SequentialReader pieces(files.folder(), "QZRNUM62.Dat", SequentialReader::Reading::inPieces);
-    while (whole.recordNumber() < records)
+    SequentialReader kept(files.folder(), "QZRNUM62.Dat", SequentialReader::Reading::asNeeded);
+    std::vector<Fields<4>> keptRecords;
+    while (whole.recordNumber() < records) {
       ASSERT_EQ(pieces.record<4>(), whole.record<4>()) << whole.recordNumber();
+      keptRecords.push_back(kept.record<4>());
+    }
+    SequentialReader again(files.folder(), "QZRNUM62.Dat");
+    for (const Fields<4>& record : keptRecords) ASSERT_EQ(record, again.record<4>()) << again.recordNumber();
     EXPECT_EQ(pieces.atEnd(), end.empty());
     EXPECT_THROW(pieces.record<4>(), RuntimeError);
     EXPECT_TRUE(pieces.atEnd());
@@ -117,10 +123,10 @@ TEST(SequentialReader, AFileThatEndsBehindACommaHasAnEmptyLastField) {
 TEST(SequentialReader, TheLastRecordIsLeftUnused) {
   std::vector<std::string> used;
   SequentialReader reader("1\n2\n3", "test");
-  forEachRecordButLast<1>(reader, [&](const Fields<1>& record) { used.emplace_back(record[0]); });
+  forEachRecordButLast<1>(reader, [&](const RecordView<1>& record) { used.emplace_back(record[0]); });
   EXPECT_THAT(used, ElementsAre("1", "2"));
   SequentialReader empty("", "test");
-  EXPECT_THROW(forEachRecordButLast<1>(empty, [](const Fields<1>&) {}), RuntimeError);
+  EXPECT_THROW(forEachRecordButLast<1>(empty, [](const RecordView<1>&) {}), RuntimeError);
 }
 
 }  // namespace

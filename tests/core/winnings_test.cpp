@@ -20,7 +20,8 @@ struct Winnings : testing::Test {
   void write(std::string_view text) { folder.write(inFolder(powerBall, powerBall.winningsFile), text); }
   void list() {
     lines.clear();
-    listAmounts(folder.folder(), powerBall, [&](std::string_view line) { lines.emplace_back(line); });
+    forEachAmount(folder.folder(), powerBall,
+                  [&](const auto& record, bool) { lines.emplace_back(record[3]); });
   }
   test::ScratchFolder folder;
   std::vector<std::string> lines;
@@ -37,7 +38,7 @@ TEST_F(Winnings, AMarkCountThatIsNoNumberIsError13BehindTheLinesBeforeIt) {
 }
 
 TEST_F(Winnings, AnAmountReadBeforeAnErrorIsKept) {
-  AmountLookup amounts(powerBall);
+  AmountLookup amounts(powerBall, {"11182026", "11162026", "11142026"});
   EXPECT_THROW(amounts.read(folder.folder()), RuntimeError);
   EXPECT_EQ(amounts.of("11182026").text, "");
   write(records({"11,18,2026,50,0", "11,16,2026,40,0"}) + "\"11\",\"14\"\r\n");
