@@ -5,6 +5,7 @@
 #include "ui/qt/parts/chart_view.h"
 #include "ui/qt/parts/choice_list.h"
 #include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
@@ -15,6 +16,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPainter>
 #include <QProgressDialog>
 #include <QTest>
@@ -54,6 +56,19 @@ class CountingRunner : public HandlerRunner {
   int attempts = 0;
   bool doesRun = true;
 };
+
+TEST(Sentences, HaveRoomForEveryLineBesideWhatIsTall) {
+  QWidget page;
+  auto* column = columnIn(&page);
+  QLabel* label = sentences(&page);
+  column->addWidget(label);
+  column->addWidget(new QListView, 1);
+  page.resize(300, 150);
+  page.show();
+  label->setText(QStringLiteral("words that wrap ").repeated(20));
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+}
 
 TEST(Lists, CopyTheLinesThatAreSelected) {
   TextLines lines;

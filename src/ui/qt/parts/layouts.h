@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
@@ -82,6 +83,17 @@ class Sentences : public QLabel {
   }
   /// The toolkit's answer changes with each text.
   bool hasHeightForWidth() const override { return false; }
+  /// Room for every line in the width that it has.
+  QSize sizeHint() const override { return {QLabel::sizeHint().width(), heightForWidth(width())}; }
+  QSize minimumSizeHint() const override {
+    return {QLabel::minimumSizeHint().width(), heightForWidth(width())};
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    if (event->oldSize().width() != width()) updateGeometry();
+  }
 };
 
 inline QLabel* sentences(QWidget* parent) {
