@@ -24,6 +24,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// In which what a step changed is laid out and painted, one layout in another after the other.
+constexpr int betweenSteps = 50;
+
 [[noreturn]] void fail(const QString& what) {
   throw std::runtime_error(what.toStdString());
 }
@@ -135,12 +138,10 @@ Steps::Steps(const std::string& file) {
 }
 
 void Steps::start() {
-  QTimer::singleShot(0, qApp, [this] { takeNext(); });
+  QTimer::singleShot(betweenSteps, qApp, [this] { takeNext(); });
 }
 
 void Steps::takeNext() {
-  // What the step before changed is laid out and painted first.
-  QCoreApplication::processEvents();
   while (next_ < lines_.size() && (lines_[next_].isEmpty() || lines_[next_].startsWith(u'#'))) ++next_;
   if (next_ == lines_.size() || failed_) return QCoreApplication::exit(failed_ ? 1 : 0);
   const std::size_t number = ++next_;
