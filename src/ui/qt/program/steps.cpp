@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/steps.h"
 
+#include "core/file_names.h"
 #include "core/text.h"
 
 #include <QAbstractButton>
@@ -132,7 +133,7 @@ void savePicture(const QString& file) {
 }  // namespace
 
 Steps::Steps(const std::string& file) {
-  std::ifstream lines(file);
+  std::ifstream lines(pathOf(file));
   if (!lines) throw std::runtime_error(join(file, " cannot be read"));
   for (std::string line; std::getline(lines, line);) lines_.push_back(QString::fromStdString(line).trimmed());
 }
