@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <cmath>
 
 namespace tallywick::theme {
@@ -18,6 +19,23 @@ double luminance(const QColor& color) {
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+/// The system's face of one width, and on Windows the one that its own programs prefer. Where neither is
+/// installed, any such face that is.
+QString listFamily() {
+  QStringList wanted = {QFontDatabase::systemFont(QFontDatabase::FixedFont).family()};
+#ifdef Q_OS_WIN
+  wanted.prepend(QStringLiteral("Consolas"));
+#endif
+  for (const QString& family : wanted) {
+    const QFontInfo found((QFont(family)));
+    if (found.fixedPitch() && (found.family() == family || family == wanted.back())) return family;
+  }
+  for (const QString& family : QFontDatabase::families(QFontDatabase::Latin)) {
+    if (QFontDatabase::isFixedPitch(family) && QFontDatabase::isSmoothlyScalable(family)) return family;
+  }
+  return wanted.back();
+}
+
 }  // namespace
 
 QFont headingFont(const QFont& base) {
@@ -27,7 +45,9 @@ QFont headingFont(const QFont& base) {
 }
 
 QFont listFont(const QFont& base) {
+  static const QString family = listFamily();
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setFamily(family);
   if (base.pointSizeF() > 0)
     font.setPointSizeF(base.pointSizeF());
   else

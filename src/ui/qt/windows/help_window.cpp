@@ -82,8 +82,11 @@ class ManualText : public QTextBrowser {
 }  // namespace
 
 QString manualFolder() {
-  const QDir folder(QCoreApplication::applicationDirPath() + u"/../share/tallywick/manual"_s);
-  return folder.exists(u"index.html"_s) ? folder.canonicalPath() : QString();
+  for (const QString& place : {u"/../share/tallywick/manual"_s, u"/manual"_s}) {
+    const QDir folder(QCoreApplication::applicationDirPath() + place);
+    if (folder.exists(u"index.html"_s)) return folder.canonicalPath();
+  }
+  return {};
 }
 
 void HelpWindow::showPage(const QString& page) {

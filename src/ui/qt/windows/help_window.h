@@ -20,7 +20,7 @@ class HelpWindow : public QMainWindow {
   QTextBrowser* text_;
 };
 
-/// The folder of the installed manual: beside the program's own. Empty where there is none.
+/// The folder of the installed manual: beside the program's own, or in it. Empty where there is none.
 QString manualFolder();
 
 }  // namespace tallywick
