@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Opens the main window on a data folder and ends when it is painted: `tallywick_window_actions FOLDER`. With
+// ROUNDS behind it every action is timed as well, until everything that has changed is painted.
+#include "actions.h"
+#include "core/random.h"
+#include "painted_window.h"
+#include "plays/judged_plays.h"
+#include "ui/qt/program/desk_actions.h"
+#include "ui/qt/program/guarded_application.h"
+#include "ui/qt/program/qt_platform.h"
+#include "ui/qt/windows/text_size.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+namespace tallywick {
+namespace {
+
+int run(int count, char** arguments) {
+  QCoreApplication::setOrganizationName(QStringLiteral("Tallywick"));
+  QCoreApplication::setApplicationName(QStringLiteral("tallywick-bench"));
+  GuardedApplication qt(count, arguments);
+  if (count < 2) {
+    std::fprintf(stderr, "usage: %s FOLDER [ROUNDS]\n", arguments[0]);
+    return 2;
+  }
+  const TextSize textSize;
+  const DataFolder folder{std::filesystem::path(arguments[1])};
+  const FixedClock clock("11-20-2026", "12:00:00");
+  MixingGenerator random(1);
+  QtPlatform platform(folder);
+  platform.answerAlone();
+  Application application({folder, settingsAtStart(folder, platform), clock, random, platform, {}});
+  platform.clock = &clock;
+  platform.onClose = [&](Form& form) { application.close(form); };
+  platform.onUpdateNote = [&] { return application.noteOfUpdate(); };
+  platform.onShowsMadeUpDraws = [&] { return application.showsMadeUpDraws(); };
+  platform.onAskIfSet = [&](const Control& control) { return isSet(application, control); };
+  bench::paint([&] { platform.run([&] { application.showMainWindow(); }); });
+  if (count < 3) return 0;
+  bench::measureActions(
+      [&](std::string_view step) {
+        platform.run([&] { bench::perform(application, step); });
+        QCoreApplication::processEvents();
+      },
+      std::atoi(arguments[2]));
+  return 0;
+}
+
+}  // namespace
+}  // namespace tallywick
+
+int main(int count, char** arguments) {
+  try {
+    return tallywick::run(count, arguments);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}
