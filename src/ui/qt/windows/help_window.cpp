@@ -33,7 +33,7 @@ class ManualText : public QTextBrowser {
   }
 
   QVariant loadResource(int type, const QUrl& name) override {
-    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    QVariant loaded = QTextBrowser::loadResource(type, name);
     if (type == QTextDocument::HtmlResource) pictures_.clear();
     if (type != QTextDocument::ImageResource) return loaded;
     const QImage picture = QImage::fromData(loaded.toByteArray());
