@@ -126,8 +126,7 @@ template <typename Window>
 Window& Application::open(std::unique_ptr<Window> window) {
   closed_.clear();
   Window& opened = *window;
-  windows_.push_back(std::move(window));
-  surroundings_.platform.openWindow(opened);
+  surroundings_.platform.openWindow(windows_.emplace_back(std::move(window)));
   return opened;
 }
 

@@ -129,9 +129,9 @@ class Application {
   /// For the update at hand; null where it fetches them itself.
   const FetchedExports* fetched_ = nullptr;
   MainForm* main_ = nullptr;
-  std::vector<std::unique_ptr<Form>> windows_;
-  /// Closed windows live until the next one opens: a handler of their own may have closed them.
-  std::vector<std::unique_ptr<Form>> closed_;
+  std::vector<std::shared_ptr<Form>> windows_;
+  /// Kept until the next window opens: a handler of their own may have closed them.
+  std::vector<std::shared_ptr<Form>> closed_;
 };
 
 }  // namespace tallywick

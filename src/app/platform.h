@@ -7,6 +7,7 @@
 #include "core/outside.h"
 #include "update/transfer_component.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -18,9 +19,10 @@ class Platform : public MessageBoxes, public Screen, public ProgramStarter, publ
   void progress(const TransferProgress&) override {}
   bool cancelled() override { return false; }
 
-  /// Shows a window of the model, which is to live until closeWindow(). The main window comes up centred.
-  virtual void openWindow(Form& form) = 0;
-  /// Takes a window off the screen; its model goes next.
+  /// Shows a window of the model, and keeps the form as long as anything of the window exists. The main
+  /// window comes up centred.
+  virtual void openWindow(const std::shared_ptr<Form>& form) = 0;
+  /// Takes a window off the screen.
   virtual void closeWindow(Form& form) = 0;
 
   /// Opens a web page in the user's browser.

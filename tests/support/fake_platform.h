@@ -17,7 +17,7 @@ class FakePlatform : public Platform {
   MessageBox::Answer show(const MessageBox& box) override { return boxes.show(box); }
   void refresh() override {}
   void start(std::string_view program, std::string_view folder) override { starter.start(program, folder); }
-  void openWindow(Form& form) override { events.push_back("open " + form.name()); }
+  void openWindow(const std::shared_ptr<Form>& form) override { events.push_back("open " + form->name()); }
   void closeWindow(Form& form) override { events.push_back("close " + form.name()); }
   void openPage(std::string_view address) override { events.push_back("page " + std::string(address)); }
   std::string registryValue(std::string_view key, std::string_view value) override {

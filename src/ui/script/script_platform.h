@@ -23,7 +23,7 @@ class ScriptPlatform : public Platform {
   MessageBox::Answer show(const MessageBox& box) override;
   void refresh() override {}
   void start(std::string_view program, std::string_view workingFolder) override;
-  void openWindow(Form&) override {}
+  void openWindow(const std::shared_ptr<Form>&) override {}
   void closeWindow(Form&) override {}
   void openPage(std::string_view address) override;
   std::string registryValue(std::string_view key, std::string_view value) override;

@@ -170,7 +170,7 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
   startAsked(folder_, program, workingFolder, "tallywick");
 }
 
-void QtPlatform::openWindow(Form& form) {
+void QtPlatform::openWindow(const std::shared_ptr<Form>& form) {
   const Desk desk = {*this,
                      folder_,
                      judge_,
@@ -191,7 +191,9 @@ void QtPlatform::openWindow(Form& form) {
                      onDrawsAge,
                      onShowDoublePlay,
                      clock};
-  FormWindow* window = makeWindow(form, desk).release();
+  FormWindow* window = makeWindow(*form, desk).release();
+  // Released with the last of the window, which may be later than the program's part in it.
+  QObject::connect(window, &QObject::destroyed, [form] {});
   windows_.push_back(window);
   window->move(centred(*window));
   window->show();

@@ -63,7 +63,7 @@ class QtPlatform : public Platform, public HandlerRunner {
   void progress(const TransferProgress& soFar) override;
   bool cancelled() override;
   void start(std::string_view program, std::string_view workingFolder) override;
-  void openWindow(Form& form) override;
+  void openWindow(const std::shared_ptr<Form>& form) override;
   void closeWindow(Form& form) override;
   void openPage(std::string_view address) override;
   std::string registryValue(std::string_view key, std::string_view value) override;
