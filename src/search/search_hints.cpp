@@ -55,15 +55,18 @@ constexpr std::string_view ownNumbers =
     " In the place of a draw you can type numbers such as 7 17; Display marks them.";
 
 /// The hint of a page on which balls are marked and one is counted.
-SearchHint markedHint(const ButtonRow<6>& numbers, std::string_view game, const Button& search) {
+SearchHint markedHint(const ButtonRow<6>& numbers, std::string_view game, const Button& search,
+                      std::string_view source) {
   const std::size_t marked = markedCount(numbers);
   if (game.empty())
     return {false, false, "Nothing is counted for the game on show: press PowerBall or Mega Millions."};
   if (marked == 0)
-    return {false, false, join("Mark one ball, then press ", search.caption(), ".", ownNumbers)};
+    return {false, false,
+            join("Mark one ball, then press ", search.caption(), ". In the place of a ", source,
+                 " you can type a number such as 7; Display marks it.")};
   const std::string number(trimmed(firstMarkedNumber(numbers)));
   if (number.empty())
-    return {false, false, "The marked ball has no number: choose a draw and press Display."};
+    return {false, false, join("The marked ball has no number: choose a ", source, " and press Display.")};
   return {true, marked > 1,
           join(search.caption(), " counts the ", game, " draws with ", number,
                marked > 1 ? join(", the first of the ", numberWord(marked), " marked balls.") : ".")};
@@ -106,7 +109,8 @@ void takeTypedNumbers(Button& display, ComboBox& source, const std::vector<Butto
     const std::vector<Button*> filled = filledOf(numbers);
     if (filled.size() > mostMarked) return;
     for (Button* number : filled) {
-      if (!isMarked(*number)) number->onClick();
+      // The ball of a multiplier cannot be marked.
+      if (number->onClick && !isMarked(*number)) number->onClick();
     }
   };
 }
@@ -151,7 +155,7 @@ SearchHint searchHint(const TwoThreePage& page) {
 }
 
 SearchHint searchHint(const HavePlayedPage& page, const GameFrames& frames) {
-  return markedHint(page.numbers, countedGame(frames, true), page.Command21);
+  return markedHint(page.numbers, countedGame(frames, true), page.Command21, "draw");
 }
 
 SearchHint searchHint(const PlayedPage& page, const GameFrames& frames) {
@@ -167,7 +171,7 @@ SearchHint searchHint(const PlayedPage& page, const GameFrames& frames) {
 }
 
 SearchHint searchHint(const HavePlayedPlaysPage& page, const GameFrames& frames) {
-  return markedHint(page.numbers, countedGame(frames, false), page.Command46);
+  return markedHint(page.numbers, countedGame(frames, false), page.Command46, "play");
 }
 
 Searched searchedNow(const TwoThreePage& page, std::string_view game) {

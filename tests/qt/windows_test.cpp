@@ -19,6 +19,7 @@
 
 #include <QAbstractItemView>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
 #include <QFileDialog>
@@ -323,9 +324,9 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   winnings.setCurrentIndex(3);
   named<QLineEdit>("Form1", QStringLiteral("Numbers")).setText(QStringLiteral("1 2 3 4 5"));
   named<QLineEdit>("Form1", QStringLiteral("PowerBall")).setText(QStringLiteral("6"));
-  named<QDateEdit>("Form1", QStringLiteral("Date of the draw")).setDate(QDate(2026, 12, 31));
+  named<QDateEdit>("Form1", QStringLiteral("Date of the draw")).setDate(QDate(2027, 1, 2));
   press(0, "Judge");
-  EXPECT_EQ(press(0, "Keep It"), waiting + records({"12-31-2026,01,02,03,04,05,06,5000000"}));
+  EXPECT_EQ(press(0, "Keep It"), waiting + records({"01-02-2027,01,02,03,04,05,06,5000000"}));
   winnings.setCurrentIndex(1);
   EXPECT_FALSE(explains(QStringLiteral("Nothing was checked"))) << "the plays have changed since";
   winnings.setCurrentIndex(2);
@@ -495,6 +496,21 @@ TEST_F(Windows, ABackupIsWrittenAndAnotherChosenToRestore) {
   answerNextBox(QStringLiteral("Restore"));
   dialog.askToRestore(QStringLiteral("/a.zip"));
   EXPECT_EQ(dialog.restoreFrom(), "/a.zip");
+}
+
+TEST_F(Windows, EverySearchTakesATypedNumber) {
+  writeRecordBook(scratch);
+  open("Form1");
+  platform.answerAlone();
+  widget<QAction>("Form1", "mnuMegaMillions").trigger();
+  for (const char* name : {"Combo4", "Combo2", "Combo3", "Combo8"}) {
+    auto& picker = widget<QComboBox>("Form1", name);
+    picker.lineEdit()->selectAll();
+    QTest::keyClicks(picker.lineEdit(), QStringLiteral("23"));
+    QTest::keyClick(picker.lineEdit(), Qt::Key_Return);
+    EXPECT_FALSE(platform.ended()) << name;
+  }
+  EXPECT_EQ(static_cast<Button&>(*application.find("Form1")->find("Command23")).caption(), "23");
 }
 
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {
