@@ -64,13 +64,18 @@ void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> nex
   std::size_t forNext = 0;
   std::size_t drawn = 0;
   std::size_t won = 0;
+  std::size_t wonDoublePlay = 0;
   for (const JudgedPlay& play : judgement.plays) {
     if (play.state == DrawState::waiting) {
       ++all;
       if (play.day == next) ++forNext;
     }
     if (play.state == DrawState::drawn) ++drawn;
-    if (isWinner(play)) ++won;
+    if (play.match.wins()) {
+      ++won;
+    } else if (winsDoublePlay(play)) {
+      ++wonDoublePlay;
+    }
   }
   glance.waiting.text = join(forNext == 0 ? "no plays" : inFigures(forNext, "play"),
                              forNext == all ? "" : join(" (", std::to_string(all), " in all)"));
@@ -79,6 +84,8 @@ void addPlays(Glance& glance, const Judgement& judgement, std::optional<Day> nex
   glance.wins.text = drawn == 0 ? "none yet"
                      : won == 0 ? join(std::to_string(drawn), ", none won")
                                 : join(std::to_string(drawn), ", of which ", std::to_string(won), " won");
+  if (wonDoublePlay > 0)
+    glance.wins.text += join(" (", std::to_string(wonDoublePlay), " more by Double Play)");
   glance.wins.tip =
       "How many of your plays were drawn, and how many of them won in the draw of their own day.";
   for (const std::string& sentence : tornSentences(judgement)) {

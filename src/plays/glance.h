@@ -34,7 +34,7 @@ struct Glance {
   Part next;
   /// "3 plays", "3 plays (5 in all)" where some wait for other draws.
   Part waiting;
-  /// "12, of which 4 won", with Double Play, as My Plays counts.
+  /// "12, of which 4 won (2 more by Double Play)".
   Part wins;
 };
 
