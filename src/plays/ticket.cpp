@@ -98,8 +98,9 @@ std::string ticketVerdict(const GameInfo& game, const JudgedPlay& ticket) {
                                                  : ".");
 }
 
-bool canBeKept(const JudgedPlay& ticket) {
-  return ticket.state != DrawState::unknown;
+bool canBeKept(const GameInfo& game, const JudgedPlay& ticket) {
+  return ticket.state == DrawState::drawn ||
+         (ticket.state == DrawState::waiting && isDrawDay(game.game, *ticket.day));
 }
 
 PlaySlot fileForTicket(const JudgedPlay& ticket) {

@@ -31,8 +31,9 @@ JudgedPlay judgeTicket(const GameInfo& game, const DataFolder& folder, std::stri
 /// What the judging says, for the player: "Drawn on Wed 12-30-2026. Matched: 10 20 30. It wins $7."
 std::string ticketVerdict(const GameInfo& game, const JudgedPlay& ticket);
 
-/// Whether a ticket in that state belongs to the player's plays: it is drawn, or waits for its draw.
-bool canBeKept(const JudgedPlay& ticket);
+/// Whether the ticket belongs to the player's plays: it is drawn, or waits for a day on which the game is
+/// drawn.
+bool canBeKept(const GameInfo& game, const JudgedPlay& ticket);
 /// The plays that it belongs to.
 PlaySlot fileForTicket(const JudgedPlay& ticket);
 /// Whether the same play of the same day is among the player's plays already.

@@ -231,6 +231,12 @@ TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
   EXPECT_THAT(verdictOn({"1 2 3 4 4", "6", "01-02-2026"}), testing::EndsWith("there are 4."));
   EXPECT_THAT(verdictOn({"1 2 3 4 5", "27", "01-02-2026"}), testing::StartsWith("The PowerBall is \"27\""));
   EXPECT_EQ(scratch.snapshot(), before);
+  const auto canKeepOn = [this](const char* date) {
+    const std::string typed = ticketRecord(powerBall, {"1 2 3 4 5", "6", date});
+    return canBeKept(powerBall, judgeTicket(powerBall, scratch.folder(), typed));
+  };
+  EXPECT_TRUE(canKeepOn("01-02-2026") && canKeepOn("01-07-2026"));
+  EXPECT_FALSE(canKeepOn("01-01-2026") || canKeepOn("01-06-2026"));
 
   const std::string record = ticketRecord(powerBall, {"61 60 30 20 10", "26", "01-02-2026"});
   const JudgedPlay ticket = judgeTicket(powerBall, scratch.folder(), record);

@@ -85,7 +85,7 @@ void TicketView::judge() {
     record_ = ticketRecord(game, {numbers, extra, date});
     const JudgedPlay ticket = judgeTicket(game, actions_.folder(), record_);
     const bool isKept = isAmongPlays(actions_.plays()->judgement, ticket);
-    keep_->setEnabled(canBeKept(ticket));
+    keep_->setEnabled(canBeKept(game, ticket));
     say(toQString(ticketVerdict(game, ticket)) +
         (isKept ? u" It is among your plays already."_s : QString()));
   } catch (const std::exception& error) {
