@@ -261,16 +261,17 @@ std::string replayHint(const SelectionForm& form) {
 
 std::string committedHint(const SelectionForm& form) {
   const PlayFile committed(form.surroundings.folder, playFilePath(form.game, PlaySlot::committed));
-  if (committed.empty()) return "Saved: no play waits for its draw now.";
+  if (committed.empty()) return "Saved. No play waits for its draw now.";
   std::map<std::optional<Day>, std::size_t> byDay;
   for (const Play& play : committed.plays()) ++byDay[parseDay(play.date)];
-  const std::string plays = counted(committed.plays().size(), "play");
+  const std::size_t count = committed.plays().size();
+  const std::string plays = join("Saved. Now ", counted(count, "play"), count == 1 ? " waits" : " wait");
   const auto& [firstDay, ofFirst] = *byDay.begin();
   const auto& lastDay = byDay.rbegin()->first;
-  if (!firstDay) return join("Saved: ", plays, ".");
-  if (byDay.size() == 1) return join("Saved: ", plays, " for the draw of ", weekdayDate(*firstDay), ".");
+  if (!firstDay) return plays + ".";
+  if (byDay.size() == 1) return join(plays, " for the draw of ", weekdayDate(*firstDay), ".");
   const bool even = std::ranges::all_of(byDay, [&](const auto& day) { return day.second == ofFirst; });
-  return join("Saved: ", plays, ", ", even ? join(numberWord(ofFirst), " for each of ") : "for ",
+  return join(plays, ", ", even ? join(numberWord(ofFirst), " for each of ") : "for ",
               counted(byDay.size(), "draw"), " from ", weekdayDate(*firstDay), " to ", weekdayDate(*lastDay),
               ".");
 }

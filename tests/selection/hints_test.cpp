@@ -123,7 +123,7 @@ TEST_F(Selection, SaysForWhichDrawsThePlaysAre) {
   press("Command5");
   EXPECT_FALSE(hasPlaysToLose(*form));
   EXPECT_EQ(committedHint(*form),
-            "Saved: six plays, two for each of three draws from Sat 11-21-2026 to Wed 11-25-2026.");
+            "Saved. Now six plays wait, two for each of three draws from Sat 11-21-2026 to Wed 11-25-2026.");
   scratch.write("QZRNUM22.DTE", records({"11,21,2026,day,n,6"}));
   open();
   select("01 02 03 04 05", "06");
