@@ -49,7 +49,7 @@ TEST_F(Selection, SaysInASentenceWhatSelectWillDo) {
       {"06 23 41 58", "", "One number and the Mega Ball are missing."},
       {"06 23 41 58", "14", "Four numbers and a Mega Ball: Select will enter 14 as number and Mega Ball."},
       {"06 23 41 58 60", "", "The Mega Ball is missing: press one of 01 to 25 twice."},
-      {"06 23 41 58 60", "14", "Select will enter this play for the draw of Tue 11-24-2026."},
+      {"06 23 41 58 70", "24", "Select will enter this play for the draw of Tue 11-24-2026."},
       {"06 23 41 58 75", "25",
        "Select will enter this play for the draw of Tue 11-24-2026. 75 and Mega Ball 25 are no longer "
        "drawn."},
@@ -75,8 +75,8 @@ TEST_F(Selection, AReplayAndALineSayWhatTheyCannotMark) {
   open();
   press("Command60");
   EXPECT_EQ(replayHint(*form), "Replay does not mark 63, 68 and 69 and PowerBall 33; press what is missing.");
-  EXPECT_EQ(markLine(*form, " 05  63  68  69  75  26"), "The slip does not have 75.");
-  EXPECT_EQ(marks(), "05 [26] 63 68 69 ");
+  EXPECT_EQ(markLine(*form, " 01  63  68  69  75  26"), "The slip does not have 75.");
+  EXPECT_EQ(marks(), "01 [26] 63 68 69 ");
   EXPECT_EQ(markLine(*form, form->Combo7.text()), "The slip does not have PowerBall 33.");
   EXPECT_EQ(marks(), "05 11 63 68 69 ");
 }
