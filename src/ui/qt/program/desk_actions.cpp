@@ -99,7 +99,9 @@ void editDraws(Application& application, QtPlatform& platform, const GameInfo* i
   DrawsDialog dialog(around.folder, around.clock, setup::exportAddresses(application.settings()),
                      importOf != nullptr ? *importOf : application.gameShown(), QApplication::activeWindow());
   if (importOf != nullptr) dialog.importAtOnce();
-  dialog.onChanged = [&] { platform.run([&] { application.showGameAnew(); }); };
+  dialog.onChanged = [&platform, &application] {
+    platform.run([&application] { application.showGameAnew(); });
+  };
   dialog.exec();
   if (!dialog.hasChanged()) return;
   platform.run([&] {

@@ -13,7 +13,7 @@ namespace tallywick {
 namespace {
 
 /// What is wrong with a size such as "1024x768"; empty where nothing is.
-std::string isSize(const std::string& text) {
+std::string faultOfSize(const std::string& text) {
   constexpr int largest = 10000;
   const std::size_t cross = std::min(text.find('x'), text.size());
   const auto width = wholeNumber<int>(std::string_view(text).substr(0, cross));
@@ -22,7 +22,8 @@ std::string isSize(const std::string& text) {
   return isOne ? "" : text + " is not a size such as 1024x768";
 }
 
-std::string isTime(const std::string& text) {
+/// The same of a time.
+std::string faultOfTime(const std::string& text) {
   return SettableClock().set(text) ? "" : text + " is not a time such as \"11-21-2026 12:00:00\"";
 }
 
@@ -47,7 +48,7 @@ void declare(CLI::App& line, Options& options) {
       ->needs(picture);
   line.add_option("--size", options.size, "Gives the window this size, for example 1024x768")
       ->type_name("WxH")
-      ->check(isSize)
+      ->check(faultOfSize)
       ->needs(picture);
   CLI::Option* steps =
       line.add_option("--steps", options.steps, "Takes the steps of this file in the windows and ends")
@@ -55,7 +56,7 @@ void declare(CLI::App& line, Options& options) {
           ->excludes(picture);
   line.add_option("--now", options.now, "Sets the clock of the steps, which then does not move")
       ->type_name("\"MM-DD-YYYY HH:MM:SS\"")
-      ->check(isTime)
+      ->check(faultOfTime)
       ->needs(steps);
   line.allow_extras();
 }

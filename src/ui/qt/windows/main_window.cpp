@@ -175,10 +175,20 @@ void MainWindow::showDoublePlayNote() {
   constexpr int searches = 1;
   constexpr int draws = 3;
   const int page = main_.bar.SSTab1.tab();
-  const bool isShown = main_.frames.Frame6.visible() || page == searches || page == draws;
-  const QString note = isShown && desk().doublePlayNote ? toQString(desk().doublePlayNote()) : QString();
-  doublePlayNote_->setText(note);
-  doublePlayNote_->setVisible(!note.isEmpty());
+  const bool isDoublePlay = main_.frames.Frame6.visible();
+  if (!isDoublePlay) hasListsOfMegaMillions_ = main_.frames.Frame11.visible();
+  const bool isShown = isDoublePlay || page == searches || page == draws;
+  QStringList notes;
+  if (isDoublePlay && hasListsOfMegaMillions_) {
+    notes +=
+        u"The lists that Double Play does not fill are still those of Mega Millions; Back to PowerBall "
+        "shows PowerBall's."_s;
+  }
+  if (const QString note = isShown && desk().doublePlayNote ? toQString(desk().doublePlayNote()) : QString();
+      !note.isEmpty())
+    notes += note;
+  doublePlayNote_->setText(notes.join(u'\n'));
+  doublePlayNote_->setVisible(!notes.isEmpty());
 }
 
 void MainWindow::addOptionEntries() {
