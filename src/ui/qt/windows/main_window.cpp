@@ -176,10 +176,10 @@ void MainWindow::showDoublePlayNote() {
   constexpr int draws = 3;
   const int page = main_.bar.SSTab1.tab();
   const bool isDoublePlay = main_.frames.Frame6.visible();
-  if (!isDoublePlay) hasListsOfMegaMillions_ = main_.frames.Frame11.visible();
   const bool isShown = isDoublePlay || page == searches || page == draws;
   QStringList notes;
-  if (isDoublePlay && hasListsOfMegaMillions_) {
+  // The heading is the last filled summary's.
+  if (isDoublePlay && main_.summary.Label19.caption().find(megaMillions.name) != std::string::npos) {
     notes +=
         u"The lists that Double Play does not fill are still those of Mega Millions; Back to PowerBall "
         "shows PowerBall's."_s;

@@ -70,8 +70,6 @@ class MainWindow : public FormWindow {
   NoticeStrip* age_;
   GlanceStrip* glance_;
   QLabel* doublePlayNote_;
-  /// Whether the summary was last filled for Mega Millions.
-  bool hasListsOfMegaMillions_ = false;
   QToolButton* doublePlay_ = nullptr;
   std::vector<os::FileStamp> drawFiles_;
   /// For which files, game and day the age of the draws was asked.
