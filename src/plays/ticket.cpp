@@ -90,7 +90,7 @@ JudgedPlay judgeTicket(const GameInfo& game, const DataFolder& folder, std::stri
 }
 
 std::string ticketVerdict(const GameInfo& game, const JudgedPlay& ticket) {
-  const std::string text = describe(game, ticket);
+  std::string text = describe(game, ticket);
   if (!ticket.doublePlay) return text;
   return join(text, " With Double Play: ", matchText(*ticket.doublePlay, game.game),
               winsDoublePlay(ticket)             ? ", it wins."

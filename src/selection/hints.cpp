@@ -270,7 +270,8 @@ std::string committedHint(const SelectionForm& form) {
   const auto& lastDay = byDay.rbegin()->first;
   if (!firstDay) return plays + ".";
   if (byDay.size() == 1) return join(plays, " for the draw of ", weekdayDate(*firstDay), ".");
-  const bool even = std::ranges::all_of(byDay, [&](const auto& day) { return day.second == ofFirst; });
+  const bool even =
+      std::ranges::all_of(byDay, [each = ofFirst](const auto& day) { return day.second == each; });
   return join(plays, ", ", even ? join(numberWord(ofFirst), " for each of ") : "for ",
               counted(byDay.size(), "draw"), " from ", weekdayDate(*firstDay), " to ", weekdayDate(*lastDay),
               ".");

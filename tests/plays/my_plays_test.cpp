@@ -131,7 +131,7 @@ TEST_F(MyPlays, AreJudgedAnewWhereAFileHasChanged) {
   EXPECT_EQ(judge.plays(powerBall), before);
   // As long as before, and twice within one step of the clock.
   for (const std::string& play : {newest, movedEarly}) {
-    write(play + waiting, movedEarly + newest + old);
+    write(join(play, waiting), join(movedEarly, newest, old));
     EXPECT_EQ(judge.plays(powerBall)->texts, shown());
     EXPECT_EQ(judge.plays(powerBall)->judgement, judgement());
   }
@@ -177,7 +177,7 @@ TEST_F(MyPlays, OddFilesKeepWhatCannotBeUnderstood) {
        {Row{"empty", "", play}, Row{"no line end", waiting.substr(0, waiting.size() - 2), play + waiting},
         Row{"no line end, earlier", leftBehind.substr(0, leftBehind.size() - 2), leftBehind + play},
         Row{"a cut record", leftBehind + "\"01-1", leftBehind + play + "\"01-1"},
-        Row{"a place holder", sentinel + waiting, sentinel + play + waiting},
+        Row{"a place holder", sentinel + waiting, join(sentinel, play, waiting)},
         Row{"two in a line", "01-08-2026,1,2,3,4,5,6,\x80,01-10-2026,1,2,3,4,5,6,x\n",
             records({"01-08-2026,1,2,3,4,5,6,\x80"}) + play + records({"01-10-2026,1,2,3,4,5,6,x"})}}) {
     SCOPED_TRACE(row.file);
