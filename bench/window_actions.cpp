@@ -10,6 +10,7 @@
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/windows/text_size.h"
 
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -39,6 +40,12 @@ int run(int count, char** arguments) {
   platform.onAskIfSet = [&](const Control& control) { return isSet(application, control); };
   bench::paint([&] { platform.run([&] { application.showMainWindow(); }); });
   if (count < 3) return 0;
+  // Nobody is there to answer: what a window asks by itself is closed.
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, &answers, [] {
+    if (QWidget* const dialog = QApplication::activeModalWidget()) dialog->close();
+  });
+  answers.start(20);
   bench::measureActions(
       [&](std::string_view step) {
         platform.run([&] { bench::perform(application, step); });
