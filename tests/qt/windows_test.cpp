@@ -358,7 +358,7 @@ TEST_F(Windows, ASelectionTakesANextPlayAwayAndBringsItBack) {
   EXPECT_EQ(scratch.read(committed), "");
   EXPECT_TRUE(next.empty());
   EXPECT_TRUE(static_cast<MainForm&>(*application.find("Form1")).winnings.List17.items().empty());
-  press("Undo (Ctrl+&Z)");
+  press("Bring Play Back (Ctrl+&Z)");
   EXPECT_EQ(scratch.read(committed), waiting);
   EXPECT_EQ(next.size(), 1U);
   scratch.write(committed, records({"12-28-2026,01,02,03,50,51,20,3000020"}));

@@ -113,7 +113,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
 }
 
 void SelectionWindow::addBringBack(QBoxLayout& line, QWidget* parent) {
-  bringBack_ = new QPushButton(u"Undo (Ctrl+&Z)"_s, parent);
+  bringBack_ = new QPushButton(parent);
   bringBack_->setToolTip(
       u"Puts back the marks that an action took off without entering a play, and plays that were removed"_s);
   connect(bringBack_, &QPushButton::clicked, this, [this] { bringBack(); });
