@@ -130,13 +130,12 @@ QBoxLayout* DrawsDialog::actionRows() {
   line->addWidget(action(u"importDraws"_s, u"Import &Draws…"_s,
                          u"Takes the draws of this game from an export that you saved"_s,
                          [this] { importDraws(); }));
-  line->addWidget(action(u"importAmounts"_s, u"Import &Amounts…"_s,
-                         u"Takes a file with the columns Draw Date, Amount and Mark Count"_s,
-                         [this] { importAmounts(); }));
+  importAmounts_ = action(u"importAmounts"_s, u"Import &Amounts…"_s, {}, [this] { importAmounts(); });
+  line->addWidget(importAmounts_);
   line->addStretch();
   auto* typed = row();
-  typed->addWidget(action(u"typeIn"_s, u"&Type In a Draw…"_s,
-                          u"Adds one draw, checked by the rules of its date"_s, [this] { typeIn(); }));
+  typeIn_ = action(u"typeIn"_s, u"&Type In a Draw…"_s, {}, [this] { typeIn(); });
+  typed->addWidget(typeIn_);
   remove_ = action(u"removeDraw"_s, u"&Remove…"_s,
                    u"Takes back a draw that was typed in and that no export has"_s, [this] { remove(); });
   typed->addWidget(remove_);
@@ -171,10 +170,12 @@ void DrawsDialog::addAmounts(QBoxLayout& column) {
 }
 
 void DrawsDialog::showGame() {
+  bool isMadeUp = false;
   try {
     history_ = exports::reportOf(folder_, game().game);
     std::string text = summaryOf(game(), history_);
-    if (exports::isMadeUp(folder_, game().game)) {
+    isMadeUp = exports::isMadeUp(folder_, game().game);
+    if (isMadeUp) {
       text +=
           "\nThese draws are made up. Fetch or import real ones to replace them; until then nothing can be "
           "typed in.";
@@ -185,7 +186,16 @@ void DrawsDialog::showGame() {
     summary_->setText(toQString(error.what()));
   }
   remove_->setEnabled(!history_.typed.empty());
+  greyForMadeUp(isMadeUp);
   showAmounts();
+}
+
+void DrawsDialog::greyForMadeUp(bool isMadeUp) {
+  const QString why = u"These draws are made up: fetch or import real ones first"_s;
+  typeIn_->setEnabled(!isMadeUp);
+  typeIn_->setToolTip(isMadeUp ? why : u"Adds one draw, checked by the rules of its date"_s);
+  importAmounts_->setEnabled(!isMadeUp);
+  importAmounts_->setToolTip(isMadeUp ? why : u"Takes a file with the columns Draw Date, Amount and Mark Count"_s);
 }
 
 void DrawsDialog::showAmounts() {

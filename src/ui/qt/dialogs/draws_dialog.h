@@ -46,6 +46,8 @@ class DrawsDialog : public QDialog {
   /// Reads the folder and shows the game anew.
   void showGame();
   void showAmounts();
+  /// Leaves only what made-up draws allow, and says why in the tips of the rest.
+  void greyForMadeUp(bool isMadeUp);
   void showReport(const QString& text);
   /// Runs what may change files; what fails is shown.
   void change(const std::function<void()>& act);
@@ -66,6 +68,8 @@ class DrawsDialog : public QDialog {
   QLabel* summary_;
   QLabel* report_;
   QTableWidget* amounts_;
+  QPushButton* importAmounts_ = nullptr;
+  QPushButton* typeIn_ = nullptr;
   QPushButton* remove_ = nullptr;
   QPushButton* save_ = nullptr;
   bool hasChanged_ = false;
