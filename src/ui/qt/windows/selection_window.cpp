@@ -176,7 +176,7 @@ void SelectionWindow::showState() {
   waitingSelect_->setVisible(!selection_.Command59.visible());
   bringBack_->setEnabled(!undo_.empty());
   const bool isPlay = !undo_.empty() && undo_.back() == Undo::play;
-  bringBack_->setText(isPlay ? u"Bring Play Back (Ctrl+&Z)"_s : u"Bring Marks Back (Ctrl+&Z)"_s);
+  bringBack_->setText(isPlay ? u"Bring Play Bac&k"_s : u"Bring Marks Bac&k"_s);
   removeCurrent_->setEnabled(open && !selection_.Combo1.items().empty());
   removeNext_->setEnabled(!selection_.Combo8.items().empty());
   const QString draws = toQString(sentence(drawCountHint(selection_)));

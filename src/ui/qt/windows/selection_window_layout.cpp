@@ -90,7 +90,7 @@ void SelectionWindow::addActions(QGridLayout& grid, QWidget* parent) {
 }
 
 void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
-  auto* title = new QLabel(u"For how many draws:"_s, parent);
+  auto* title = new QLabel(u"How many draws:"_s, parent);
   auto* step = new QPushButton(parent);
   auto* showCount = new QPushButton(parent);
   auto* count = heading(parent);
@@ -115,7 +115,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
 void SelectionWindow::addBringBack(QBoxLayout& line, QWidget* parent) {
   bringBack_ = new QPushButton(parent);
   bringBack_->setToolTip(
-      u"Puts back the marks that an action took off without entering a play, and plays that were removed"_s);
+      u"Puts back the marks that an action took off without entering a play, and plays that were removed (Ctrl+Z)"_s);
   connect(bringBack_, &QPushButton::clicked, this, [this] { bringBack(); });
   auto* action = new QAction(this);
   action->setShortcut(QKeySequence::Undo);
