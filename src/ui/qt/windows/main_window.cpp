@@ -82,6 +82,8 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     }
   };
   restoreLayout(*this, usualSize);
+  // Not on a button, which a stray press of Space would press.
+  findChild<LineList*>(toQString(form.summary.List1.name()))->setFocus();
 }
 
 void MainWindow::addPages() {
