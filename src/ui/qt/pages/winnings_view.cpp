@@ -98,6 +98,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : form_(form), ac
 void WinningsView::showChanges() {
   dropStaleExplanation();
   showWhoseCheck();
+  titleNumbers();
   myPlays_->refresh();
   ticket_->refresh();
 }
@@ -157,7 +158,8 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   explained_->setText(beforeCheck);
   auto* lists = splitter(Qt::Horizontal, u"check"_s);
   showWinningLines(*titledList(*lists, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
-  showWinningLines(*titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding));
+  numbers_ = titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding);
+  showWinningLines(*numbers_);
 
   auto* column = columnIn(page, theme::pageMargin);
   column->addLayout(choice);
@@ -207,10 +209,21 @@ void WinningsView::showExplanation(const MainForm& form) {
 
 void WinningsView::showWhoseCheck() {
   if (explainedGame_ != nullptr) return;
-  const bool isOther = checkedGame_ != nullptr && checkedGame_ != &actions_.game() &&
-                       form_.winnings.List10.items().size() + form_.winnings.List11.items().size() > 0;
+  const bool isOther = checkedGame_ != nullptr && checkedGame_ != &actions_.game() && listsTickets();
   headline_->setText(isOther ? u"The lists below are still those of %1."_s.arg(toQString(checkedGame_->name))
                              : QString());
+}
+
+bool WinningsView::listsTickets() const {
+  return !form_.winnings.List10.items().empty() || !form_.winnings.List11.items().empty();
+}
+
+void WinningsView::titleNumbers() {
+  const GameInfo* const game = checkedGame_ != nullptr && listsTickets() ? checkedGame_ : &actions_.game();
+  const QString title =
+      game->game == Game::powerBall ? u"Their Num&bers and Double Play"_s : u"Their Num&bers"_s;
+  numbers_->parentWidget()->findChild<QLabel*>({}, Qt::FindDirectChildrenOnly)->setText(title);
+  numbers_->setAccessibleName(QString(title).remove(u'&'));
 }
 
 void WinningsView::dropStaleExplanation() {

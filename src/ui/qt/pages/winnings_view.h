@@ -15,6 +15,7 @@ namespace tallywick {
 
 class Binding;
 class FormWindow;
+class LineList;
 class MainForm;
 class MyPlaysView;
 class TicketView;
@@ -37,12 +38,16 @@ class WinningsView : public QTabWidget {
   void dropStaleExplanation();
   /// The headline of a check of the other game.
   void showWhoseCheck();
+  bool listsTickets() const;
+  /// Mega Millions has no Double Play.
+  void titleNumbers();
 
   const MainForm& form_;
   PlayActions actions_;
   QLabel* headline_ = nullptr;
   QLineEdit* verdict_ = nullptr;
   QLabel* explained_ = nullptr;
+  LineList* numbers_ = nullptr;
   /// The game whose check the lists show; none before one.
   const GameInfo* checkedGame_ = nullptr;
   /// What explained_ is about; none without a check.
