@@ -195,7 +195,8 @@ void DrawsDialog::greyForMadeUp(bool isMadeUp) {
   typeIn_->setEnabled(!isMadeUp);
   typeIn_->setToolTip(isMadeUp ? why : u"Adds one draw, checked by the rules of its date"_s);
   importAmounts_->setEnabled(!isMadeUp);
-  importAmounts_->setToolTip(isMadeUp ? why : u"Takes a file with the columns Draw Date, Amount and Mark Count"_s);
+  importAmounts_->setToolTip(isMadeUp ? why
+                                      : u"Takes a file with the columns Draw Date, Amount and Mark Count"_s);
 }
 
 void DrawsDialog::showAmounts() {
