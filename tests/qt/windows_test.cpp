@@ -58,6 +58,7 @@ TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
   writeRecordBook(scratch);
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply",
                 records({"12-28-2026,01,02,03,50,51,01,3000020", "12-27-2026,50,51,52,53,54,20,0000050"}));
+  platform.onShowsMadeUpDraws = [] { return true; };
   FormWindow& main = open("Form1");
   auto& wins = widget<LineList>("Form1", "List2");
   const LineHighlights found = wins.lineModel()->highlightsOf(" 12-28-2026    01 02 03 50 51   01");
@@ -69,6 +70,7 @@ TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
   EXPECT_TRUE(page.contains(QStringLiteral("<td align=\"left\">3&nbsp;+&nbsp;PowerBall</td>")))
       << page.toStdString();
   EXPECT_TRUE(page.contains(QStringLiteral("The first 15 of 119 lines.")));
+  EXPECT_TRUE(page.contains(QStringLiteral("<p><b>Sample draws.</b>")));
 }
 
 TEST_F(Windows, SortTheNumberTableByAColumn) {
@@ -358,7 +360,7 @@ TEST_F(Windows, ASelectionTakesANextPlayAwayAndBringsItBack) {
   EXPECT_EQ(scratch.read(committed), "");
   EXPECT_TRUE(next.empty());
   EXPECT_TRUE(static_cast<MainForm&>(*application.find("Form1")).winnings.List17.items().empty());
-  press("Bring Play Back (Ctrl+&Z)");
+  press("Bring Play Bac&k");
   EXPECT_EQ(scratch.read(committed), waiting);
   EXPECT_EQ(next.size(), 1U);
   scratch.write(committed, records({"12-28-2026,01,02,03,50,51,20,3000020"}));

@@ -2,9 +2,11 @@
 #include "ui/qt/pages/summary_print.h"
 
 #include "app/main_form.h"
+#include "ui/qt/pages/summary_view.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
+#include "ui/qt/windows/form_window.h"
 
 #include <QDate>
 #include <QFont>
@@ -27,10 +29,13 @@ QString sectionTitle(const QString& title) {
   return u"<h3>%1</h3>"_s.arg(title.toHtmlEscaped());
 }
 
-QString section(const Label& title, const ListBox& list, const QWidget& window) {
+QString section(const Label& title, const ListBox& list, const QWidget& window,
+                const StarMeaning* meaning = nullptr) {
   const auto& shown = *window.findChild<LineList*>(toQString(list.name()));
   const QString lines = list.items().empty() ? u"<p>None.</p>"_s : asTable(shown, printedLines);
-  return sectionTitle(asLabel()(title.caption())) + lines;
+  const QString star =
+      meaning != nullptr ? u"<p>* %1</p>"_s.arg(QString::fromLatin1(meaning->full)) : QString();
+  return sectionTitle(asLabel()(title.caption())) + star + lines;
 }
 
 QString frequentNumbers(const SummaryPage& page, const QWidget& window) {
@@ -50,25 +55,29 @@ QString sideBySide(const QString& left, const QString& right) {
 
 }  // namespace
 
-QString summaryPage(const MainForm& form, const QWidget& window) {
+QString summaryPage(const MainForm& form, const FormWindow& window) {
   const SummaryPage& page = form.summary;
   const GameInfo* const game = gameOnShow(form.frames);
   const QString title = game != nullptr ? u"%1 Summary"_s.arg(toQString(game->name)) : u"Summary"_s;
-  return u"<h1>%1</h1><p>Printed on %2</p>"_s.arg(title, QDate::currentDate().toString(u"MM-dd-yyyy"_s)) +
-         section(page.Label15, page.List1, window) + section(page.Label16, page.List2, window) +
+  const bool isMadeUp = window.desk().showsMadeUpDraws && window.desk().showsMadeUpDraws();
+  return u"<h1>%1</h1>"_s.arg(title) +
+         (isMadeUp ? u"<p><b>Sample draws.</b> They never took place.</p>"_s : QString()) +
+         u"<p>Printed on %1</p>"_s.arg(QDate::currentDate().toString(u"MM-dd-yyyy"_s)) +
+         section(page.Label15, page.List1, window, &newestStar) + section(page.Label16, page.List2, window) +
          u"<h2 style=\"page-break-before: always\">%1, continued</h2>"_s.arg(title) +
-         sideBySide(section(page.Label19, page.List4, window), section(page.Label17, page.List3, window)) +
+         sideBySide(section(page.Label19, page.List4, window),
+                    section(page.Label17, page.List3, window, &amountStar)) +
          frequentNumbers(page, window);
 }
 
-void fillSummary(QTextDocument& document, const MainForm& form, const QWidget& window) {
+void fillSummary(QTextDocument& document, const MainForm& form, const FormWindow& window) {
   QFont font = document.defaultFont();
   font.setPointSizeF(printedPoints);
   document.setDefaultFont(font);
   document.setHtml(summaryPage(form, window));
 }
 
-void printSummary(const MainForm& form, QWidget& window) {
+void printSummary(const MainForm& form, FormWindow& window) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(toQString(form.title()));
   QPrintDialog dialog(&printer, &window);

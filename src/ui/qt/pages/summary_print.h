@@ -4,17 +4,17 @@
 
 class QString;
 class QTextDocument;
-class QWidget;
 
 namespace tallywick {
 
+class FormWindow;
 class MainForm;
 
 /// The newest of what the summary's lists in the window show, under their headings, as HTML for a page or
-/// two.
-QString summaryPage(const MainForm& form, const QWidget& window);
+/// two. Above them it says where the draws are made up.
+QString summaryPage(const MainForm& form, const FormWindow& window);
 /// The same as a document, in a size for paper.
-void fillSummary(QTextDocument& document, const MainForm& form, const QWidget& window);
-void printSummary(const MainForm& form, QWidget& window);
+void fillSummary(QTextDocument& document, const MainForm& form, const FormWindow& window);
+void printSummary(const MainForm& form, FormWindow& window);
 
 }  // namespace tallywick

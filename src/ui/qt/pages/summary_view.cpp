@@ -6,12 +6,14 @@
 #include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/form_window.h"
 
 #include <QButtonGroup>
 #include <QFrame>
 #include <QGridLayout>
+#include <QPainter>
 
 namespace tallywick {
 
@@ -26,16 +28,50 @@ struct HeadedList {
   ListBox& list;
   LineFields fields;
   Label* columnNames = nullptr;
+  /// What the star beside an amount means; null where no line has one.
+  const StarMeaning* star = nullptr;
 };
+
+/// A text that is not shown where there is too little room for the whole of it.
+class YieldingLabel : public DimmedLabel {
+ public:
+  YieldingLabel(const QString& text, QWidget* parent) : DimmedLabel(parent), whole_(text) { setText(text); }
+  QSize sizeHint() const override {
+    return {fontMetrics().horizontalAdvance(whole_) + theme::halfGap, DimmedLabel::sizeHint().height()};
+  }
+  QSize minimumSizeHint() const override { return {0, DimmedLabel::minimumSizeHint().height()}; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    DimmedLabel::resizeEvent(event);
+    setText(width() < sizeHint().width() ? QString() : whole_);
+  }
+
+ private:
+  QString whole_;
+};
+
+void explainStar(LineList& list, QBoxLayout& headingLine, const StarMeaning& meaning, QWidget* parent) {
+  const QString text = u"★ %1"_s.arg(QString::fromLatin1(meaning.full));
+  auto* note = new YieldingLabel(u"★ %1"_s.arg(QString::fromLatin1(meaning.brief)), parent);
+  note->setToolTip(text);
+  headingLine.addStretch();
+  headingLine.addWidget(note);
+  list.header()->setToolTip(text);
+  list.setAccessibleDescription(text);
+}
 
 LineList* addHeadedList(QBoxLayout& column, const HeadedList& headed, const MainForm& form, Binding& binding,
                         QWidget* parent) {
   auto* label = heading(parent);
   auto* list = new LineList(headed.list.items(), parent);
   label->setBuddy(list);
-  column.addWidget(label);
+  auto* headingLine = row();
+  headingLine->addWidget(label);
+  column.addLayout(headingLine);
   column.addWidget(list, 1);
   showInColumns(*list, headed.fields, gameOnShowOf(form.frames));
+  if (headed.star != nullptr) explainStar(*list, *headingLine, *headed.star, parent);
   if (headed.columnNames != nullptr) binding.bind(*headed.columnNames, *list);
   binding.bind(headed.list, *list);
   binding.bind(headed.label, *label, asLabelOfControl(headed.mnemonic));
@@ -94,7 +130,9 @@ QWidget* SummaryView::drawsSide(MainForm& form, Binding& binding) {
   side->addWidget(headedList({page.Label15,
                               'L',
                               page.List1,
-                              {LineField::date, LineField::whites, LineField::extra, LineField::amount}},
+                              {LineField::date, LineField::whites, LineField::extra, LineField::amount},
+                              nullptr,
+                              &newestStar},
                              form, binding));
   side->addWidget(frequentNumbers(form, binding));
   side->setStretchFactor(0, 3);
@@ -150,8 +188,10 @@ QWidget* SummaryView::amounts(MainForm& form, Binding& binding) {
   SummaryPage& page = form.summary;
   auto* box = new QWidget;
   auto* column = columnIn(box);
-  addHeadedList(*column, {page.Label17, 'A', page.List3, {LineField::date, LineField::amount}, &page.Label18},
-                form, binding, box);
+  addHeadedList(
+      *column,
+      {page.Label17, 'A', page.List3, {LineField::date, LineField::amount}, &page.Label18, &amountStar}, form,
+      binding, box);
 
   auto* luckyFive = new QWidget(box);
   auto* parts = columnIn(luckyFive);

@@ -11,6 +11,14 @@ class Binding;
 class FormWindow;
 class MainForm;
 
+/// What the star beside an amount means, in the list of the newest draws and in that of all amounts.
+struct StarMeaning {
+  const char* brief;
+  const char* full;
+};
+inline constexpr StarMeaning newestStar = {"starts anew", "the jackpot starts anew at this amount"};
+inline constexpr StarMeaning amountStar = {"somebody won", "somebody won in this draw"};
+
 class SummaryView : public QWidget {
  public:
   SummaryView(MainForm& form, FormWindow& window);
