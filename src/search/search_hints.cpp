@@ -167,7 +167,10 @@ SearchHint searchHint(const PlayedPage& page, const GameFrames& frames) {
   const bool isWritten = now.numbers.size() == 2;
   return {isWritten, !isWritten,
           join("Search counts the ", now.game, " draws with ", now.numbers,
-               isWritten ? "." : join("; draws write it as 0", now.numbers, ", so it finds none."), own)};
+               isWritten ? "."
+                         : join("; draws write it as 0", now.numbers, ", so it finds none: type 0",
+                                now.numbers, " and press Display."),
+               own)};
 }
 
 SearchHint searchHint(const HavePlayedPlaysPage& page, const GameFrames& frames) {

@@ -269,9 +269,9 @@ TEST_F(SearchHints, SayWhatAPressWillSearch) {
   };
   EXPECT_EQ(played(""), "idle: The ball has no number.");
   EXPECT_EQ(played("02"), "ready: Search counts the Double Play draws with 02.");
-  EXPECT_EQ(
-      played("2"),
-      "idle, other: Search counts the Double Play draws with 2; draws write it as 02, so it finds none.");
+  EXPECT_EQ(played("2"),
+            "idle, other: Search counts the Double Play draws with 2; draws write it as 02, so it finds "
+            "none: type 02 and press Display.");
 }
 
 TEST_F(SearchHints, SayWhoseResultIsShown) {
