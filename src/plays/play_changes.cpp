@@ -34,8 +34,7 @@ std::string inLines(std::string_view text) {
   const WholePlays records = wholePlays(text, {});
   const auto endsLine = [&](std::size_t end) { return text[end - 1] == '\n' || text[end - 1] == '\r'; };
   if (std::ranges::all_of(records.ends, endsLine)) return std::string(text);
-  const bool onlyLast =
-      std::ranges::all_of(records.ends | std::views::reverse | std::views::drop(1), endsLine);
+  const bool onlyLast = std::all_of(records.ends.begin(), records.ends.end() - 1, endsLine);
   if (onlyLast && records.end() == text.size()) return join(text, "\r\n");
   std::string lines;
   for (const Play& play : records.plays) appendRecord(lines, play);

@@ -50,8 +50,8 @@ SearchPanel twoThreePanel(TwoThreePage& page) {
   auto memory = std::make_shared<SearchMemory>(page.Combo7.items(), &page.List8.items());
   const std::pair<Button*, const char*> searches[] = {
       {&page.Command38, "PowerBall"}, {&page.Command25, "Mega Millions"}, {&page.Command26, "Double Play"}};
-  for (const auto& [button, game] : searches)
-    memory->watch(*button, [&page, game] { return searchedNow(page, game); });
+  for (const auto& search : searches)
+    memory->watch(*search.first, [&page, game = search.second] { return searchedNow(page, game); });
   return {u"Ta&ke the numbers of:"_s,
           page.Combo4,
           {&page.Command37},

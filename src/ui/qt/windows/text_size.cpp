@@ -5,6 +5,7 @@
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QSettings>
+#include <QWidget>
 #include <algorithm>
 
 namespace tallywick {
