@@ -137,7 +137,7 @@ class OneChange {
     if (shown != before()) throw PlaysChangedMeanwhile();
   }
 
-  PlayChange make(std::string what, PlayTexts after) {
+  PlayChange make(std::string what, const PlayTexts& after) {
     return make(std::move(what), after, after.committed, after.played);
   }
   PlayChange make(std::string what, PlayTexts after, std::string_view committedCopy,
@@ -217,7 +217,7 @@ PlayChange PlayChanges::remove(const PlayTexts& shown, std::span<const PlayPlace
     }
     if (!numbers.empty()) cutOut(textIn(after, slot), std::move(numbers));
   }
-  return change.make(join(inFigures(plays.size(), "play"), " removed"), std::move(after));
+  return change.make(join(inFigures(plays.size(), "play"), " removed"), after);
 }
 
 PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std::size_t> records) const {
@@ -229,14 +229,14 @@ PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std
   for (const std::size_t number : records) moved.push_back(committed.plays.at(number - 1));
   insertAll(after, PlaySlot::played, std::move(moved));
   cutOut(after.committed, {records.begin(), records.end()});
-  return change.make(join(inFigures(records.size(), "play"), " moved to the played plays"), std::move(after));
+  return change.make(join(inFigures(records.size(), "play"), " moved to the played plays"), after);
 }
 
 PlayChange PlayChanges::add(PlaySlot file, std::string_view record) const {
   OneChange change(game_, folder_, clock_);
   PlayTexts after = change.before();
   insertAll(after, file, {wholePlays(record, {}).plays.at(0)});
-  return change.make("1 play added", std::move(after));
+  return change.make("1 play added", after);
 }
 
 std::vector<PlayCopy> PlayChanges::copies() const {
@@ -274,7 +274,7 @@ PlayChange PlayChanges::bringBack(const PlayTexts& shown, std::string_view copy)
     }
     insertAll(after, slot, std::move(plays));
   }
-  return change.make(join(inFigures(missing.size(), "play"), " brought back"), std::move(after));
+  return change.make(join(inFigures(missing.size(), "play"), " brought back"), after);
 }
 
 PlayChange PlayChanges::undo(const PlayChange& earlier) const {
