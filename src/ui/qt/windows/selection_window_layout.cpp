@@ -170,7 +170,8 @@ QWidget* SelectionWindow::removableChoice(Label& label, char mnemonic, ComboBox&
   button->setFocusPolicy(Qt::StrongFocus);
   button->setToolTip(u"Takes the play that is chosen in this list away; Ctrl+Z brings it back (Delete)"_s);
   auto* line = row();
-  line->addWidget(column->takeAt(0)->widget(), 1);
+  line->addItem(column->takeAt(0));
+  line->setStretch(0, 1);
   line->addWidget(button);
   column->insertLayout(0, line);
   auto* action = new QAction(u"&Remove This Play"_s, &list);
