@@ -169,19 +169,12 @@ FileBytes readFile(const fs::path& file) {
 }
 
 FileStamp stampOf(const fs::path& file) {
-  constexpr DWORD toAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const HANDLE handle = ::CreateFileW(file.c_str(), FILE_READ_ATTRIBUTES, toAll, nullptr, OPEN_EXISTING,
-                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) {
-    const DWORD error = ::GetLastError();
-    if (isMissing(error)) return {};
-    fail(error, file);
-  }
+  std::error_code error;
+  if (!fs::exists(file, error) && !error) return {};
+  const Handle handle(file, FILE_READ_ATTRIBUTES, OPEN_EXISTING,
+                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, FILE_FLAG_BACKUP_SEMANTICS);
   BY_HANDLE_FILE_INFORMATION known{};
-  const bool isKnown = ::GetFileInformationByHandle(handle, &known) != 0;
-  const DWORD error = ::GetLastError();
-  ::CloseHandle(handle);
-  if (!isKnown) fail(error, file);
+  if (::GetFileInformationByHandle(handle.get(), &known) == 0) fail(::GetLastError(), file);
   const auto joined = [](DWORD high, DWORD low) { return (static_cast<std::uint64_t>(high) << 32U) | low; };
   return {known.dwVolumeSerialNumber, joined(known.nFileIndexHigh, known.nFileIndexLow),
           joined(known.nFileSizeHigh, known.nFileSizeLow), fs::last_write_time(file)};
