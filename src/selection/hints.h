@@ -59,7 +59,6 @@ class RemovedMarks {
   bool watch(const SelectionForm& form, const std::function<void()>& action);
   /// Puts the marks kept last back in the place of those that are there. False where none are kept.
   bool bringBack(SelectionForm& form);
-  bool empty() const { return removed_.empty(); }
 
  private:
   std::vector<std::vector<Mark>> removed_;

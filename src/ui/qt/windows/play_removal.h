@@ -22,7 +22,6 @@ class PlayRemoval {
   /// By the line of the list of next plays, of which a drawn one stays.
   void removeNext(std::size_t line);
 
-  bool empty() const { return removed_.empty(); }
   /// Forgets what it brings back, or cannot bring back any more. True where committed plays have changed.
   bool bringBack();
 
