@@ -2,16 +2,25 @@
 #include "ui/qt/windows/help_window.h"
 
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/windows/manual_search.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QHash>
 #include <QImage>
+#include <QImageReader>
 #include <QPointer>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
+#include <utility>
+#include <vector>
 
 namespace tallywick {
 
@@ -22,6 +31,8 @@ namespace {
 /// Room for the pictures in their own size.
 constexpr QSize usualSize = {920, 700};
 
+}  // namespace
+
 /// A page whose pictures are never wider than the window, and whose links are readable on every ground.
 class ManualText : public QTextBrowser {
  public:
@@ -30,15 +41,40 @@ class ManualText : public QTextBrowser {
     // The room for pictures does not depend on how long the page is.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     colorLinks();
+    connect(this, &QTextBrowser::sourceChanged, this, [this] { light(); });
+    connect(&reading_, &QTimer::timeout, this, [this] { readPicture(); });
+  }
+
+  /// Lights these words in this page and in all that follow.
+  void lightWords(const QRegularExpression& words) {
+    words_ = words;
+    light();
+  }
+
+  /// Scrolls so that the line with this character is the first one seen.
+  void showAt(int position) {
+    QTextCursor cursor(document());
+    cursor.setPosition(position);
+    setTextCursor(cursor);
+    const QRectF line = document()->documentLayout()->blockBoundingRect(cursor.block());
+    verticalScrollBar()->setValue(qRound(line.top()) - theme::gap);
   }
 
   QVariant loadResource(int type, const QUrl& name) override {
     QVariant loaded = QTextBrowser::loadResource(type, name);
-    if (type == QTextDocument::HtmlResource) pictures_.clear();
+    if (type == QTextDocument::HtmlResource) {
+      pictures_.clear();
+      unread_.clear();
+    }
     if (type != QTextDocument::ImageResource) return loaded;
-    const QImage picture = QImage::fromData(loaded.toByteArray());
-    pictures_.insert(name, picture);
-    return fitted(picture);
+    const QByteArray data = loaded.toByteArray();
+    QBuffer file;
+    file.setData(data);
+    QImage blank(fittedSize(QImageReader(&file).size()), QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    unread_.emplace_back(name, data);
+    reading_.start(0);
+    return blank;
   }
 
  protected:
@@ -54,19 +90,53 @@ class ManualText : public QTextBrowser {
   }
 
  private:
-  QImage fitted(const QImage& picture) const {
+  QSize fittedSize(QSize size) const {
     // A picture may be in a list.
     const int room = viewport()->width() - 2 * theme::pageMargin - qRound(document()->indentWidth());
-    if (picture.width() <= room || room <= 0) return picture;
-    QImage shown = picture.scaledToWidth(qRound(room * devicePixelRatioF()), Qt::SmoothTransformation);
+    if (size.width() <= room || room <= 0) return size;
+    return {room, qRound(static_cast<double>(size.height()) * room / size.width())};
+  }
+
+  QImage fitted(const QImage& picture) const {
+    const QSize size = fittedSize(picture.size());
+    if (size == picture.size()) return picture;
+    QImage shown =
+        picture.scaled(size * devicePixelRatioF(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     shown.setDevicePixelRatio(devicePixelRatioF());
     return shown;
+  }
+
+  /// One after the other, so that no step is long.
+  void readPicture() {
+    if (unread_.empty()) return reading_.stop();
+    const auto [name, data] = unread_.front();
+    unread_.erase(unread_.begin());
+    const QImage picture = QImage::fromData(data);
+    pictures_.insert(name, picture);
+    document()->addResource(QTextDocument::ImageResource, name, fitted(picture));
+    viewport()->update();
   }
 
   void colorLinks() {
     const QColor color = theme::standingOutFrom(palette().color(QPalette::Base),
                                                 palette().color(QPalette::Link), theme::textContrast);
     document()->setDefaultStyleSheet(u"a { color: %1; }"_s.arg(color.name()));
+  }
+
+  void light() {
+    QTextCharFormat bright;
+    bright.setBackground(palette().color(QPalette::Highlight));
+    bright.setForeground(palette().color(QPalette::HighlightedText));
+    QList<ExtraSelection> lit;
+    // The first line leads to the other pages.
+    const int begin = document()->firstBlock().length();
+    for (const QRegularExpressionMatch& match : words_.globalMatch(toPlainText(), begin)) {
+      QTextCursor cursor(document());
+      cursor.setPosition(static_cast<int>(match.capturedStart()));
+      cursor.setPosition(static_cast<int>(match.capturedEnd()), QTextCursor::KeepAnchor);
+      lit.append({cursor, bright});
+    }
+    setExtraSelections(lit);
   }
 
   void fitPictures() {
@@ -77,9 +147,11 @@ class ManualText : public QTextBrowser {
 
   /// Those of the page, in their own size.
   QHash<QUrl, QImage> pictures_;
+  /// Those of the page that are blank so far.
+  std::vector<std::pair<QUrl, QByteArray>> unread_;
+  QTimer reading_;
+  QRegularExpression words_{u"(?!)"_s};
 };
-
-}  // namespace
 
 QString manualFolder() {
   for (const QString& place : {u"/../share/tallywick/manual"_s, u"/manual"_s}) {
@@ -91,19 +163,31 @@ QString manualFolder() {
 
 void HelpWindow::showPage(const QString& page) {
   static QPointer<HelpWindow> open;
-  if (open == nullptr) open = new HelpWindow;
+  // A closed one is there until it is deleted.
+  if (open == nullptr || !open->isVisible()) open = new HelpWindow;
   open->goTo(page);
   open->show();
   open->raise();
   open->activateWindow();
 }
 
-HelpWindow::HelpWindow() : text_(new ManualText) {
+HelpWindow::HelpWindow() : text_(new ManualText), search_(new ManualSearch(manualFolder(), this)) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(u"Tallywick Help"_s);
   text_->setOpenExternalLinks(true);
   text_->setAccessibleName(u"Manual"_s);
-  setCentralWidget(text_);
+  auto* whole = new QWidget;
+  auto* column = columnIn(whole);
+  column->setSpacing(0);
+  column->addWidget(search_);
+  column->addWidget(text_, 1);
+  setCentralWidget(whole);
+  addBar();
+  addSearch();
+  resizeOnScreen(*this, usualSize);
+}
+
+void HelpWindow::addBar() {
   auto* bar = addToolBar(u"Pages"_s);
   bar->setMovable(false);
   bar->addAction(u"&Contents"_s, text_, &QTextBrowser::home);
@@ -111,9 +195,22 @@ HelpWindow::HelpWindow() : text_(new ManualText) {
   back->setShortcut(QKeySequence::Back);
   connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
   back->setEnabled(false);
-  auto* close = new QShortcut(Qt::Key_Escape, this);
-  connect(close, &QShortcut::activated, this, &QWidget::close);
-  resizeOnScreen(*this, usualSize);
+}
+
+void HelpWindow::addSearch() {
+  search_->onSearched = [this] { text_->lightWords(search_->wordsToLight()); };
+  search_->onChosen = [this](const QString& page, int position) {
+    goTo(page);
+    text_->showAt(position);
+    text_->setFocus(Qt::OtherFocusReason);
+  };
+  const auto* begin = new QShortcut(QKeySequence::Find, this);
+  connect(begin, &QShortcut::activated, search_, &ManualSearch::begin);
+  const auto* close = new QShortcut(Qt::Key_Escape, this);
+  connect(close, &QShortcut::activated, this, [this] {
+    if (!search_->end()) this->close();
+  });
+  text_->setFocus();
 }
 
 void HelpWindow::goTo(const QString& page) {

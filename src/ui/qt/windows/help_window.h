@@ -4,9 +4,10 @@
 
 #include <QMainWindow>
 
-class QTextBrowser;
-
 namespace tallywick {
+
+class ManualSearch;
+class ManualText;
 
 class HelpWindow : public QMainWindow {
  public:
@@ -15,9 +16,12 @@ class HelpWindow : public QMainWindow {
 
  private:
   HelpWindow();
+  void addBar();
+  void addSearch();
   void goTo(const QString& page);
 
-  QTextBrowser* text_;
+  ManualText* text_;
+  ManualSearch* search_;
 };
 
 /// The folder of the installed manual: beside the program's own, or in it. Empty where there is none.
