@@ -110,8 +110,7 @@ BallColors ballColors(const BallLook& look, const QPalette& palette) {
   if (!look.enabled)
     colors.text = theme::standingOutFrom(fill, theme::mixed(colors.text, fill, 0.5), theme::shapeContrast);
   colors.caps = theme::standingOutFrom(fill, theme::mixed(fill, colors.text, 0.5), theme::shapeContrast);
-  colors.outline = theme::standingOutFrom(window, theme::mixed(fill, window, 0.2),
-                                          look.enabled ? theme::shapeContrast : 1.6);
+  colors.outline = theme::standingOutFrom(window, theme::mixed(fill, window, 0.2), theme::shapeContrast);
   return colors;
 }
 

@@ -22,19 +22,22 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
   const bool isList =
       element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
   if (!option->state.testFlag(State_HasFocus)) return;
-  if (isList) drawRing(*painter, option->rect, option->palette);
+  if (isList) drawRing(*painter, option->rect, option->palette, 2);
   if (element == CE_TabBarTabLabel && option->state.testFlag(State_KeyboardFocusChange))
     drawRing(*painter,
              option->rect.adjusted(theme::halfGap, theme::halfGap, -theme::halfGap, -theme::halfGap),
              option->palette);
 }
 
-void FocusStyle::drawRing(QPainter& painter, const QRect& area, const QPalette& palette) {
+void FocusStyle::drawRing(QPainter& painter, const QRect& area, const QPalette& palette, int width) {
   const QColor ground = palette.color(QPalette::Window);
+  const double half = width / 2.0;
   painter.save();
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(theme::standingOutFrom(ground, palette.color(QPalette::Highlight), theme::shapeContrast));
-  painter.drawRect(area.adjusted(0, 0, -1, -1));
+  painter.setPen(
+      QPen(theme::standingOutFrom(ground, palette.color(QPalette::Highlight), theme::shapeContrast), width,
+           Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(QRectF(area).adjusted(half, half, -half, -half));
   painter.restore();
 }
 

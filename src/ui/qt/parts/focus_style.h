@@ -14,8 +14,8 @@ class FocusStyle : public QProxyStyle {
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget = nullptr) const override;
 
-  /// A frame around `area` that stands out from the ground.
-  static void drawRing(QPainter& painter, const QRect& area, const QPalette& palette);
+  /// A frame within `area` that stands out from the ground.
+  static void drawRing(QPainter& painter, const QRect& area, const QPalette& palette, int width = 1);
 };
 
 }  // namespace tallywick

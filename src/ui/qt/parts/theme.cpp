@@ -5,10 +5,14 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <cmath>
+#include <utility>
 
 namespace tallywick::theme {
 
 namespace {
+
+/// Black and white, or nearly so.
+constexpr double highContrast = 20;
 
 double linear(float part) {
   const double value = part;
@@ -85,16 +89,47 @@ QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastC
   return target;
 }
 
-void makeHintsReadable() {
-  const QPalette now = QGuiApplication::palette();
-  const QColor ground = now.color(QPalette::Base);
-  QColor wanted = now.color(QPalette::PlaceholderText);
+namespace {
+
+void makeHintsReadable(QPalette& colors) {
+  const QColor ground = colors.color(QPalette::Base);
+  QColor wanted = colors.color(QPalette::PlaceholderText);
   wanted = mixed(ground, QColor::fromRgb(wanted.rgb()), static_cast<double>(wanted.alphaF()));
   const QColor readable = standingOutFrom(ground, wanted, textContrast);
-  if (now.color(QPalette::PlaceholderText) == readable) return;
+  if (colors.color(QPalette::PlaceholderText) != readable)
+    colors.setColor(QPalette::PlaceholderText, readable);
+}
+
+/// Some desktops of high contrast have one colour for both.
+void tellDisabledApart(QPalette& colors) {
+  for (const auto& [text, ground] :
+       {std::pair(QPalette::WindowText, QPalette::Window), std::pair(QPalette::Text, QPalette::Base),
+        std::pair(QPalette::ButtonText, QPalette::Button)}) {
+    const QColor usual = colors.color(QPalette::Active, text);
+    if (contrast(usual, colors.color(QPalette::Disabled, text)) >= changeContrast) continue;
+    const QColor under = colors.color(QPalette::Disabled, ground);
+    colors.setColor(QPalette::Disabled, text,
+                    standingOutFrom(under, mixed(usual, under, 0.5), shapeContrast));
+  }
+}
+
+}  // namespace
+
+void makeReadable() {
+  const QPalette now = QGuiApplication::palette();
   QPalette colors = now;
-  colors.setColor(QPalette::PlaceholderText, readable);
-  QApplication::setPalette(colors);
+  makeHintsReadable(colors);
+  tellDisabledApart(colors);
+  if (colors != now) QApplication::setPalette(colors);
+}
+
+QColor outline(const QPalette& palette, bool isEnabled) {
+  const QColor ground = palette.color(QPalette::Window);
+  const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+  // On a desktop of high contrast the lines have it too.
+  const double share = contrast(ground, ink) > highContrast ? 0.7 : 0.4;
+  return isEnabled ? standingOutFrom(ground, mixed(ground, ink, share), shapeContrast)
+                   : mixed(ground, ink, share / 2);
 }
 
 bool isDark(const QPalette& palette) {

@@ -23,6 +23,8 @@ inline constexpr QMargins windowFrame = {gap, 5 * gap, gap, gap};
 /// Readable text on its ground, and a shape that differs from its surroundings.
 inline constexpr double textContrast = 4.5;
 inline constexpr double shapeContrast = 3.0;
+/// Two states of one thing.
+inline constexpr double changeContrast = 1.5;
 
 /// What was won, found or matched.
 inline const QColor winning(22, 128, 72);
@@ -40,8 +42,12 @@ QColor mixed(const QColor& under, const QColor& over, double share);
 /// `wanted`, moved towards black or white until it has at least that contrast with `ground`.
 QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastContrast);
 
-/// Gives the application's palette a colour for hints in empty fields that is readable.
-void makeHintsReadable();
+/// Gives the application's palette colours that are readable for hints in empty fields, and that are told
+/// apart for what cannot be used.
+void makeReadable();
+
+/// Of fields, lists and buttons. What cannot be used has a weaker one.
+QColor outline(const QPalette& palette, bool isEnabled = true);
 
 bool isDark(const QPalette& palette);
 /// A control's colour on this desktop; the system's colours come from the palette.

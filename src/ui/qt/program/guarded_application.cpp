@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/program/guarded_application.h"
 
-#include "ui/qt/parts/focus_style.h"
+#include "ui/qt/parts/outline_style.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QTimer>
@@ -12,13 +12,13 @@ namespace tallywick {
 
 GuardedApplication::GuardedApplication(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
-  setStyle(new FocusStyle);
-  theme::makeHintsReadable();
+  setStyle(new OutlineStyle);
+  theme::makeReadable();
 }
 
 bool GuardedApplication::event(QEvent* event) {
   const bool isHandled = QApplication::event(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) theme::makeHintsReadable();
+  if (event->type() == QEvent::ApplicationPaletteChange) theme::makeReadable();
   return isHandled;
 }
 
