@@ -53,6 +53,15 @@ QRectF circleIn(const QRect& area) {
   return {area.center().x() + 1.5 - side / 2, area.center().y() + 1.5 - side / 2, side, side};
 }
 
+/// Up where the smallest is on top.
+void drawSortArrow(const QStyle& style, const QStyleOptionHeader& header, QPainter& painter,
+                   const QWidget* widget) {
+  if (header.sortIndicator == QStyleOptionHeader::None) return;
+  const bool isAscending = header.sortIndicator == QStyleOptionHeader::SortDown;
+  style.drawPrimitive(isAscending ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, &header,
+                      &painter, widget);
+}
+
 }  // namespace
 
 bool OutlineStyle::drawsOutlines() const {
@@ -61,6 +70,11 @@ bool OutlineStyle::drawsOutlines() const {
 
 void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
+  if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+      header != nullptr && element == PE_IndicatorHeaderArrow) {
+    drawSortArrow(*this, *header, *painter, widget);
+    return;
+  }
   FocusStyle::drawPrimitive(element, option, painter, widget);
   if (!drawsOutlines()) return;
   const bool hasKeyboard =
