@@ -23,7 +23,8 @@ TEST(Manual, FindsTheBestSentenceOfEachPage) {
   scratch.write("a.html", "<title>Plays</title>" + line +
                               "<p>A play waits. It won a <b>prize</b>! Each play. Plays.</p>");
   scratch.write("b.html",
-                "<title>Keys</title>" + line + "<table><tr><td>Ctrl+Z</td><td>Undo</td></tr></table>");
+                "<title>Keys</title>" + line +
+                    "<table><tr><td>Ctrl+Z</td><td>Undo</td></tr></table><p>Waiting. They wait.</p>");
   ManualIndex index(QString::fromStdString(scratch.root().string()));
   while (index.readNext()) continue;
   const struct {
@@ -36,6 +37,7 @@ TEST(Manual, FindsTheBestSentenceOfEachPage) {
       {"undo z", "Keys: Ctrl+Z: Undo; ", true},
       {"play prize", "Plays: It won a prize!; ", true},
       {"prize zebra", "Plays: It won a prize!; Front: The prize.; ", false},
+      {"wait", "Plays: A play waits.; Keys: They wait.; ", true},
       {"contents", "", false},
   };
   for (const auto& [words, places, areWhole] : cases) {

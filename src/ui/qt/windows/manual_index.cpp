@@ -32,8 +32,8 @@ const QStringList smallWords = {u"a"_s,  u"an"_s,  u"can"_s, u"do"_s,  u"does"_s
 constexpr auto anyCase =
     QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption;
 
-/// Each word as the beginning of a pattern; the plural finds the singular.
-QStringList patternsOf(const QString& text) {
+/// The words to look for; the plural finds the singular.
+QStringList wordsOf(const QString& text) {
   static const QRegularExpression noLetters(u"[^\\w]+"_s, QRegularExpression::UseUnicodePropertiesOption);
   QStringList words = text.toLower().split(noLetters, Qt::SkipEmptyParts);
   words.removeDuplicates();
@@ -42,26 +42,70 @@ QStringList patternsOf(const QString& text) {
   if (!large.isEmpty()) words = large;
   for (QString& word : words) {
     if (word.size() > 3 && word.endsWith(u's')) word.chop(1);
-    word = word.size() == 1 ? u"\\b%1\\b"_s.arg(word) : u"\\b%1\\w*"_s.arg(word);
   }
   return words;
+}
+
+QString beginning(const QString& word) {
+  return word.size() == 1 ? u"\\b%1\\b"_s.arg(word) : u"\\b%1\\w*"_s.arg(word);
 }
 
 constexpr std::size_t mostWords = 16;
 /// A bit for each word looked for.
 using Words = std::bitset<mostWords>;
 
-std::vector<QRegularExpression> expressionsOf(const QString& text) {
-  std::vector<QRegularExpression> words;
-  for (const QString& pattern : patternsOf(text).mid(0, mostWords)) words.emplace_back(pattern, anyCase);
-  return words;
-}
+/// What of the words a sentence has: those that begin so, and those that are so.
+struct Hits {
+  Words begun;
+  Words whole;
+};
 
-Words wordsIn(const QString& text, const std::vector<QRegularExpression>& words) {
-  Words found;
-  for (std::size_t i = 0; i < words.size(); ++i) found[i] = words[i].match(text).hasMatch();
-  return found;
-}
+class Query {
+ public:
+  explicit Query(const QString& text) {
+    for (const QString& word : wordsOf(text).mid(0, mostWords)) {
+      begun_.emplace_back(beginning(word), anyCase);
+      whole_.emplace_back(u"\\b%1s?\\b"_s.arg(word), anyCase);
+    }
+  }
+
+  std::size_t size() const { return begun_.size(); }
+
+  Hits in(const QString& text) const {
+    Hits found;
+    for (std::size_t i = 0; i < size(); ++i) {
+      found.begun[i] = begun_[i].match(text).hasMatch();
+      found.whole[i] = found.begun[i] && whole_[i].match(text).hasMatch();
+    }
+    return found;
+  }
+
+ private:
+  std::vector<QRegularExpression> begun_;
+  std::vector<QRegularExpression> whole_;
+};
+
+/// A rare word tells more than a frequent one.
+class Worth {
+ public:
+  void count(const Hits& hits) {
+    for (std::size_t i = 0; i < mostWords; ++i) {
+      begun_[i] += hits.begun[i] ? 1 : 0;
+      whole_[i] += hits.whole[i] ? 1 : 0;
+    }
+  }
+
+  double of(const Hits& hits) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < mostWords; ++i)
+      sum += (hits.begun[i] ? 1.0 / begun_[i] : 0) + (hits.whole[i] ? 1.0 / whole_[i] : 0);
+    return sum;
+  }
+
+ private:
+  std::array<int, mostWords> begun_ = {};
+  std::array<int, mostWords> whole_ = {};
+};
 
 /// A page with some of the words, and its best sentence.
 struct Candidate {
@@ -123,39 +167,33 @@ std::vector<ManualIndex::Sentence> ManualIndex::sentencesOf(const QTextDocument&
 }
 
 FoundPlaces ManualIndex::find(const QString& text) const {
-  const std::vector<QRegularExpression> words = expressionsOf(text);
-  std::vector<std::vector<Words>> found(pages_.size());
-  std::array<int, mostWords> counts = {};
+  constexpr double ofHeading = 1.5;
+  const Query query(text);
+  std::vector<std::vector<Hits>> found(pages_.size());
+  Worth worth;
   for (std::size_t page = 0; page < pages_.size(); ++page) {
-    for (const Sentence& sentence : pages_[page].sentences) {
-      found[page].push_back(wordsIn(sentence.text, words));
-      for (std::size_t i = 0; i < mostWords; ++i) counts[i] += found[page].back()[i] ? 1 : 0;
-    }
+    for (const Sentence& sentence : pages_[page].sentences)
+      worth.count(found[page].emplace_back(query.in(sentence.text)));
   }
-  // A rare word tells more than a frequent one.
-  const auto worth = [&counts](Words here, bool isHeading) {
-    double sum = 0;
-    for (std::size_t i = 0; i < mostWords; ++i) sum += here[i] ? 1.0 / counts[i] : 0;
-    return isHeading ? 1.5 * sum : sum;
-  };
   std::vector<Candidate> pages;
   for (std::size_t page = 0; page < pages_.size(); ++page) {
     Candidate best;
     for (std::size_t i = 0; i < found[page].size(); ++i) {
       const Sentence& sentence = pages_[page].sentences[i];
-      best.words |= found[page][i];
-      const double here = worth(found[page][i], sentence.isHeading);
+      best.words |= found[page][i].begun;
+      const double here = worth.of(found[page][i]) * (sentence.isHeading ? ofHeading : 1);
       if (here <= best.worth) continue;
       best.worth = here;
       best.place = {pages_[page].name, pages_[page].title, sentence.text, sentence.position};
     }
     if (best.words.any()) pages.push_back(best);
   }
-  return bestOf(std::move(pages), words.size());
+  return bestOf(std::move(pages), query.size());
 }
 
-QRegularExpression ManualIndex::anyOf(const QString& words) {
-  const QStringList patterns = patternsOf(words);
+QRegularExpression ManualIndex::anyOf(const QString& text) {
+  QStringList patterns = wordsOf(text);
+  for (QString& word : patterns) word = beginning(word);
   return QRegularExpression(patterns.isEmpty() ? u"(?!)"_s : patterns.join(u'|'), anyCase);
 }
 
