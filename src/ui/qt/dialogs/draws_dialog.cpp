@@ -6,6 +6,7 @@
 #include "core/data_folder.h"
 #include "core/eras.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "exports/folder_merge.h"
 #include "exports/import_report.h"
 #include "exports/made_up.h"
@@ -46,6 +47,12 @@ QString resultOf(const GameFetch& fetch) {
   if (fetch.isUnchanged) return u"%1: nothing new"_s.arg(name);
   return u"%1: %2 draws fetched\n%3"_s.arg(name, QString::number(fetch.report.draws),
                                            linesOf(fetch.report, fetch.game));
+}
+
+QTableWidgetItem* figure(const QString& text) {
+  auto* made = new QTableWidgetItem(text);
+  made->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return made;
 }
 
 }  // namespace
@@ -150,13 +157,14 @@ QBoxLayout* DrawsDialog::actionRows() {
 void DrawsDialog::addAmounts(QBoxLayout& column) {
   auto* name = heading(this, u"Amounts of the &newest draws:"_s);
   name->setBuddy(amounts_);
-  amounts_->setHorizontalHeaderLabels({u"Draw"_s, u"Amount"_s, u"Marks"_s});
+  amounts_->setHorizontalHeaderLabels({u"Date"_s, u"Amount"_s, u"Marks"_s});
+  for (const int each : {amountColumn, marksColumn})
+    amounts_->horizontalHeaderItem(each)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   amounts_->setAccessibleName(u"Amounts of the newest draws"_s);
   amounts_->setObjectName(u"amounts"_s);
   amounts_->verticalHeader()->hide();
   amounts_->setTabKeyNavigation(false);
   new ListFace(amounts_);
-  amounts_->horizontalHeader()->setSectionResizeMode(amountColumn, QHeaderView::Stretch);
   save_ = action(u"saveAmounts"_s, u"&Save the Amounts"_s,
                  u"Keeps the amounts in the table; an empty one means that it is not known"_s,
                  [this] { saveAmounts(); });
@@ -203,14 +211,16 @@ void DrawsDialog::showAmounts() {
   amounts_->setRowCount(static_cast<int>(history_.newestAmounts.size()));
   int line = 0;
   for (const exports::AmountEntry& entry : history_.newestAmounts) {
-    auto* date = new QTableWidgetItem(toQString(displayDate(entry.day)));
+    auto* date = new QTableWidgetItem(toQString(weekdayDate(entry.day)));
     date->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     amounts_->setItem(line, dateColumn, date);
-    amounts_->setItem(line, amountColumn, new QTableWidgetItem(toQString(entry.amount)));
-    amounts_->setItem(line, marksColumn, new QTableWidgetItem(QString::number(entry.marks)));
+    amounts_->setItem(line, amountColumn, figure(toQString(entry.amount)));
+    amounts_->setItem(line, marksColumn, figure(QString::number(entry.marks)));
     ++line;
   }
-  amounts_->resizeColumnToContents(dateColumn);
+  // An amount in words, such as $1.2 Billion, has room.
+  amounts_->resizeColumnsToContents();
+  amounts_->setColumnWidth(amountColumn, 16 * amounts_->fontMetrics().averageCharWidth());
   save_->setEnabled(false);
 }
 
