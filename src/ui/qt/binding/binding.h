@@ -39,7 +39,7 @@ class Binding : public QObject {
   void bind(Button& button, QAbstractButton& widget, const Wording& wording = literally());
   void bind(Button& button, BallButton& widget);
   void bind(Label& label, QLabel& widget, const Wording& wording = asLabel());
-  /// The words of the caption, which two or more blanks part, are the titles of the list's columns.
+  /// The caption names the list's header; its columns have the same titles in every list.
   void bind(Label& label, LineList& columns);
   /// The widget was made for the list's items.
   void bind(ListBox& list, LineList& widget);

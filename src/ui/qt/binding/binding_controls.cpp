@@ -21,7 +21,6 @@
 #include <QPixmap>
 #include <QProgressBar>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <stdexcept>
@@ -48,14 +47,6 @@ QString spokenName(std::string_view caption) {
   QString name = asLabel()(caption).simplified();
   while (name.endsWith(QLatin1Char(':')) || name.endsWith(QLatin1Char(','))) name.chop(1);
   return name;
-}
-
-/// The words of a line that two or more blanks part.
-std::vector<std::string> wordsOf(const QString& line) {
-  static const QRegularExpression gaps(QStringLiteral(" {2,}"));
-  std::vector<std::string> words;
-  for (const QString& word : line.trimmed().split(gaps, Qt::SkipEmptyParts)) words.push_back(toText(word));
-  return words;
 }
 
 /// The picture that the record book keeps for a number; null where there is none that loads.
@@ -118,7 +109,7 @@ void Binding::bind(Label& label, QLabel& widget, const Wording& wording) {
 
 void Binding::bind(Label& label, LineList& columns) {
   enter(label, *columns.header(),
-        [&label, &columns] { columns.setTitles(wordsOf(asLabel()(label.caption()))); });
+        [&label, &columns] { columns.header()->setAccessibleName(spokenName(label.caption())); });
 }
 
 void Binding::bind(ListBox& list, LineList& widget) {

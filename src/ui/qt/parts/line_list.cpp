@@ -112,19 +112,7 @@ void LineList::showColumns(const LineColumns& columns, Game game) {
     connect(header_, &QHeaderView::sectionResized, this, [this] { scheduleDelayedItemsLayout(); });
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, header_, &QHeaderView::setOffset);
   }
-  untitled_ = columns;
-  showTitledColumns();
   viewport()->update();
-}
-
-void LineList::setTitles(const std::vector<std::string>& titles) {
-  titles_ = titles;
-  showTitledColumns();
-}
-
-void LineList::showTitledColumns() {
-  LineColumns columns = untitled_;
-  for (std::size_t i = 0; i < std::min(columns.size(), titles_.size()); ++i) columns[i].title = titles_[i];
   if (header_->columns() == columns) return;
   header_->setColumns(columns);
   header_->fitTo(font());

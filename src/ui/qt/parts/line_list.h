@@ -91,8 +91,6 @@ class LineList : public QListView {
   /// The balls of a table are extra balls.
   void setExtraBalls(bool areExtra) { extraBalls_ = areExtra; }
   bool hasExtraBalls() const { return extraBalls_; }
-  /// Titles in the place of the columns' own.
-  void setTitles(const std::vector<std::string>& titles);
   /// A list in a drop-down has columns and no header.
   void hideHeader();
   /// None where every line is text.
@@ -128,15 +126,12 @@ class LineList : public QListView {
  private:
   QSize sizeOf(int width, int rows) const;
   int textWidth(int characters) const;
-  void showTitledColumns();
   bool showsHeader() const { return header_ != nullptr && !headerHidden_; }
 
   LineHeader* header_ = nullptr;
   bool headerHidden_ = false;
   int leastRows_ = 3;
   bool extraBalls_ = false;
-  LineColumns untitled_;
-  std::vector<std::string> titles_;
   Game game_ = Game::powerBall;
   std::vector<std::string> emphasis_;
   QString placeholder_;
