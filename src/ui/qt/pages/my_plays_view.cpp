@@ -126,7 +126,7 @@ void MyPlaysView::fitToFont() {
   const QFontMetrics face = fontMetrics();
   for (QTableView* table : {table_, static_cast<QTableView*>(sums_)})
     table->setMinimumHeight((leastRows + 1) * (face.height() + theme::gap));
-  table_->verticalHeader()->setDefaultSectionSize(BallsDelegate::sideOf(face) + theme::halfGap);
+  table_->verticalHeader()->setDefaultSectionSize(PlaysDelegate::sideOf(face) + theme::halfGap);
 }
 
 void MyPlaysView::changeEvent(QEvent* event) {
@@ -164,9 +164,7 @@ void MyPlaysView::addTable(QBoxLayout& column) {
   table_->setAccessibleName(u"My plays"_s);
   table_->setModel(sorted_);
   table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  auto* balls = new BallsDelegate(table_);
-  table_->setItemDelegateForColumn(PlayTableModel::NumbersColumn, balls);
-  table_->setItemDelegateForColumn(PlayTableModel::ExtraColumn, balls);
+  table_->setItemDelegate(new PlaysDelegate(table_));
   makeReadable(*table_);
   table_->setSortingEnabled(true);
   table_->sortByColumn(PlayTableModel::DateColumn, Qt::DescendingOrder);

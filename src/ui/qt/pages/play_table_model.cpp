@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/pages/play_table_model.h"
 
-#include "controls/color.h"
 #include "plays/play_table.h"
-#include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/theme.h"
 #include "ui/qt/parts/wording.h"
 
@@ -71,6 +70,10 @@ QVariant PlayTableModel::data(const QModelIndex& index, int role) const {
       return hasBalls ? numbersOf(play, column) : QStringList();
     case DrawnRole:
       return hasBalls ? drawnOf(play, column) : QStringList();
+    case KindRole:
+      return static_cast<int>(column == ExtraColumn ? extraBallOf(game_->game) : LineBallKind::white);
+    case BriefRole:
+      return column == MatchedColumn ? toQString(matchCount(play.match, game_->game)) : QString();
     case Qt::FontRole:
       if (isWinner(play)) return theme::headingFont(QApplication::font());
       return {};
@@ -136,39 +139,44 @@ QVariant PlayTableModel::sortKey(const JudgedPlay& play, int column) const {
   }
 }
 
-int BallsDelegate::sideOf(const QFontMetrics& metrics) {
-  return metrics.height() + 2 * theme::gap;
+int PlaysDelegate::sideOf(const QFontMetrics& metrics) {
+  return metrics.height() + theme::gap;
 }
 
-void BallsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+void PlaysDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  const QString brief = index.data(PlayTableModel::BriefRole).toString();
+  if (!brief.isEmpty()) option->text = brief;
+}
+
+void PlaysDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const {
+  const QStringList numbers = index.data(PlayTableModel::NumbersRole).toStringList();
+  if (numbers.isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
-  const QStringList numbers = index.data(PlayTableModel::NumbersRole).toStringList();
-  const QStringList drawn = index.data(PlayTableModel::DrawnRole).toStringList();
-  const bool isExtra = index.column() == PlayTableModel::ExtraColumn;
   cell.text.clear();
   const QStyle& style = cell.widget != nullptr ? *cell.widget->style() : *QApplication::style();
   style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+  const QStringList drawn = index.data(PlayTableModel::DrawnRole).toStringList();
+  const auto kind = static_cast<LineBallKind>(index.data(PlayTableModel::KindRole).toInt());
+  const bool isSelected = cell.state.testFlag(QStyle::State_Selected);
+  const BallColors colors = lineBallColors(
+      kind, cell.palette.color(isSelected ? QPalette::Highlight : QPalette::Base), cell.palette);
   const int side = std::min(sideOf(cell.fontMetrics), cell.rect.height());
   QRect place(cell.rect.left() + theme::halfGap, cell.rect.top() + (cell.rect.height() - side) / 2, side,
               side);
   for (const QString& number : numbers) {
-    BallLook look;
-    look.number = number;
-    if (drawn.contains(number)) {
-      look.mark = isExtra ? BallMark::extra : BallMark::main;
-      look.fill = theme::toQColor(isExtra ? colors::magenta : colors::cyan, cell.palette);
-    }
-    paintBall(*painter, place, look, cell.palette);
-    place.translate(side, 0);
+    paintLineBall(*painter, place, {number, kind, drawn.contains(number)}, colors);
+    place.translate(side + betweenLineBalls, 0);
   }
 }
 
-QSize BallsDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  const int side = sideOf(option.fontMetrics);
+QSize PlaysDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const auto balls = static_cast<int>(index.data(PlayTableModel::NumbersRole).toStringList().size());
-  return {side * balls + 2 * theme::halfGap, side + theme::halfGap};
+  if (balls == 0) return QStyledItemDelegate::sizeHint(option, index);
+  const int side = sideOf(option.fontMetrics);
+  return {(side + betweenLineBalls) * balls + 2 * theme::halfGap, side + theme::halfGap};
 }
 
 }  // namespace tallywick

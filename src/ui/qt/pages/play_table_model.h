@@ -25,7 +25,9 @@ class PlayTableModel : public QAbstractTableModel {
   enum Role {
     SortRole = Qt::UserRole,  ///< what a column is sorted by
     NumbersRole,              ///< the numbers of a cell of balls
-    DrawnRole                 ///< those of them that were drawn
+    DrawnRole,                ///< those of them that were drawn
+    KindRole,                 ///< the LineBallKind of the cell
+    BriefRole                 ///< what the cell shows where that is less than its text
   };
 
   using QAbstractTableModel::QAbstractTableModel;
@@ -46,8 +48,9 @@ class PlayTableModel : public QAbstractTableModel {
   std::vector<JudgedPlay> plays_;
 };
 
-/// Paints the numbers of a cell as balls; those that were drawn are marked.
-class BallsDelegate : public QStyledItemDelegate {
+/// Paints the numbers of a cell as balls; those that were drawn have a ring. Other cells are shown as briefly
+/// as they can be.
+class PlaysDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -56,6 +59,9 @@ class BallsDelegate : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 }  // namespace tallywick
