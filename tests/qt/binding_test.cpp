@@ -3,6 +3,9 @@
 // other.
 #include "app/main_form.h"
 #include "qt/desk_fixture.h"
+#include "setup/ball_bitmap.h"
+#include "support/record_book.h"
+#include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
@@ -106,6 +109,19 @@ class CountingDelegate : public QStyledItemDelegate {
   }
   mutable int rows = 0;
 };
+
+TEST_F(Bindings, ShowsTheBooksOwnPicturesAndDrawsThoseOfANewBook) {
+  writeRecordBook(scratch);
+  scratch.write("QzrNumbers/PlyNumbers/#01.bmp", setup::ballPicture(setup::BallKind::white, 1));
+  scratch.write("QzrNumbers/PlyNumbers/%01.bmp", setup::ballPicture(setup::BallKind::white, 2));
+  open("Form1");
+  platform.run([this] { click(*application.find("Form1")->find("Command3")); });
+  const auto isDrawn = [this](const char* image) {
+    return static_cast<BallPicture&>(widget<QWidget>("Form1", image)).picture().isNull();
+  };
+  EXPECT_TRUE(isDrawn("Image1"));
+  EXPECT_FALSE(isDrawn("Image6"));
+}
 
 TEST_F(Bindings, OpensAMillionLinesByTheFewThatCanBeSeen) {
   open("Form1").show();

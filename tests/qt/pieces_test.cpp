@@ -7,6 +7,7 @@
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_actions.h"
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/qt_transfer_window.h"
@@ -145,7 +146,7 @@ TEST(Charts, CanBeReadAsText) {
 }
 
 TEST(BallPictures, ShowThePictureOrDrawTheBall) {
-  BallPicture shown;
+  BallPicture shown(Game::megaMillions);
   shown.resize(shown.sizeHint());
   const auto middle = [&] { return shown.grab().toImage().pixelColor(shown.rect().center() / 2); };
   const QColor empty = middle();
@@ -164,6 +165,7 @@ TEST(BallPictures, ShowThePictureOrDrawTheBall) {
   EXPECT_NE(middle(), QColor(Qt::green));
   EXPECT_NE(middle(), empty);
   EXPECT_EQ(shown.accessibleName(), QStringLiteral("extra ball 07"));
+  EXPECT_EQ(middle(), fillOf(extraBallOf(Game::megaMillions), shown.palette()));
 }
 
 TEST(SettingsDialogs, GiveBackWhatTheyWereGiven) {

@@ -3,6 +3,7 @@
 #include "core/data_folder.h"
 #include "core/os.h"
 #include "core/text.h"
+#include "setup/ball_bitmap.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/ball_picture.h"
@@ -49,12 +50,21 @@ QString spokenName(std::string_view caption) {
   return name;
 }
 
-/// The picture that the record book keeps for a number; null where there is none that loads.
-QPixmap loadPicture(const DataFolder& folder, const std::string& written) {
-  if (written.empty()) return {};
+/// Whether it is one of those that a new record book gets. They are the same for both games: the window draws
+/// these balls itself, with the look of their game.
+bool isBallOfNewBook(const Image& image, std::string_view bytes) {
+  const auto kind = image.isExtraBall() ? setup::BallKind::extra : setup::BallKind::white;
+  const auto number = toQString(image.number()).toInt();
+  return number > 0 && bytes == setup::ballPicture(kind, number);
+}
+
+/// The picture that the record book keeps for a number; null where there is none of its own that loads.
+QPixmap loadPicture(const DataFolder& folder, const Image& image) {
+  if (image.picture().empty()) return {};
   QPixmap picture;
   try {
-    const os::FileBytes bytes = os::readFile(folder.resolve(written));
+    const os::FileBytes bytes = os::readFile(folder.resolve(image.picture()));
+    if (isBallOfNewBook(image, bytes.view())) return {};
     const auto* const begin = reinterpret_cast<const uchar*>(bytes.view().data());
     picture.loadFromData(begin, static_cast<uint>(bytes.view().size()));
   } catch (const std::exception&) {
@@ -167,7 +177,7 @@ void Binding::bind(Chart& chart, ChartView& widget) {
 
 void Binding::bind(Image& image, BallPicture& widget) {
   enter(image, widget, [this, &image, &widget] {
-    widget.showNumber(toQString(image.number()), image.isExtraBall(), loadPicture(folder_, image.picture()));
+    widget.showNumber(toQString(image.number()), image.isExtraBall(), loadPicture(folder_, image));
   });
 }
 

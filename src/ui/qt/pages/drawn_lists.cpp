@@ -5,9 +5,13 @@
 #include "frames/game_frames.h"
 #include "plays/judged_plays.h"
 #include "plays/play_table.h"
+#include "ui/qt/binding/binding.h"
+#include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
+#include <QButtonGroup>
 #include <algorithm>
 #include <exception>
 #include <memory>
@@ -108,6 +112,22 @@ void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& 
     picker.showColumns(columnsFor(fields, game), game);
   };
   picker.beforeReload();
+}
+
+QHBoxLayout* ballRow(std::span<Button* const> numbers, const GameOfLines& gameOf, Binding& binding,
+                     QWidget* parent) {
+  constexpr std::size_t extra = 5;
+  QHBoxLayout* balls = row();
+  auto* group = new QButtonGroup(parent);
+  group->setExclusive(false);
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    auto* ball = new BallButton(parent);
+    if (i == extra) ball->setExtraBallOf(gameOf);
+    group->addButton(ball);
+    balls->addWidget(ball);
+    binding.bind(*numbers[i], *ball);
+  }
+  return balls;
 }
 
 void highlightMatches(LineList& list, PlayJudge& judge) {

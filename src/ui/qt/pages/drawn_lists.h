@@ -6,10 +6,16 @@
 #include "ui/qt/parts/listed_line.h"
 
 #include <functional>
+#include <span>
 #include <vector>
+
+class QHBoxLayout;
+class QWidget;
 
 namespace tallywick {
 
+class Binding;
+class Button;
 class LineList;
 class Picker;
 class PlayJudge;
@@ -33,6 +39,10 @@ LineColumns columnsFor(const LineFields& fields, Game game);
 /// Shows the lines in columns for the fields, those that are none as text.
 void showInColumns(LineList& list, const LineFields& fields, const GameOfLines& gameOf);
 void showInColumns(Picker& picker, const LineFields& fields, const GameOfLines& gameOf);
+
+/// The numbers of a draw as balls; the sixth one is the game's extra ball.
+QHBoxLayout* ballRow(std::span<Button* const> numbers, const GameOfLines& gameOf, Binding& binding,
+                     QWidget* parent);
 
 /// Highlights in the lines of plays what the judging says that they matched. The files are read when the
 /// first of new lines is painted. After showInColumns().

@@ -17,12 +17,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void addPictures(QGridLayout& grid, const QString& title, ImageRow& images, Binding& binding) {
+void addPictures(QGridLayout& grid, const QString& title, Game game, ImageRow& images, Binding& binding) {
   const int line = grid.rowCount();
   auto* label = new QLabel(title);
   grid.addWidget(label, line, 0);
   for (std::size_t i = 0; i < images.size(); ++i) {
-    auto* picture = new BallPicture;
+    auto* picture = new BallPicture(game);
     grid.addWidget(picture, line, static_cast<int>(i) + 1);
     binding.bind(images[i], *picture);
   }
@@ -112,9 +112,9 @@ QWidget* DrawsView::pictures(DrawsPage& page, Binding& binding) {
   auto* box = new QWidget;
   auto* grid = new QGridLayout;
   grid->setSpacing(theme::gap);
-  addPictures(*grid, u"PowerBall"_s, page.powerBallImages, binding);
-  addPictures(*grid, u"PowerBall Double Play"_s, page.doublePlayImages, binding);
-  addPictures(*grid, u"Mega Millions"_s, page.megaMillionsImages, binding);
+  addPictures(*grid, u"PowerBall"_s, Game::powerBall, page.powerBallImages, binding);
+  addPictures(*grid, u"PowerBall Double Play"_s, Game::powerBall, page.doublePlayImages, binding);
+  addPictures(*grid, u"Mega Millions"_s, Game::megaMillions, page.megaMillionsImages, binding);
   grid->setColumnStretch(7, 1);
   auto* show = new QPushButton(box);
   auto* title = row();

@@ -4,13 +4,11 @@
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/drawn_lists.h"
-#include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
-#include <QButtonGroup>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -184,15 +182,7 @@ void SearchPanelView::addSource(const SearchPanel& panel, Binding& binding) {
 }
 
 void SearchPanelView::addNumbers(const SearchPanel& panel, Binding& binding) {
-  auto* line = row();
-  auto* group = new QButtonGroup(this);
-  group->setExclusive(false);
-  for (Button* number : panel.numbers) {
-    auto* ball = new BallButton(this);
-    group->addButton(ball);
-    line->addWidget(ball);
-    binding.bind(*number, *ball);
-  }
+  QHBoxLayout* line = ballRow(panel.numbers, panel.gameOf, binding, this);
   for (const SearchPanel::Search& search : panel.searches) addSearch(*line, search, binding, this);
   line->addStretch();
   static_cast<QBoxLayout*>(layout())->addLayout(line);
@@ -239,17 +229,20 @@ void SearchPanelView::showHints() {
 
 SearchView::SearchView(MainForm& form, Binding& binding) {
   SearchPages& pages = form.search;
+  const GameOfLines shownGame = gameOnShowOf(form.frames);
   setDocumentMode(true);
-  add(twoThreePanel(pages.twoThree), u"&Two or Three Numbers"_s, binding);
-  add(havePlayedPanel(pages.havePlayed, form.frames), u"One Number of &a Draw"_s, binding);
-  add(playedPanel(pages.played, form.frames), u"Mult&iplier or Any Number"_s, binding);
-  add(havePlayedPlaysPanel(pages.havePlayedPlays, form.frames), u"One Number of a P&lay"_s, binding);
+  add(twoThreePanel(pages.twoThree), u"&Two or Three Numbers"_s, shownGame, binding);
+  add(havePlayedPanel(pages.havePlayed, form.frames), u"One Number of &a Draw"_s, shownGame, binding);
+  add(playedPanel(pages.played, form.frames), u"Mult&iplier or Any Number"_s, shownGame, binding);
+  add(havePlayedPlaysPanel(pages.havePlayedPlays, form.frames), u"One Number of a P&lay"_s, shownGame,
+      binding);
   binding.bind(form.bar.SSTab2, *this);
   showDrawsInColumns(*this, form);
   showHints();
 }
 
-void SearchView::add(const SearchPanel& panel, const QString& title, Binding& binding) {
+void SearchView::add(SearchPanel panel, const QString& title, const GameOfLines& gameOf, Binding& binding) {
+  panel.gameOf = gameOf;
   panels_.push_back(new SearchPanelView(panel, binding));
   addTab(panels_.back(), title);
 }

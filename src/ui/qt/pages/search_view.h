@@ -3,6 +3,7 @@
 #pragma once
 
 #include "search/search_hints.h"
+#include "ui/qt/pages/drawn_lists.h"
 
 #include <QTabWidget>
 #include <functional>
@@ -46,6 +47,8 @@ struct SearchPanel {
   std::shared_ptr<SearchMemory> memory = {};
   /// How many balls a search takes.
   std::size_t mostMarked = 1;
+  /// Of which game the numbers are.
+  GameOfLines gameOf = {};
 };
 
 class SearchPanelView : public QWidget {
@@ -76,7 +79,7 @@ class SearchView : public QTabWidget {
   void drawsChanged();
 
  private:
-  void add(const SearchPanel& panel, const QString& title, Binding& binding);
+  void add(SearchPanel panel, const QString& title, const GameOfLines& gameOf, Binding& binding);
 
   std::vector<SearchPanelView*> panels_;
 };

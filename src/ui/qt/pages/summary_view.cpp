@@ -4,13 +4,11 @@
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/drawn_lists.h"
-#include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/form_window.h"
 
-#include <QButtonGroup>
 #include <QFrame>
 #include <QGridLayout>
 #include <QPainter>
@@ -147,15 +145,9 @@ QWidget* SummaryView::frequentNumbers(MainForm& form, Binding& binding) {
   auto* column = columnIn(box);
   auto* title = heading(box);
   auto* subtitle = new QLabel(box);
-  auto* balls = row();
-  auto* group = new QButtonGroup(box);
-  group->setExclusive(false);
-  for (Button& number : page.frequent) {
-    auto* ball = new BallButton(box);
-    group->addButton(ball);
-    balls->addWidget(ball);
-    binding.bind(number, *ball);
-  }
+  std::vector<Button*> numbers;
+  for (Button& number : page.frequent) numbers.push_back(&number);
+  QHBoxLayout* balls = ballRow(numbers, gameOnShowOf(form.frames), binding, box);
   balls->addStretch();
   auto* list = new LineList(page.List5.items(), box);
   list->setPlaceholder(u"No number of the newest draw came up in the five draws before it."_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/ball.h"
 
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QEvent>
@@ -23,6 +24,7 @@ constexpr double bandHeight = 0.54;
 constexpr double dotDiameter = 0.075;
 constexpr double dotLine = 0.79;
 constexpr double focusRoom = 3.5;
+constexpr double cornerRadius = 0.22;
 
 QRectF centred(const QRectF& ball, double share) {
   const double side = ball.width() * share;
@@ -33,22 +35,21 @@ void paintBody(QPainter& painter, const QRectF& ball, const BallLook& look, cons
   const double outline = std::max(1.0, ball.width() * (look.hovered ? 0.06 : 0.035));
   painter.setPen(Qt::NoPen);
   painter.setBrush(colors.ground);
-  painter.drawEllipse(ball);
+  painter.drawPath(ballShape(ball, look.isSquare));
   if (look.mark == BallMark::extra) {
-    QPainterPath caps;
-    caps.addEllipse(ball);
     QPainterPath band;
     const double height = ball.height() * bandHeight;
     band.addRect(ball.left(), ball.center().y() - height / 2, ball.width(), height);
     painter.setBrush(colors.caps);
-    painter.drawPath(caps.subtracted(band));
+    painter.drawPath(ballShape(ball, look.isSquare).subtracted(band));
   }
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(colors.outline, outline));
-  painter.drawEllipse(ball.adjusted(outline / 2, outline / 2, -outline / 2, -outline / 2));
+  painter.drawPath(
+      ballShape(ball.adjusted(outline / 2, outline / 2, -outline / 2, -outline / 2), look.isSquare));
   if (look.mark == BallMark::main) {
     painter.setPen(QPen(colors.text, std::max(1.5, ball.width() * ringWidth)));
-    painter.drawEllipse(centred(ball, ringDiameter));
+    painter.drawPath(ballShape(centred(ball, ringDiameter), look.isSquare));
   }
 }
 
@@ -73,13 +74,13 @@ void paintDots(QPainter& painter, const QRectF& ball, const BallLook& look, cons
                         size / 2);
 }
 
-void paintFocus(QPainter& painter, const QRectF& ball, const QPalette& palette) {
+void paintFocus(QPainter& painter, const QRectF& ball, const BallLook& look, const QPalette& palette) {
   const QColor ground = palette.color(QPalette::Window);
   const QColor ring =
       theme::standingOutFrom(ground, palette.color(QPalette::Highlight), theme::shapeContrast);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(ring, 2));
-  painter.drawEllipse(ball.adjusted(-2.5, -2.5, 2.5, 2.5));
+  painter.drawPath(ballShape(ball.adjusted(-2.5, -2.5, 2.5, 2.5), look.isSquare));
 }
 
 }  // namespace
@@ -92,6 +93,15 @@ BallMark ballMarkOf(Color color) {
 int repeatOf(Color color) {
   const auto* const found = std::find(colors::recurring.begin(), colors::recurring.end(), color);
   return found == colors::recurring.end() ? 0 : static_cast<int>(found - colors::recurring.begin()) + 1;
+}
+
+QPainterPath ballShape(const QRectF& area, bool isSquare) {
+  QPainterPath shape;
+  if (isSquare)
+    shape.addRoundedRect(area, area.width() * cornerRadius, area.width() * cornerRadius);
+  else
+    shape.addEllipse(area);
+  return shape;
 }
 
 QColor unmarkedFill(const QPalette& palette) {
@@ -124,7 +134,7 @@ void paintBall(QPainter& painter, const QRectF& area, const BallLook& look, cons
   paintBody(painter, ball, look, colors);
   if (look.dots > 0) paintDots(painter, ball, look, colors);
   paintNumber(painter, ball, look, colors);
-  if (look.focused) paintFocus(painter, ball, palette);
+  if (look.focused) paintFocus(painter, ball, look, palette);
   painter.restore();
 }
 
@@ -147,6 +157,11 @@ void BallButton::setColor(Color color) {
   refresh();
 }
 
+void BallButton::setExtraBallOf(std::function<Game()> game) {
+  gameOfExtra_ = std::move(game);
+  refresh();
+}
+
 void BallButton::refresh() {
   updateAccessibleName();
   update();
@@ -155,6 +170,7 @@ void BallButton::refresh() {
 void BallButton::updateAccessibleName() {
   QString name = text().trimmed().isEmpty() ? tr("No number") : text();
   const int repeat = repeatOf(color_);
+  if (gameOfExtra_) name = tr("extra ball %1").arg(name);
   if (mark_ == BallMark::main)
     name = tr("%1, marked").arg(name);
   else if (mark_ == BallMark::extra)
@@ -178,6 +194,11 @@ QSize BallButton::minimumSizeHint() const {
 void BallButton::paintEvent(QPaintEvent*) {
   BallLook look;
   look.number = text();
+  if (gameOfExtra_ && !text().trimmed().isEmpty()) {
+    const LineBallKind kind = extraBallOf(gameOfExtra_());
+    look.isSquare = kind == LineBallKind::squareGold;
+    look.fill = fillOf(kind, palette());
+  }
   if (color_.kind == Color::Kind::rgb) look.fill = theme::toQColor(color_, palette());
   look.mark = mark_;
   look.dots = repeatOf(color_);

@@ -5,14 +5,17 @@
 #pragma once
 
 #include "controls/color.h"
+#include "core/games.h"
 
 #include <QAbstractButton>
 #include <QColor>
 #include <QPalette>
 #include <QRectF>
 #include <QString>
+#include <functional>
 
 class QPainter;
+class QPainterPath;
 
 namespace tallywick {
 
@@ -27,6 +30,8 @@ struct BallLook {
   QString number;
   /// Not valid: an unmarked ball.
   QColor fill;
+  /// With rounded corners.
+  bool isSquare = false;
   BallMark mark = BallMark::none;
   /// The dots under the number, see repeatOf().
   int dots = 0;
@@ -43,6 +48,8 @@ struct BallColors {
   QColor text;
   QColor outline;
 };
+/// The shape of a ball that fills `area`.
+QPainterPath ballShape(const QRectF& area, bool isSquare);
 /// Of a ball without a colour of its own.
 QColor unmarkedFill(const QPalette& palette);
 BallColors ballColors(const BallLook& look, const QPalette& palette);
@@ -61,6 +68,8 @@ class BallButton : public QAbstractButton {
   void setCaption(const QString& number);
   /// Takes over the colour with the mark or the dots that it means; a system colour is an unmarked ball.
   void setColor(Color color);
+  /// The number is the extra ball of that game.
+  void setExtraBallOf(std::function<Game()> game);
   BallMark mark() const { return mark_; }
 
   QSize sizeHint() const override;
@@ -76,6 +85,7 @@ class BallButton : public QAbstractButton {
 
   Color color_ = colors::buttonFace;
   BallMark mark_ = BallMark::none;
+  std::function<Game()> gameOfExtra_;
 };
 
 }  // namespace tallywick

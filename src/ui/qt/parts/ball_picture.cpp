@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/ball_picture.h"
 
-#include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QImage>
@@ -38,7 +38,7 @@ QPixmap withoutGround(const QPixmap& picture) {
 
 }  // namespace
 
-BallPicture::BallPicture(QWidget* parent) : QWidget(parent) {
+BallPicture::BallPicture(Game game, QWidget* parent) : QWidget(parent), game_(game) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -65,14 +65,14 @@ void BallPicture::paintEvent(QPaintEvent*) {
                        picture_);
     return;
   }
-  BallLook look;
-  look.number = number_;
-  look.enabled = !number_.isEmpty();
-  if (isExtraBall_ && look.enabled) {
-    look.fill = theme::toQColor(colors::magenta, palette());
-    look.mark = BallMark::extra;
+  const LineBallKind kind = isExtraBall_ ? extraBallOf(game_) : LineBallKind::white;
+  const QColor ground = palette().color(QPalette::Window);
+  BallColors colors = lineBallColors(kind, ground, palette());
+  if (number_.isEmpty()) {
+    colors.ground = theme::mixed(unmarkedFill(palette()), ground, 0.6);
+    colors.outline = theme::standingOutFrom(ground, colors.ground, theme::shapeContrast);
   }
-  paintBall(painter, rect(), look, palette());
+  paintLineBall(painter, rect(), {number_, kind}, colors);
 }
 
 }  // namespace tallywick

@@ -2,6 +2,8 @@
 // One number of a draw as a picture: the record book's own where it has one, else the ball drawn.
 #pragma once
 
+#include "core/games.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -9,7 +11,7 @@ namespace tallywick {
 
 class BallPicture : public QWidget {
  public:
-  explicit BallPicture(QWidget* parent = nullptr);
+  explicit BallPicture(Game game, QWidget* parent = nullptr);
 
   /// An empty `number` shows the outline of a ball; a null `picture` draws the ball.
   void showNumber(const QString& number, bool isExtraBall, const QPixmap& picture);
@@ -21,6 +23,7 @@ class BallPicture : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  Game game_;
   QString number_;
   bool isExtraBall_ = false;
   QPixmap picture_;

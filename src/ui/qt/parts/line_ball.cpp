@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -19,17 +20,15 @@ const QColor megaBallFill(250, 190, 20);
 // All measures as shares of the ball's side.
 constexpr double sideOfText = 1.4;
 constexpr double digitHeight = 0.5;
+/// On a coloured ball with a ring around it.
+constexpr double ringedDigitHeight = 0.45;
 constexpr double ringWidth = 0.1;
 constexpr double outlineWidth = 0.04;
 /// Between the rim of the area and a ball without a ring.
 constexpr double rim = 0.06;
-constexpr double cornerRadius = 0.22;
 
 void drawShape(QPainter& painter, const QRectF& area, LineBallKind kind) {
-  if (kind == LineBallKind::squareGold)
-    painter.drawRoundedRect(area, area.width() * cornerRadius, area.width() * cornerRadius);
-  else
-    painter.drawEllipse(area);
+  painter.drawPath(ballShape(area, kind == LineBallKind::squareGold));
 }
 
 QRectF inset(const QRectF& area, double by) {
@@ -42,15 +41,18 @@ LineBallKind extraBallOf(Game game) {
   return game == Game::powerBall ? LineBallKind::roundRed : LineBallKind::squareGold;
 }
 
+QColor fillOf(LineBallKind kind, const QPalette& palette) {
+  if (kind == LineBallKind::white) return unmarkedFill(palette);
+  return kind == LineBallKind::roundRed ? powerBallFill : megaBallFill;
+}
+
 int lineBallSide(const QFontMetricsF& text) {
   return static_cast<int>(std::lround(text.height() * sideOfText));
 }
 
 BallColors lineBallColors(LineBallKind kind, const QColor& ground, const QPalette& palette) {
   BallColors colors;
-  colors.ground = kind == LineBallKind::white      ? unmarkedFill(palette)
-                  : kind == LineBallKind::roundRed ? powerBallFill
-                                                   : megaBallFill;
+  colors.ground = fillOf(kind, palette);
   colors.text = theme::readableOn(colors.ground);
   colors.outline =
       theme::standingOutFrom(ground, theme::mixed(colors.ground, ground, 0.2), theme::shapeContrast);
@@ -70,14 +72,18 @@ void paintLineBall(QPainter& painter, const QRectF& area, const LineBall& ball, 
     drawShape(painter, inset(area, ring / 2), ball.kind);
   }
   painter.setBrush(colors.ground);
-  painter.setPen(QPen(colors.outline, outline));
+  if (ball.lit)
+    painter.setPen(Qt::NoPen);
+  else
+    painter.setPen(QPen(colors.outline, outline));
   // Between the ring and a coloured ball the ground is seen.
-  const double gap = ball.kind == LineBallKind::white ? 0 : outline;
-  if (ball.lit && ball.kind == LineBallKind::white) painter.setPen(Qt::NoPen);
-  drawShape(painter, inset(area, ball.lit ? ring + gap + outline / 2 : side * rim + outline / 2), ball.kind);
+  const bool isColored = ball.kind != LineBallKind::white;
+  const double gap = isColored ? outline * 0.75 : 0;
+  drawShape(painter, inset(area, ball.lit ? ring + gap : side * rim + outline / 2), ball.kind);
   QFont face = QGuiApplication::font();
   face.setBold(true);
-  face.setPixelSize(std::max(7, static_cast<int>(side * digitHeight)));
+  const double digits = ball.lit && isColored ? ringedDigitHeight : digitHeight;
+  face.setPixelSize(std::max(7, static_cast<int>(side * digits)));
   painter.setFont(face);
   painter.setPen(colors.text);
   painter.drawText(area, Qt::AlignCenter, ball.number);

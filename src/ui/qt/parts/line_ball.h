@@ -14,6 +14,8 @@ enum class LineBallKind { white, roundRed, squareGold };
 
 LineBallKind extraBallOf(Game game);
 
+QColor fillOf(LineBallKind kind, const QPalette& palette);
+
 /// The side of the square that a ball takes in a line of text.
 int lineBallSide(const QFontMetricsF& text);
 inline constexpr int betweenLineBalls = 3;

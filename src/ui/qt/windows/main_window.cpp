@@ -9,6 +9,7 @@
 #include "ui/qt/pages/summary_print.h"
 #include "ui/qt/pages/summary_view.h"
 #include "ui/qt/pages/winnings_view.h"
+#include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
@@ -65,7 +66,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     bar_->showGame();
     followDraws();
     showNotices();
-    titleEmptyLists();
+    followGame();
     glance_->showGame();
     showDoublePlayNote();
     searches_->showHints();
@@ -290,8 +291,10 @@ QAbstractItemView* MainWindow::listInUse() const {
   return nullptr;
 }
 
-void MainWindow::titleEmptyLists() {
+void MainWindow::followGame() {
   if (std::exchange(titled_, gameOnShow(main_.frames)) == gameOnShow(main_.frames)) return;
+  // The extra ball is drawn as the game's.
+  for (auto* ball : pages_->findChildren<BallButton*>()) ball->update();
   for (auto* list : pages_->findChildren<LineList*>()) {
     if (list->lineModel() != nullptr && list->lineModel()->lines().empty() && list->beforeReload)
       list->beforeReload();

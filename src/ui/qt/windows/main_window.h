@@ -59,8 +59,9 @@ class MainWindow : public FormWindow {
   /// Greys what the settings have no address for.
   void greyUnset();
   QWidget* gameShown();
-  /// Empty lists get the titles of the game on show; the others keep those of their lines.
-  void titleEmptyLists();
+  /// Empty lists get the titles of the game on show; the others keep those of their lines. Balls get its
+  /// look.
+  void followGame();
   /// Whether a press takes no selected plays away, or the user wants it.
   bool mayPress(const Control& control);
 
