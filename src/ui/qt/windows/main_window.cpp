@@ -185,7 +185,7 @@ void MainWindow::showDoublePlayNote() {
   if (isDoublePlay && main_.summary.Label19.caption().find(megaMillions.name) != std::string::npos) {
     notes +=
         u"The lists that Double Play does not fill are still those of Mega Millions; Back to PowerBall "
-        "shows PowerBall's."_s;
+        "shows PowerBall's. The play selection that opens is PowerBall's."_s;
   }
   if (const QString note = isShown && desk().doublePlayNote ? toQString(desk().doublePlayNote()) : QString();
       !note.isEmpty())

@@ -69,10 +69,11 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
       window_(window),
       powerBall_(gameSwitch(this)),
       megaMillions_(gameSwitch(this)),
+      selection_(new QPushButton(this)),
+      opens_(new QLabel(this)),
       transfer_(new TransferPanel(this)),
       note_(sentences(this)),
       again_(new QPushButton(u"Fetch A&gain"_s, this)) {
-  auto* selection = new QPushButton(this);
   auto* update = new QPushButton(this);
   auto* progress = new QProgressBar(this);
   progress->setAccessibleName(u"Update progress"_s);
@@ -88,7 +89,8 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   auto* bar = row();
   bar->addLayout(games);
   bar->addSpacing(theme::gap);
-  bar->addWidget(selection);
+  bar->addWidget(selection_);
+  bar->addWidget(opens_);
   bar->addWidget(update);
   bar->addWidget(progress, 1);
   bar->addWidget(transfer_);
@@ -104,7 +106,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   Binding& binding = window.binding();
   binding.bind(form.bar.Command7, *powerBall_, withMnemonic('P'));
   binding.bind(form.bar.Command4, *megaMillions_, withMnemonic('M'));
-  binding.bind(form.bar.Command48, *selection, withMnemonic('S'));
+  binding.bind(form.bar.Command48, *selection_, withMnemonic('S'));
   binding.bind(form.update.Command2, *update, withMnemonic('U'));
   binding.bind(form.update.ProgressBar1, *progress);
   binding.bind(form.bar.Command8, *next, withMnemonic('N'));
@@ -137,10 +139,23 @@ void NavigationBarView::showGame() {
   const GameInfo* const game = gameOnShow(form_.frames);
   showSide(*powerBall_, game == &powerBall);
   showSide(*megaMillions_, game == &megaMillions);
+  sayWhatOpens();
   const QString note = window_.desk().updateNote ? toQString(window_.desk().updateNote()) : QString();
   note_->setText(note);
   again_->setAccessibleDescription(note);
   note_->parentWidget()->setVisible(!note.isEmpty() && transfer_->isHidden());
+}
+
+void NavigationBarView::sayWhatOpens() {
+  const GameInfo* const game = gameOnShow(form_.frames);
+  const Button& open = form_.bar.Command48;
+  const bool isOther = game != nullptr && !open.caption().starts_with(game->name);
+  const QString name = isOther ? toQString(game->name) : QString();
+  const QString tip = isOther ? u"Opens the play selection of %1, the game on show"_s.arg(name) : QString();
+  opens_->setText(isOther ? u"opens %1"_s.arg(name) : QString());
+  opens_->setVisible(isOther);
+  selection_->setToolTip(isOther ? tip : toQString(open.toolTip()));
+  selection_->setAccessibleDescription(tip);
 }
 
 }  // namespace tallywick

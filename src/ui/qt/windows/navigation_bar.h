@@ -23,11 +23,15 @@ class NavigationBarView : public QWidget {
 
  private:
   QWidget* updateNote();
+  /// The caption of the selection button may still name the game before; a press opens the game on show.
+  void sayWhatOpens();
 
   MainForm& form_;
   FormWindow& window_;
   QPushButton* powerBall_;
   QPushButton* megaMillions_;
+  QPushButton* selection_;
+  QLabel* opens_;
   TransferPanel* transfer_;
   QLabel* note_;
   QPushButton* again_;
