@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/error_explained.h"
 
+#include "core/games.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 
@@ -12,21 +13,55 @@ namespace tallywick {
 
 namespace {
 
+/// What a file of the record book is for, and what mends it where it is missing or cannot be read.
+struct FileKind {
+  /// What its name ends with, in small letters.
+  std::string_view ending;
+  /// Behind "file of".
+  std::string_view contents;
+  std::string_view mending;
+};
+
+constexpr std::string_view mendDraws =
+    "Start the program again and press Update, or Fetch in the window Draws…: this brings the draws of the "
+    "game "
+    "again. If it does not help, bring the file back from a backup (Backup…).";
+constexpr std::string_view mendPlays =
+    "Bring the plays back: in My Plays, Bring Back… takes them from the dated copies beside this file; "
+    "Backup… "
+    "restores the whole record book. Or mend the record in a text editor: a play is one line of eight fields "
+    "with "
+    "commas between them. Update does not mend plays.";
+constexpr std::string_view mendAmounts =
+    "Mend the record in a text editor: month, day, year, amount and a number of marks, with commas between "
+    "them. "
+    "Or bring the file back from a backup (Backup…). The window Draws… takes the newest amounts again.";
+constexpr std::string_view mendOther = "Bring this file back from a backup (Backup…).";
+
+constexpr FileKind kinds[] = {
+    {"qzrnum6.dat", "the draws", mendDraws},
+    {"qzrnum62.dat", "the draws for searches and checks", mendDraws},
+    {"qzrnum72.dat", "the Double Play draws", mendDraws},
+    {".win", "the amounts of the draws", mendAmounts},
+    {"1.ply", "your plays that wait for their draws", mendPlays},
+    {"2.ply", "your plays that were drawn", mendPlays},
+    {".ply", "plays that a change was about to move", mendPlays},
+    {".sel", "your saved play texts", mendOther},
+    {".dte", "the calendar of draw days", mendOther},
+};
+
 struct Advice {
   ErrorNumber number;
   std::string_view text;
 };
 
-constexpr std::string_view bringBack =
-    "bring it back from a backup, or fetch the draws of the game with Update";
-
-constexpr Advice advices[] = {
-    {ErrorNumber::fileNotFound, "The file is missing: "},
-    {ErrorNumber::inputPastEnd, "The file ends inside a record, or has too few records: "},
-    {ErrorNumber::typeMismatch, "The record has a text where a number belongs: correct it, or "},
+constexpr Advice readingErrors[] = {
+    {ErrorNumber::fileNotFound, "The file is missing. "},
+    {ErrorNumber::inputPastEnd, "The file ends inside a record, or has too few records. "},
+    {ErrorNumber::typeMismatch, "The record has a text where a number belongs. "},
 };
 
-constexpr Advice otherAdvices[] = {
+constexpr Advice otherErrors[] = {
     {ErrorNumber::diskFull, "Make room on the disk, then start the program again."},
     {ErrorNumber::permissionDenied,
      "Close other programs that use the file, and see whether you may change it and its folder."},
@@ -37,12 +72,56 @@ constexpr Advice otherAdvices[] = {
      "See whether the drive is connected and whole, and make a backup of the record book."},
 };
 
+template <std::size_t Count>
+const Advice* adviceOn(const RuntimeError& error, const Advice (&advices)[Count]) {
+  const auto* const found =
+      std::ranges::find_if(advices, [&](const Advice& advice) { return error.is(advice.number); });
+  return found == std::end(advices) ? nullptr : found;
+}
+
+/// The path that the error names, without what is said of it.
+std::string pathIn(const RuntimeError& error) {
+  const std::string& where = error.where();
+  return lowered(where.substr(0, std::min(where.find(", record "), where.find(" ("))));
+}
+
+/// Null for any other file.
+const FileKind* kindOf(std::string_view path) {
+  const auto* const found =
+      std::ranges::find_if(kinds, [&](const FileKind& kind) { return path.ends_with(kind.ending); });
+  return found == std::end(kinds) ? nullptr : found;
+}
+
+std::string placeOf(const RuntimeError& error) {
+  if (error.where().empty()) return {};
+  std::string text = join("Where: ", error.where(), "\n\n");
+  const std::string path = pathIn(error);
+  const FileKind* const kind = kindOf(path);
+  if (kind == nullptr) return text;
+  std::string_view game;
+  for (const GameInfo* each : {&powerBall, &megaMillions}) {
+    if (path.find(lowered(join("qzr6", each->code))) != std::string::npos) game = each->name;
+  }
+  return join(text, "This is the ", game, game.empty() ? "" : " ", "file of ", kind->contents, ".\n\n");
+}
+
+std::string whatChanged(const RuntimeError& error) {
+  if (adviceOn(error, readingErrors) != nullptr) {
+    return "Nothing was lost: the file was only being read. Lists, searches, counts and checks change no "
+           "file. Done, "
+           "and each game's part of an update, changes all of its files or none.";
+  }
+  return "Nothing is half changed: each file is as it was before, or complete as it is after the action, and "
+         "no "
+         "play is lost. If a change of several files was cut short, the next start finishes it.";
+}
+
 std::string whatToDo(const RuntimeError& error) {
-  const auto isIt = [&](const Advice& advice) { return error.is(advice.number); };
-  if (const auto* found = std::ranges::find_if(advices, isIt); found != std::end(advices))
-    return join(found->text, bringBack, ", then start the program again.");
-  if (const auto* found = std::ranges::find_if(otherAdvices, isIt); found != std::end(otherAdvices))
-    return std::string(found->text);
+  if (const Advice* const reading = adviceOn(error, readingErrors)) {
+    const FileKind* const kind = kindOf(pathIn(error));
+    return join(reading->text, kind != nullptr ? kind->mending : mendOther);
+  }
+  if (const Advice* const other = adviceOn(error, otherErrors)) return std::string(other->text);
   if (!error.source().empty())
     return "See whether the network is there and the addresses in the settings are right.";
   return "Start the program again. If the error comes back, copy this text and send it to who looks after "
@@ -52,12 +131,7 @@ std::string whatToDo(const RuntimeError& error) {
 }  // namespace
 
 std::string errorExplained(const RuntimeError& error) {
-  const std::string place = error.where().empty() ? "" : join("Where: ", error.where(), "\n\n");
-  return join(
-      place,
-      "Nothing is half changed: each file is as it was before, or complete as it is after the action, and no "
-      "play is lost. If a change of several files was cut short, the next start finishes it.\n\n",
-      whatToDo(error));
+  return join(placeOf(error), whatChanged(error), "\n\n", whatToDo(error));
 }
 
 }  // namespace tallywick

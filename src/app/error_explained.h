@@ -8,7 +8,8 @@ namespace tallywick {
 
 class RuntimeError;
 
-/// Three paragraphs, an empty line between: which file and record, what changed and what did not, what to do.
+/// Paragraphs with an empty line between: which file and record, what the file is for, what changed and what
+/// did not, what to do.
 std::string errorExplained(const RuntimeError& error);
 
 }  // namespace tallywick

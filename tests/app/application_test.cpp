@@ -20,8 +20,20 @@ TEST(ErrorExplained, SaysInWholeSentencesWhereAndWhatToDo) {
         ErrorNumber::fileNotFound, ErrorNumber::diskFull, ErrorNumber::inputPastEnd,
         ErrorNumber::permissionDenied, ErrorNumber::pathFileAccess, ErrorNumber::pathNotFound}) {
     const std::string text = errorExplained(RuntimeError(number, "QZRNUM6.Dat, record 3"));
-    EXPECT_THAT(text, testing::MatchesRegex("Where: QZRNUM6.Dat, record 3\n\n.*[.]\n\n[A-Z].*[a-z][.]"));
+    EXPECT_THAT(text, testing::MatchesRegex(
+                          "Where: QZRNUM6.Dat, record 3\n\nThis is the file of the draws[.]\n\n.*[.]"
+                          "\n\n[A-Z].*[a-z)][.]"));
   }
+  const auto explained = [](const std::string& where) {
+    return errorExplained(RuntimeError(ErrorNumber::inputPastEnd, where));
+  };
+  EXPECT_THAT(explained("/b/QzrNumbers/QZR6PWR/QZRNUM62.Dat, record 3: field 4 of 10 is beyond the end"),
+              testing::AllOf(testing::HasSubstr("the PowerBall file of the draws for searches and checks."),
+                             testing::HasSubstr("press Update")));
+  EXPECT_THAT(
+      explained("/b/QzrNumbers/QZR6MEG/QZR6MEG2.Ply"),
+      testing::AllOf(testing::HasSubstr("the Mega Millions file of your plays that were drawn."),
+                     testing::HasSubstr("Bring Back…"), testing::Not(testing::HasSubstr("press Update"))));
 }
 
 TEST(StartUp, SurvivesAFolderThatDoesNotStand) {
