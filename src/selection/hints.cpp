@@ -172,6 +172,15 @@ std::string_view dateOf(std::string_view item) {
   return cut(item, 3, 10);
 }
 
+/// The main numbers of a play that Replay does not mark.
+std::vector<int> leftByReplay(const SelectionForm& form, const std::vector<int>& numbers) {
+  std::vector<int> mains;
+  for (std::size_t i = 0; i + 1 < numbers.size(); ++i) {
+    if (numbers[i] > form.rules.replayMain) mains.push_back(numbers[i]);
+  }
+  return mains;
+}
+
 }  // namespace
 
 MarksHint marksHint(const SelectionForm& form) {
@@ -230,12 +239,14 @@ std::string countStepHint(const SelectionForm& form) {
   const std::string& step = form.Command4.caption();
   if (!form.Command4.enabled())
     return join("For more draws press ", form.Command1.caption(), ", then ", step, ".");
-  if (drawCountOf(form.Label1.caption()) == 1)
-    return join("Each press of ", step, " adds a draw, up to ten.");
+  const int count = drawCountOf(form.Label1.caption());
+  if (count == 1) return join("Each press of ", step, " adds a draw; after ten it begins again with one.");
   if (form.Command1.enabled())
     return join(form.Command5.caption(), " enters them so; ", form.Command1.caption(),
                 " would go back to one draw.");
-  return join(form.Command5.caption(), " enters them so.");
+  const std::string so = join(form.Command5.caption(), " enters them so. ");
+  return count == 10 ? join(so, "The next press of ", step, " begins again with one draw.")
+                     : join(so, step, " counts up only; after ten it begins again with one.");
 }
 
 std::string countLostHint(const SelectionForm& form, int countBefore) {
@@ -247,16 +258,29 @@ std::string countLostHint(const SelectionForm& form, int countBefore) {
 
 std::string replayHint(const SelectionForm& form) {
   const std::vector<int> numbers = numbersIn(form.Combo7.text());
-  std::vector<int> mains;
-  for (std::size_t i = 0; i + 1 < numbers.size(); ++i) {
-    if (numbers[i] > form.rules.replayMain) mains.push_back(numbers[i]);
-  }
+  const std::vector<int> mains = leftByReplay(form, numbers);
   std::vector<std::string> parts;
   if (!mains.empty()) parts.push_back(listed(texts(mains)));
   if (numbers.size() == 6 && numbers.back() > form.rules.replayExtra)
     parts.push_back(join(extraName(form), " ", twoDigits(numbers.back())));
   if (parts.empty()) return {};
   return join("Replay does not mark ", listed(parts), mains.empty() ? "." : "; press what is missing.");
+}
+
+std::string replayQuestion(const SelectionForm& form, std::string_view replayed) {
+  if (refusedExtra(form) != 0 || !complaint(form.rules, markedPlay(form)).empty()) return {};
+  const std::vector<int> numbers = numbersIn(replayed);
+  const Marks marks = marksOf(form);
+  const auto isIn = [](const std::vector<int>& those, int number) {
+    return std::ranges::find(those, number) != those.end();
+  };
+  // Another number in the place of those left out is the player's own choice.
+  if (!std::ranges::all_of(marks.mains, [&](int number) { return isIn(numbers, number); })) return {};
+  std::vector<int> left = leftByReplay(form, numbers);
+  std::erase_if(left, [&](int number) { return isIn(marks.mains, number); });
+  if (left.empty()) return {};
+  return join("The earlier play had ", listed(texts(left)), ", which Replay has not marked. ",
+              entering(form, marks), "\n\nSelect the play without ", listed(texts(left)), "?");
 }
 
 std::string committedHint(const SelectionForm& form) {

@@ -41,6 +41,10 @@ std::string countLostHint(const SelectionForm& form, int countBefore);
 /// The numbers of the play to replay that Replay does not mark; empty where it marks all.
 std::string replayHint(const SelectionForm& form);
 
+/// What to ask before Select enters the marks as a play without numbers that Replay has left out of the text
+/// `replayed`; empty where it does not.
+std::string replayQuestion(const SelectionForm& form, std::string_view replayed);
+
 /// How many plays a Done has saved and for which draws, from the file of the committed plays.
 std::string committedHint(const SelectionForm& form);
 

@@ -79,6 +79,14 @@ TEST_F(Selection, AReplayAndALineSayWhatTheyCannotMark) {
   EXPECT_EQ(marks(), "01 [26] 63 68 69 ");
   EXPECT_EQ(markLine(*form, form->Combo7.text()), "The slip does not have PowerBall 33.");
   EXPECT_EQ(marks(), "05 11 63 68 69 ");
+  scratch.write(path("2.Ply"), records({"11-18-2026,05,11,23,44,61,09,1100003"}));
+  open();
+  press("Command60");
+  EXPECT_EQ(replayQuestion(*form, form->Combo7.text()),
+            "The earlier play had 61, which Replay has not marked. Four numbers and a PowerBall: Select will "
+            "enter 09 as number and PowerBall.\n\nSelect the play without 61?");
+  mark("61", Mark::main);
+  EXPECT_EQ(replayQuestion(*form, form->Combo7.text()), "");
 }
 
 TEST_F(Selection, MarksThatARefusalTookOffComeBack) {
@@ -112,7 +120,8 @@ TEST_F(Selection, SaysForWhichDrawsThePlaysAre) {
   EXPECT_EQ(countStepHint(*form), "For more draws press Draw, then ## PlaysDates.");
   for (const char* name : {"Command1", "Command4", "Command4"}) press(name);
   EXPECT_EQ(drawCountHint(*form), "three draws, the last on Wed 11-25-2026");
-  EXPECT_EQ(countStepHint(*form), "Done enters them so.");
+  EXPECT_EQ(countStepHint(*form),
+            "Done enters them so. ## PlaysDates counts up only; after ten it begins again with one.");
   select("01 02 03 04 07", "06");
   EXPECT_EQ(countStepHint(*form), "Done enters them so; Draw would go back to one draw.");
   press("Command1");

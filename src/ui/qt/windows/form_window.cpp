@@ -51,7 +51,9 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   }
   // The model decides; it takes the window off the screen itself.
   event->ignore();
-  if (mayClose()) desk_.runner.run([this] { desk_.close(form_); });
+  desk_.runner.run([this] {
+    if (mayClose()) desk_.close(form_);
+  });
 }
 
 std::unique_ptr<FormWindow> makeWindow(Form& form, const Desk& desk) {

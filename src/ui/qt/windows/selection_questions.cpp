@@ -80,7 +80,14 @@ bool confirmDone(SelectionForm& form, QWidget* parent) {
   return finishEarlierChange(form) && confirmChangedFile(form) && chooseEarlierPlays(form, parent);
 }
 
-bool confirmDroppingPlays(const SelectionForm& form, QWidget* parent) {
+bool confirmReplayed(const SelectionForm& form, const std::string& replayed) {
+  const std::string question = replayQuestion(form, replayed);
+  if (question.empty()) return true;
+  return form.surroundings.boxes.show({question, std::string(programTitle), MessageBox::Icon::question,
+                                       MessageBox::Buttons::yesNo}) == MessageBox::Answer::yes;
+}
+
+bool settleUnsavedPlays(SelectionForm& form, QWidget* parent) {
   if (!hasPlaysToLose(form)) return true;
   const std::size_t plays = form.Combo1.items().size();
   QMessageBox box(QMessageBox::Question, toQString(programTitle),
@@ -88,13 +95,20 @@ bool confirmDroppingPlays(const SelectionForm& form, QWidget* parent) {
                              : u"%1 selected plays are not saved yet."_s.arg(plays),
                   QMessageBox::NoButton, parent);
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(u"Only plays that Done has saved are kept for their draws."_s);
-  auto* drop = box.addButton(plays == 1 ? u"&Drop It"_s : u"&Drop Them"_s, QMessageBox::DestructiveRole);
-  auto* back = box.addButton(u"&Back to the Plays"_s, QMessageBox::RejectRole);
-  box.setDefaultButton(back);
-  box.setEscapeButton(back);
+  const QString draws = toQString(drawCountHint(form));
+  box.setInformativeText(
+      u"Save does what Done does: it keeps %1 for %2."_s.arg(plays == 1 ? u"it"_s : u"them"_s)
+          .arg(draws.isEmpty() ? u"the next draw"_s : draws));
+  auto* save = box.addButton(u"&Save"_s, QMessageBox::AcceptRole);
+  auto* drop = box.addButton(u"Do&n't Save"_s, QMessageBox::DestructiveRole);
+  auto* stay = box.addButton(QMessageBox::Cancel);
+  box.setDefaultButton(save);
+  box.setEscapeButton(stay);
   box.exec();
-  return box.clickedButton() == drop;
+  if (box.clickedButton() != save) return box.clickedButton() == drop;
+  click(form.Command5);
+  // Where Done asks, and the answer is no, it saves nothing.
+  return !hasPlaysToLose(form);
 }
 
 }  // namespace tallywick

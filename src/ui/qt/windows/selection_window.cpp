@@ -98,7 +98,13 @@ void SelectionWindow::surroundActions() {
   watch(selection_.Command59, bringsBack(u"Select"_s));
   watch(selection_.Command84, bringsBack(u"Clear"_s));
   watch(selection_.Command9, [](bool) { return QString(); });
-  watch(selection_.Command60, [this](bool) { return toQString(replayHint(selection_)); });
+  watch(selection_.Command60, [this](bool) {
+    replayed_ = selection_.Combo7.text();
+    return toQString(replayHint(selection_));
+  });
+  selection_.Command59.onClick = [this, select = selection_.Command59.onClick] {
+    if (confirmReplayed(selection_, replayed_)) select();
+  };
   selection_.Command1.onClick = [this, draw = selection_.Command1.onClick] {
     const int before = drawCountOf(selection_.Label1.caption());
     draw();
@@ -187,7 +193,7 @@ void SelectionWindow::showState() {
 }
 
 bool SelectionWindow::mayClose() {
-  return binding().isReleased() || confirmDroppingPlays(selection_, this);
+  return binding().isReleased() || settleUnsavedPlays(selection_, this);
 }
 
 QString SelectionWindow::helpPage() const {

@@ -76,6 +76,8 @@ class SelectionWindow : public FormWindow {
   QString note_;
   /// The marks to which the note belongs.
   std::string notedMarks_;
+  /// What Replay has marked last.
+  std::string replayed_;
   bool saved_ = false;
 };
 
