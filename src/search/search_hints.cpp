@@ -72,6 +72,9 @@ SearchHint markedHint(const ButtonRow<6>& numbers, std::string_view game, const 
                marked > 1 ? join(", the first of the ", numberWord(marked), " marked balls.") : ".")};
 }
 
+/// The numbers come from a play, and what is counted are draws all the same.
+constexpr std::string_view drawsNotPlays = " It counts draws, not your plays: My Plays has those.";
+
 }  // namespace
 
 std::optional<std::string> typedDrawLine(std::string_view typed) {
@@ -174,7 +177,9 @@ SearchHint searchHint(const PlayedPage& page, const GameFrames& frames) {
 }
 
 SearchHint searchHint(const HavePlayedPlaysPage& page, const GameFrames& frames) {
-  return markedHint(page.numbers, countedGame(frames, false), page.Command46, "play");
+  SearchHint hint = markedHint(page.numbers, countedGame(frames, false), page.Command46, "play");
+  if (!countedGame(frames, false).empty()) hint.text += drawsNotPlays;
+  return hint;
 }
 
 Searched searchedNow(const TwoThreePage& page, std::string_view game) {
@@ -208,8 +213,7 @@ void SearchMemory::watch(Button& search, const std::function<Searched()>& now) {
 }
 
 std::string SearchMemory::hint(const Searched& now) const {
-  const bool isOurs = !searched_.numbers.empty() && !found_.empty() && found_.revision() == foundRevision_;
-  if (!isOurs) return {};
+  if (!isOurs() || found_.empty()) return {};
   const std::string shown = join("the ", searched_.game, " draws with ", searched_.numbers);
   const bool otherGame = !now.game.empty() && now.game != searched_.game;
   const bool otherNumbers = !now.numbers.empty() && now.numbers != searched_.numbers;
@@ -218,6 +222,19 @@ std::string SearchMemory::hint(const Searched& now) const {
   if (!otherGame && !otherNumbers) return join("Shown: ", shown, ".");
   return join("Still shown: ", shown, otherNumbers ? ", not what is marked now" : "",
               otherGame ? join(", not the game on show (", now.game, ")") : "", ".");
+}
+
+std::string SearchMemory::foundText() const {
+  if (!isOurs()) return {};
+  const std::size_t count = found_.size();
+  const std::string with = join(" with ", searched_.numbers, count == 1 ? " was" : " were", " found");
+  if (count == 0) return join("No ", searched_.game, " draw with ", searched_.numbers, " was found.");
+  return join(inFigures(count, join(searched_.game, " draw")), with,
+              count == 1 ? "; the list below has it." : "; the list below has them all.");
+}
+
+bool SearchMemory::isFoundElsewhere() const {
+  return listed_ == nullptr && isOurs() && !found_.empty();
 }
 
 bool SearchMemory::isListed() const {

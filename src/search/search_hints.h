@@ -66,10 +66,19 @@ class SearchMemory {
   /// "Shown: the PowerBall draws with 07 and 17." and where the page is at something else by now, that they
   /// are not of it; empty without a result. `now` without numbers says nothing against it.
   std::string hint(const Searched& now) const;
+  /// How many draws were found, and with what: "9 PowerBall draws with 07 and 17 were found."; empty without
+  /// a result.
+  std::string foundText() const;
   /// Whether the list shows the draws found.
   bool isListed() const;
+  /// Whether draws were found that the list does not show.
+  bool isFoundElsewhere() const;
+  /// What was searched last.
+  const Searched& searched() const { return searched_; }
 
  private:
+  bool isOurs() const { return !searched_.numbers.empty() && found_.revision() == foundRevision_; }
+
   const TextLines& found_;
   const TextLines* listed_;
   Searched searched_;

@@ -281,6 +281,7 @@ TEST_F(SearchHints, SayWhoseResultIsShown) {
   EXPECT_EQ(memory.hint(searchedNow(page, {})), "");
   click(page.Command38);
   EXPECT_EQ(memory.hint(searchedNow(page, {})), "Shown: the PowerBall draws with 07 and 17.");
+  EXPECT_EQ(memory.foundText(), "1 PowerBall draw with 07 and 17 was found; the list below has it.");
   EXPECT_TRUE(memory.isListed());
   mark(page.numbers, "13");
   EXPECT_EQ(memory.hint(searchedNow(page, "Mega Millions")),

@@ -6,17 +6,22 @@
 #include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <utility>
 
 namespace tallywick {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The window's own list beside a model's.
+const QString foundName = u"Draws that were found"_s;
 
 /// What a press will search, in two lines, and whose result is shown.
 constexpr int hintLines = 3;
@@ -100,6 +105,9 @@ void showDrawsInColumns(const SearchView& view, MainForm& form) {
   for (const char* name :
        {"Combo4", "Combo2", "Combo5", "List6", "Combo6", "List7", "Combo8", "Combo9", "List9"})
     showInColumns(view, name, shownGame);
+  for (auto* list : view.findChildren<LineList*>()) {
+    if (list->accessibleName() == foundName) showInColumns(*list, drawFieldsShown, shownGame);
+  }
   const GameOfLines found = gameOfTwoThree(form.search.twoThree, shownGame);
   for (const char* name : {"Combo7", "List8"}) showInColumns(view, name, found);
 }
@@ -200,18 +208,39 @@ void SearchPanelView::addResults(const SearchPanel& panel, Binding& binding) {
   line->addWidget(title);
   line->addWidget(results, 1);
   line->addWidget(tally, 1);
-  listTitle_ = heading(this, panel.listTitle);
-  auto* list = new LineList(panel.list.items(), this);
-  list->setAccessibleName(u"Draws"_s);
-
+  found_ = sentences(this);
   auto* column = static_cast<QBoxLayout*>(layout());
   column->addLayout(line);
-  column->addWidget(listTitle_);
-  column->addWidget(list, 1);
+  column->addWidget(found_);
+  column->addWidget(lists(panel, binding), 1);
   binding.bind(panel.results, *results);
   binding.bind(panel.tally, *tally);
   binding.announceChangesOf(panel.tally);
+}
+
+QWidget* SearchPanelView::lists(const SearchPanel& panel, Binding& binding) {
+  auto* both = new QWidget;
+  auto* line = new QHBoxLayout(both);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(theme::pageMargin);
+  const auto add = [line](QWidget* box, QLabel* title, LineList* list, const QString& name) {
+    auto* column = columnIn(box);
+    column->addWidget(title);
+    column->addWidget(list, 1);
+    list->setAccessibleName(name);
+    line->addWidget(box, 1);
+  };
+  foundLines_ = new QWidget;
+  auto* found = new LineList(panel.results.items(), foundLines_);
+  add(foundLines_, heading(foundLines_, u"Draws found"_s), found, foundName);
+  addLineActions(*found, binding.runner());
+  foundLines_->hide();
+  listed_ = new QWidget;
+  listTitle_ = heading(listed_, panel.listTitle);
+  auto* list = new LineList(panel.list.items(), listed_);
+  add(listed_, listTitle_, list, u"Draws"_s);
   binding.bind(panel.list, *list);
+  return both;
 }
 
 void SearchPanelView::showHints() {
@@ -225,6 +254,21 @@ void SearchPanelView::showHints() {
                                    : HintPanel::Kind::advice;
   hint_->show(kind, {}, shown.isEmpty() ? toQString(hint.text) : toQString(hint.text) + u'\n' + shown);
   listTitle_->setText(panel_.memory->isListed() ? u"Draws found"_s : panel_.listTitle);
+  showFound();
+}
+
+void SearchPanelView::showFound() {
+  const QString text = toQString(panel_.memory->foundText());
+  found_->setText(text);
+  found_->setVisible(!text.isEmpty());
+  const bool isElsewhere = panel_.memory->isFoundElsewhere();
+  foundLines_->setVisible(isElsewhere);
+  // A count empties some of the model's lists.
+  listed_->setVisible(!isElsewhere || !panel_.list.items().empty());
+  auto& lines = *foundLines_->findChild<LineList*>();
+  lines.setEmphasis({panel_.memory->searched().numbers});
+  const std::size_t revision = panel_.results.items().revision();
+  if (std::exchange(foundRevision_, revision) != revision) lines.reload();
 }
 
 SearchView::SearchView(MainForm& form, Binding& binding) {

@@ -19,6 +19,7 @@ class Button;
 class ComboBox;
 class HintPanel;
 class Label;
+class LineList;
 class ListBox;
 class MainForm;
 
@@ -64,10 +65,18 @@ class SearchPanelView : public QWidget {
   void addSource(const SearchPanel& panel, Binding& binding);
   void addNumbers(const SearchPanel& panel, Binding& binding);
   void addResults(const SearchPanel& panel, Binding& binding);
+  QWidget* lists(const SearchPanel& panel, Binding& binding);
+  /// Under the drop-down: how many draws were found, and a list of them where the model's own has none.
+  void showFound();
 
   SearchPanel panel_;
   HintPanel* hint_ = nullptr;
   QLabel* listTitle_ = nullptr;
+  QLabel* found_ = nullptr;
+  /// The model's list with its title, and beside it the window's own of what was found.
+  QWidget* listed_ = nullptr;
+  QWidget* foundLines_ = nullptr;
+  std::size_t foundRevision_ = 0;
 };
 
 class SearchView : public QTabWidget {
