@@ -24,6 +24,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -39,6 +40,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize usualSize = {1080, 800};
+
+/// What every list calls these.
+const QString saveAction = u"&Save…"_s;
+const QString printAction = u"&Print…"_s;
 
 /// The manual's page for each page of the window.
 constexpr std::array<const char*, 4> helpPages = {"summary.html", "searches.html", "winnings.html",
@@ -239,9 +244,9 @@ void MainWindow::addFileEntries() {
   print->setShortcut(QKeySequence::Print);
   connect(print, &QAction::triggered, this,
           [this] { desk().runner.attempt([this] { printSummary(main_, *this); }); });
-  // The list's own action and the settings' button have the shortcuts.
-  auto* save = listEntry(u"Sa&ve List…\tCtrl+S"_s, u"&Save…"_s);
-  auto* printList = listEntry(u"Print &List…\tCtrl+Shift+P"_s, u"&Print…"_s);
+  // The lists' own actions, keyPressEvent() and the settings' button have the keys.
+  auto* save = listEntry(u"Sa&ve List…\tCtrl+S"_s, saveAction);
+  auto* printList = listEntry(u"Print &List…\tCtrl+Shift+P"_s, printAction);
   auto* settings = new QAction(u"S&ettings…\tCtrl+,"_s, this);
   connect(settings, &QAction::triggered, this, [this] {
     desk().runner.attempt([this] { desk().editSettings(); });
@@ -270,16 +275,27 @@ void MainWindow::followGlance() {
 QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {
   auto* entry = new QAction(text, this);
   entry->setToolTip(u"The list in use, else the first one of the page"_s);
-  connect(entry, &QAction::triggered, this, [this, actionText] {
-    const QAbstractItemView* list = listInUse();
-    if (list == nullptr) return;
-    for (QAction* action : list->actions()) {
-      if (action->text() == actionText) action->trigger();
-    }
-  });
+  connect(entry, &QAction::triggered, this, [this, actionText] { actOnList(actionText); });
   const QMenu* file = findChild<QAction*>(toQString(main_.menu.mnuFile.name()))->menu();
   connect(file, &QMenu::aboutToShow, entry, [this, entry] { entry->setEnabled(listInUse() != nullptr); });
   return entry;
+}
+
+void MainWindow::actOnList(const QString& actionText) {
+  const QAbstractItemView* list = listInUse();
+  if (list == nullptr) return;
+  for (QAction* action : list->actions()) {
+    if (action->text() == actionText) action->trigger();
+  }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Save))
+    actOnList(saveAction);
+  else if (event->keyCombination() == (Qt::CTRL | Qt::SHIFT | Qt::Key_P))
+    actOnList(printAction);
+  else
+    FormWindow::keyPressEvent(event);
 }
 
 QAbstractItemView* MainWindow::listInUse() const {

@@ -36,6 +36,10 @@ class MainWindow : public FormWindow {
   bool mayClose() override;
   TransferPanel* transferPanel() const override;
 
+ protected:
+  /// Saves and prints the page's list where no list has the focus, which has these keys itself.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void addPages();
   void addMenusAndStatus();
@@ -54,6 +58,8 @@ class MainWindow : public FormWindow {
   void addFileEntries();
   /// An entry that does to the list in use what the list's own action of that text does.
   QAction* listEntry(const QString& text, const QString& actionText);
+  /// Triggers the action of that text of the list in use.
+  void actOnList(const QString& actionText);
   /// The list that was in front last, else the first one of the page.
   QAbstractItemView* listInUse() const;
   /// Greys what the settings have no address for.
