@@ -11,6 +11,7 @@
 #include "exports/import_report.h"
 #include "exports/made_up.h"
 #include "exports/typed_draws.h"
+#include "ui/qt/dialogs/export_address.h"
 #include "ui/qt/dialogs/fetch_dialog.h"
 #include "ui/qt/dialogs/typed_draw_dialog.h"
 #include "ui/qt/parts/layouts.h"
@@ -21,6 +22,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
@@ -150,6 +152,12 @@ QBoxLayout* DrawsDialog::actionRows() {
   auto* rows = new QVBoxLayout;
   rows->setSpacing(theme::gap);
   rows->addLayout(line);
+  address_ = addressField(u"Address of this game's draws"_s);
+  auto* how = sentences(this);
+  how->setText(howToGetFiles);
+  how->setBuddy(address_);
+  rows->addWidget(how);
+  rows->addWidget(address_);
   rows->addLayout(typed);
   return rows;
 }
@@ -180,6 +188,8 @@ void DrawsDialog::addAmounts(QBoxLayout& column) {
 void DrawsDialog::showGame() {
   bool isMadeUp = false;
   try {
+    address_->setText(toQString(exportOf(addresses_, game().game)));
+    address_->setCursorPosition(0);
     history_ = exports::reportOf(folder_, game().game);
     std::string text = summaryOf(game(), history_);
     isMadeUp = exports::isMadeUp(folder_, game().game);

@@ -14,6 +14,7 @@
 class QBoxLayout;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QTableWidget;
 
@@ -63,6 +64,7 @@ class DrawsDialog : public QDialog {
   const DataFolder& folder_;
   const Clock& clock_;
   std::vector<ExportAddress> addresses_;
+  QLineEdit* address_ = nullptr;
   exports::HistoryReport history_;
   QComboBox* games_;
   QLabel* summary_;

@@ -11,6 +11,7 @@
 #include "core/work_files.h"
 #include "exports/made_up.h"
 #include "setup/new_folder.h"
+#include "ui/qt/dialogs/export_address.h"
 #include "ui/qt/dialogs/real_book.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
@@ -19,6 +20,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
@@ -69,6 +71,16 @@ bool makeFetched(const fs::path& folder) {
   }
 }
 
+/// Those that the folder may have already.
+Settings settingsIn(const fs::path& folder) {
+  try {
+    return readSettings(DataFolder(folder));
+  } catch (const std::exception&) {
+    // What is wrong with the file is said where it is needed.
+    return {};
+  }
+}
+
 enum class Choice { quit, fetch, files, sample, last, open };
 
 /// What a first start can begin with, each with a line that explains it.
@@ -85,8 +97,12 @@ class StartChoices : public QDialog {
     column_->addWidget(text);
     add(u"Start my record book with the &real draws"_s,
         u"Fetches all draws of both games from the public exports. Nothing else is needed."_s, Choice::fetch);
-    add(u"…from &files that I saved"_s, u"Takes the exports of both games that you have on this computer."_s,
+    add(u"…from &files that I saved"_s,
+        u"Takes the files of both games' draws. To get them, open these two addresses in a web browser: it "
+        u"saves the "
+        "files, often in the folder Downloads."_s,
         Choice::files);
+    addAddresses(folder);
     add(u"Look around with &sample draws"_s,
         u"Makes draws and plays up, so that you can try everything. They never took place."_s,
         Choice::sample);
@@ -128,6 +144,18 @@ class StartChoices : public QDialog {
       choice_ = choice;
       accept();
     });
+  }
+
+  void addAddresses(const fs::path& folder) {
+    auto* fields = new QVBoxLayout;
+    fields->setSpacing(theme::halfGap);
+    fields->setContentsMargins(theme::pageMargin, 0, 0, 0);
+    const Settings settings = settingsIn(folder);
+    for (const GameInfo* game : {&powerBall, &megaMillions}) {
+      fields->addWidget(addressField(u"Address of the %1 draws"_s.arg(toQString(game->name)),
+                                     exportAddress(settings, game->game)));
+    }
+    column_->addLayout(fields);
   }
 
   QVBoxLayout* column_;
