@@ -9,6 +9,7 @@
 #include "plays/play_table.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tallywick {
 
@@ -69,34 +70,55 @@ std::string judgedSentence(const GameInfo& game, const Counts& counts) {
               " won", dollars, ".");
 }
 
+/// Of the check by date.
+std::string verdictByDate(const WinningsPage& page, const Counts& counts) {
+  const std::string& verdict = page.Combo10.text();
+  const std::size_t listed = page.List14.emphasis().size();
+  if (listed > 0) {
+    if (verdict.empty()) {
+      return "The check leaves this line empty: by date it writes here only for a losing play before the "
+             "first "
+             "one that won.";
+    }
+    return join("The check wrote this for a losing play, and did not take it back for the ",
+                inFigures(listed, "play"), " after it that won.");
+  }
+  if (counts.won == 0) return "";
+  return "The check missed what won: the sentences above say which plays, and why.";
+}
+
+/// Of the check against the newest draw.
+std::string verdictOnLatest(const WinningsPage& page, const Counts& counts) {
+  if (page.List14.emphasis().empty() && counts.won == 0) return "";
+  return join(
+      "This is the newest draw alone, against every play, whatever date a play is for. What counts for "
+      "a ticket is the draw of its own date",
+      counts.drawn == 0 ? "." : ": see above.");
+}
+
 }  // namespace
 
-std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo& game,
-                                        const Judgement& judgement) {
+CheckExplained checkExplained(const WinningsPage& page, const GameInfo& game, const Judgement& judgement) {
   const std::vector<std::string>& listed = page.List14.emphasis();
   const Counts counts = countsOf(listed, judgement);
   const bool isByDate = page.Option2.value();
-  std::vector<std::string> sentences = tornSentences(judgement);
-  sentences.insert(sentences.begin(), judgedSentence(game, counts));
+  CheckExplained explained = {judgedSentence(game, counts), {}, tornSentences(judgement)};
+  std::vector<std::string>& sentences = explained.more;
   if (!page.Option1.value() && !isByDate) {
-    sentences.insert(sentences.begin(),
-                     join("Nothing was checked: choose ", page.Option1.caption(), " or ",
-                          page.Option2.caption(), ", then press ", page.Command47.caption(), "."));
-    return sentences;
+    sentences.insert(
+        sentences.begin(),
+        std::exchange(explained.headline,
+                      join("Nothing was checked: choose ", page.Option1.caption(), " or ",
+                           page.Option2.caption(), ", then press ", page.Command47.caption(), ".")));
+    return explained;
   }
+  explained.verdict = isByDate ? verdictByDate(page, counts) : verdictOnLatest(page, counts);
   const auto say = [&](std::string_view what, std::size_t count, std::string_view why) {
     if (count > 0) sentences.push_back(join(what, ": ", inFigures(count, "play"), ". ", why));
   };
-  if (isByDate && !listed.empty()) {
-    sentences.emplace_back(page.Combo10.text().empty()
-                               ? "The verdict line stays empty: the check by date writes there only for a "
-                                 "play that comes before the first winner."
-                               : "The verdict line is from a losing play; the lists have those that won.");
-  }
   say("Listed, and not won", counts.listedButNotWon - (isByDate ? counts.listedButNotDrawn : 0),
       isByDate ? "The check counts blank and repeated numbers too."
-               : "The check compares every play with the newest draw; a ticket counts in the draw of its own "
-                 "date.");
+               : "Their numbers match the newest draw, which is not the draw of their own date.");
   say("Listed, and not drawn", isByDate ? counts.listedButNotDrawn : 0,
       "The check reads the search history, which has a draw that the main one lacks.");
   say("Won, and not listed", counts.wonButNotListed,
@@ -110,7 +132,7 @@ std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo
                                  ? "The check by date does not look at Double Play."
                                  : "The check sets the first play against the newest Double Play draw."));
   }
-  return sentences;
+  return explained;
 }
 
 }  // namespace tallywick

@@ -13,9 +13,16 @@ namespace tallywick {
 struct Judgement;
 struct WinningsPage;
 
-/// What the judging says of the plays, then a sentence for each way in which the check that `page` shows says
-/// otherwise. To be asked right after the check, with a judgement of the same files.
-std::vector<std::string> checkExplained(const WinningsPage& page, const GameInfo& game,
-                                        const Judgement& judgement);
+struct CheckExplained {
+  /// What the judging says of the plays, or that nothing was checked.
+  std::string headline;
+  /// Why the check's verdict line says otherwise; empty where it does not.
+  std::string verdict;
+  /// A sentence for each other way in which the check differs.
+  std::vector<std::string> more;
+};
+
+/// Of the check that `page` shows; to be asked right after it, with a judgement of the same files.
+CheckExplained checkExplained(const WinningsPage& page, const GameInfo& game, const Judgement& judgement);
 
 }  // namespace tallywick

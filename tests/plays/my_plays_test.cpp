@@ -247,15 +247,16 @@ TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
 TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   Form form("Form1");
   WinningsPage page(form);
-  EXPECT_EQ(checkExplained(page, powerBall, judgement()).front(),
+  EXPECT_EQ(checkExplained(page, powerBall, judgement()).headline,
             "Nothing was checked: choose Latest draw or Draw of each play's date, then press Check Tickets.");
   const auto explained = [&](OptionButton& option) {
     page.Option1.setValue(&option == &page.Option1);
     page.Option2.setValue(&option == &page.Option2);
     (&option == &page.Option1 ? checkAgainstLatestDraw : checkByDate)(page, scratch.folder(),
                                                                       ticketFilesOf(powerBall));
-    std::string text;
-    for (const std::string& line : checkExplained(page, powerBall, judgement())) text += line + "\n";
+    const CheckExplained said = checkExplained(page, powerBall, judgement());
+    std::string text = said.headline + "\n" + said.verdict + "\n";
+    for (const std::string& line : said.more) text += line + "\n";
     return text;
   };
   const std::string sum =
@@ -266,16 +267,19 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   const std::string left = "Won, and still among the next plays: 1 play. The check does not look there.\n";
   EXPECT_EQ(explained(page.Option1),
             sum +
-                "Listed, and not won: 1 play. The check compares every play with the "
-                "newest draw; a ticket counts in "
-                "the draw of its own date.\nWon, and not listed: 1 play. The check "
-                "looks at the newest draw alone.\n" +
+                "This is the newest draw alone, against every play, whatever date a play is for. What counts "
+                "for a ticket is the draw of its own date: see above.\n"
+                "Listed, and not won: 1 play. Their numbers match the newest draw, which is not the draw of "
+                "their own date.\n"
+                "Won, and not listed: 1 play. The check looks at the newest draw alone.\n" +
                 left +
                 "Won with Double Play: 1 play. The check sets the first play "
                 "against the newest Double Play draw.\n");
   EXPECT_EQ(explained(page.Option2),
-            sum + "The verdict line is from a losing play; the lists have those that won.\n" + left +
-                "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
+            sum +
+                "The check wrote this for a losing play, and did not take it back for the 2 plays after it "
+                "that won.\n" +
+                left + "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
   // Two histories have the draw of a play that the main one does not have yet.
   scratch.write(game("QZRNUM62.Dat"), records({"01,07,2026,11,12,13,14,15,16,2"}));
   scratch.write(game("QZRNUM72.Dat"), records({"01,07,2026,91,92,93,94,95,96,2,DP,11,12,13,14,15,16,1"}));
@@ -283,8 +287,8 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
   EXPECT_EQ(
       explained(page.Option2),
       "No play of PowerBall has been drawn yet.\n"
-      "The verdict line stays empty: the check by date writes there only for a play that comes before the "
-      "first winner.\n"
+      "The check leaves this line empty: by date it writes here only for a losing play before the first one "
+      "that won.\n"
       "Listed, and not drawn: 1 play. The check reads the search history, which has a draw that the main "
       "one lacks.\n");
   EXPECT_EQ(

@@ -34,6 +34,8 @@ std::string titleOf(LineField field, Game game) {
       return "Amount";
     case LineField::matched:
       return "Matched";
+    case LineField::prize:
+      return "Prize";
     case LineField::ball:
     case LineField::figure:
       break;
@@ -71,7 +73,7 @@ class MatchedPlays {
         if (play.state != DrawState::drawn) continue;
         highlights_->insert_or_assign(keyOf(play.date, play.white, play.extra),
                                       LineHighlights{play.match.whites, play.match.extra, play.match.wins(),
-                                                     matchCount(play.match, game)});
+                                                     matchCount(play.match, game), prizeText(play)});
       }
     } catch (const std::exception&) {
       // Painting raises nothing; where a file is missing the plays are shown without matches.
@@ -140,6 +142,26 @@ void highlightMatches(LineList& list, PlayJudge& judge) {
     const auto isMatched = [](const LineColumn& column) { return column.field == LineField::matched; };
     if (std::ranges::none_of(list.columns(), isMatched)) return LineHighlights();
     return plays->of(readLine(line), list.game());
+  });
+}
+
+void highlightCommon(LineList& list, PlayJudge& judge, const std::optional<ComparedDraw>& draw) {
+  const auto plays = std::make_shared<MatchedPlays>(judge);
+  list.beforeReload = [plays, show = list.beforeReload] {
+    plays->forget();
+    show();
+  };
+  list.lineModel()->setHighlight([&list, &draw, plays](std::string_view line) {
+    const ListedLine play = readLine(line);
+    if (!draw || play.white.front().empty()) return LineHighlights();
+    Match match;
+    for (const std::string_view number : play.white) {
+      if (std::ranges::find(draw->white, number) != draw->white.end()) match.whites.emplace_back(number);
+    }
+    match.extra = play.extra == draw->extra;
+    const bool isItsOwn = play.date == draw->date;
+    return LineHighlights{match.whites, match.extra, isItsOwn && match.wins(), matchCount(match, list.game()),
+                          isItsOwn ? plays->of(play, list.game()).prize : "not its draw"};
   });
 }
 

@@ -5,8 +5,11 @@
 #include "core/games.h"
 #include "ui/qt/parts/listed_line.h"
 
+#include <array>
 #include <functional>
+#include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 class QHBoxLayout;
@@ -26,6 +29,8 @@ using LineFields = std::vector<LineField>;
 inline const LineFields drawFieldsShown = {LineField::date, LineField::whites, LineField::extra};
 inline const LineFields playFieldsShown = {LineField::date, LineField::whites, LineField::extra,
                                            LineField::matched};
+inline const LineFields ticketFieldsShown = {LineField::date, LineField::whites, LineField::extra,
+                                             LineField::matched, LineField::prize};
 
 /// Which game new lines of a list are of.
 using GameOfLines = std::function<Game()>;
@@ -47,5 +52,15 @@ QHBoxLayout* ballRow(std::span<Button* const> numbers, const GameOfLines& gameOf
 /// Highlights in the lines of plays what the judging says that they matched. The files are read when the
 /// first of new lines is painted. After showInColumns().
 void highlightMatches(LineList& list, PlayJudge& judge);
+
+/// A draw that plays are compared with.
+struct ComparedDraw {
+  std::string date;
+  std::array<std::string, 5> white;
+  std::string extra;
+};
+/// Highlights in the lines of plays what they have in common with the draw, whatever draw they are for, and
+/// says the prize of those that are for it. Without a draw nothing. After showInColumns().
+void highlightCommon(LineList& list, PlayJudge& judge, const std::optional<ComparedDraw>& draw);
 
 }  // namespace tallywick

@@ -2,13 +2,16 @@
 #include "ui/qt/pages/winnings_view.h"
 
 #include "app/main_form.h"
+#include "core/data_folder.h"
+#include "core/draws.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "display/judging.h"
 #include "plays/check_explained.h"
 #include "ui/qt/binding/binding.h"
-#include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/pages/my_plays_view.h"
 #include "ui/qt/pages/ticket_view.h"
+#include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
@@ -19,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
+#include <utility>
 
 namespace tallywick {
 
@@ -29,7 +33,19 @@ namespace {
 /// What screen readers say after a line that is emphasised.
 const QString winningMeaning = u"winning"_s;
 
-const QString beforeCheck = u"What each play's own draw says is shown here after a check."_s;
+constexpr int headlineLines = 2;
+
+const QString beforeCheck =
+    u"Choose what to check against, then press Check Tickets. What each play's own draw says is shown here."_s;
+
+/// The newest draw, with which the check against the latest one compares every play.
+ComparedDraw newestOf(const GameInfo& game, const DataFolder& folder) {
+  SequentialReader draws(folder, inFolder(game, searchDrawsFile), SequentialReader::Reading::inPieces);
+  const Draw newest = drawOf(draws.record<drawFields>());
+  ComparedDraw compared = {newest.displayDate(), {}, std::string(trimmed(newest.extra))};
+  std::ranges::transform(newest.white, compared.white.begin(), [](auto number) { return trimmed(number); });
+  return compared;
+}
 
 LineList* titledList(QSplitter& side, const QString& title, ListBox& list, const QString& whenEmpty,
                      Binding& binding) {
@@ -56,10 +72,13 @@ void showWinningLines(LineList& list) {
 /// The lines of plays in columns; of the drawn plays with what they matched.
 void showPlaysInColumns(const WinningsView& view, const MainForm& form, PlayJudge& judge) {
   const GameOfLines gameOf = gameOnShowOf(form.frames);
-  for (const char* name : {"List10", "List11", "List17"}) {
-    showInColumns(*view.findChild<LineList*>(QString::fromLatin1(name)), drawFieldsShown, gameOf);
-  }
-  auto& drawn = *view.findChild<LineList*>(u"List14"_s);
+  const auto list = [&](const char* name) -> LineList& {
+    return *view.findChild<LineList*>(QString::fromLatin1(name));
+  };
+  showInColumns(list("List17"), drawFieldsShown, gameOf);
+  for (const char* name : {"List10", "List11"}) showInColumns(list(name), ticketFieldsShown, gameOf);
+  highlightMatches(list("List10"), judge);
+  LineList& drawn = list("List14");
   showInColumns(drawn, playFieldsShown, gameOf);
   highlightMatches(drawn, judge);
 }
@@ -82,6 +101,7 @@ WinningsView::WinningsView(MainForm& form, FormWindow& window) : form_(form), ac
   addTab(check(form, binding), u"Chec&k"_s);
   binding.bind(form.bar.SSTab3, *this);
   showPlaysInColumns(*this, form, window.desk().judge);
+  highlightCommon(*findChild<LineList*>(u"List11"_s), window.desk().judge, compared_);
   myPlays_ = new MyPlaysView(actions_, this);
   ticket_ = new TicketView(actions_, this);
   addTab(myPlays_, u"My P&lays"_s);
@@ -143,36 +163,43 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
     choice->addWidget(widget);
   choice->addStretch();
 
-  auto* verdict = new Picker(winnings.Combo10.items(), page);
-  verdict->setResultsOnly();
-  verdict_ = verdict->lineEdit();
-  auto* verdictLabel = heading(page, u"&Verdict"_s);
-  verdictLabel->setBuddy(verdict);
-  verdict->setAccessibleName(u"Verdict"_s);
-  headline_ = sentences(page);
-  headline_->setFont(theme::headingFont(headline_->font()));
-  auto* verdictLine = row(theme::pageMargin);
-  verdictLine->addWidget(verdict);
-  verdictLine->addWidget(headline_, 1);
+  headline_ = new HintPanel(headlineLines, page);
   explained_ = sentences(page);
-  explained_->setText(beforeCheck);
-  auto* lists = splitter(Qt::Horizontal, u"check"_s);
-  showWinningLines(*titledList(*lists, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
-  numbers_ = titledList(*lists, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding);
+  lists_ = splitter(Qt::Horizontal, u"check"_s);
+  connect(lists_, &QSplitter::splitterMoved, this, [this] { areWidthsChosen_ = true; });
+  showWinningLines(*titledList(*lists_, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
+  numbers_ = titledList(*lists_, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding);
   showWinningLines(*numbers_);
 
   auto* column = columnIn(page, theme::pageMargin);
   column->addLayout(choice);
-  column->addWidget(verdictLabel);
-  column->addLayout(verdictLine);
+  column->addWidget(headline_);
   column->addWidget(explained_);
-  column->addWidget(lists, 1);
+  column->addLayout(verdict(form, page, binding));
+  column->addWidget(lists_, 1);
   binding.bind(winnings.Option1, *latest, withMnemonic('E'));
   binding.bind(winnings.Option2, *byDate, withMnemonic('A'));
   binding.bind(winnings.Command47, *run, withMnemonic('T'));
-  binding.bind(winnings.Combo10, *verdict);
-  binding.announceChangesOf(winnings.Combo10);
+  say({}, {}, {});
   return page;
+}
+
+QBoxLayout* WinningsView::verdict(MainForm& form, QWidget* page, Binding& binding) {
+  ComboBox& written = form.winnings.Combo10;
+  auto* line = new Picker(written.items(), page);
+  line->setResultsOnly();
+  line->setAccessibleName(u"Verdict"_s);
+  verdict_ = line->lineEdit();
+  auto* name = new QLabel(u"The check's &verdict line:"_s, page);
+  name->setBuddy(line);
+  verdictNote_ = sentences(page);
+  auto* all = row();
+  all->addWidget(name);
+  all->addWidget(line);
+  all->addWidget(verdictNote_, 1);
+  binding.bind(written, *line);
+  binding.announceChangesOf(written);
+  return all;
 }
 
 void WinningsView::explainCheck(MainForm& form) {
@@ -180,38 +207,55 @@ void WinningsView::explainCheck(MainForm& form) {
     check();
     checkedGame_ = &actions_.game();
     showExplanation(form);
+    makeRoomForNumbers();
   };
 }
 
-void WinningsView::showExplanation(const MainForm& form) {
-  QStringList lines;
-  QString headline;
-  explainedGame_ = nullptr;
-  try {
-    const GameInfo& game = actions_.game();
-    explainedPlays_ = actions_.plays();
-    for (const std::string& sentence : checkExplained(form.winnings, game, explainedPlays_->judgement)) {
-      lines += toQString(sentence);
-    }
-    headline = lines.takeFirst();
-    explainedGame_ = &game;
-  } catch (const RuntimeError& error) {
-    lines += u"The plays cannot be judged: %1"_s.arg(toQString(error.what()));
-  }
-  headline_->setText(headline);
-  verdict_->setPlaceholderText(headline.isEmpty() ? QString() : u"no verdict; the count is beside"_s);
-  explained_->setText(lines.join(u'\n'));
-  for (QLabel* label : {headline_, explained_}) {
+void WinningsView::makeRoomForNumbers() {
+  if (areWidthsChosen_) return;
+  const bool isByDate = form_.winnings.Option2.value();
+  lists_->setSizes({isByDate ? 2000 : 3000, isByDate ? 3000 : 2000});
+}
+
+void WinningsView::say(const QString& headline, const QString& verdict, const QString& more) {
+  const bool isChecked = form_.winnings.Option1.value() || form_.winnings.Option2.value();
+  const HintPanel::Kind kind = headline.isEmpty() || !isChecked ? HintPanel::Kind::advice
+                               : explainedGame_ != nullptr      ? HintPanel::Kind::ready
+                                                                : HintPanel::Kind::warning;
+  headline_->show(kind, headline, headline.isEmpty() ? beforeCheck : QString());
+  verdictNote_->setText(verdict);
+  verdict_->setPlaceholderText(headline.isEmpty() ? QString() : u"empty; the count is above"_s);
+  explained_->setText(more);
+  explained_->setVisible(!more.isEmpty());
+  for (QLabel* label : {verdictNote_, explained_}) {
     QAccessibleEvent alert(label, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
   }
 }
 
+void WinningsView::showExplanation(const MainForm& form) {
+  explainedGame_ = nullptr;
+  compared_.reset();
+  try {
+    const GameInfo& game = actions_.game();
+    if (form.winnings.Option1.value()) compared_ = newestOf(game, actions_.folder());
+    explainedPlays_ = actions_.plays();
+    const CheckExplained said = checkExplained(form.winnings, game, explainedPlays_->judgement);
+    explainedGame_ = &game;
+    QStringList more;
+    for (const std::string& sentence : said.more) more += toQString(sentence);
+    say(toQString(said.headline), toQString(said.verdict), more.join(u'\n'));
+  } catch (const RuntimeError& error) {
+    say(u"The plays cannot be judged: %1"_s.arg(toQString(error.what())), {}, {});
+  }
+}
+
 void WinningsView::showWhoseCheck() {
-  if (explainedGame_ != nullptr) return;
-  const bool isOther = checkedGame_ != nullptr && checkedGame_ != &actions_.game() && listsTickets();
-  headline_->setText(isOther ? u"The lists below are still those of %1."_s.arg(toQString(checkedGame_->name))
-                             : QString());
+  const bool isOther = explainedGame_ == nullptr && checkedGame_ != nullptr &&
+                       checkedGame_ != &actions_.game() && listsTickets();
+  if (std::exchange(saysWhose_, isOther) == isOther || explainedGame_ != nullptr) return;
+  say(isOther ? u"The lists below are still those of %1."_s.arg(toQString(checkedGame_->name)) : QString(),
+      {}, isOther ? beforeCheck : QString());
 }
 
 bool WinningsView::listsTickets() const {
@@ -235,9 +279,7 @@ void WinningsView::dropStaleExplanation() {
     // A file of theirs is gone: nothing can be said of the plays.
   }
   explainedGame_ = nullptr;
-  headline_->clear();
-  verdict_->setPlaceholderText({});
-  explained_->setText(beforeCheck);
+  say({}, {}, {});
 }
 
 }  // namespace tallywick

@@ -51,7 +51,18 @@ void print(QAbstractItemView& view, const ViewTexts& texts) {
 }
 
 std::optional<std::vector<std::string>> cellsOfLine(const LineList& list, std::string_view line) {
-  return cellsOf(list.columns(), line, list.lineModel()->highlightsOf(line).matched);
+  const LineHighlights found = list.lineModel()->highlightsOf(line);
+  return cellsOf(list.columns(), line, found.matched, found.prize);
+}
+
+/// Whether any line fits the columns, or there is none that does not.
+bool hasColumns(const LineList& list) {
+  if (list.columns().empty()) return false;
+  const TextLines& lines = list.lineModel()->lines();
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (cellsOf(list.columns(), lines[i])) return true;
+  }
+  return lines.empty();
 }
 
 QString tableCell(const QString& tag, Qt::Alignment alignment, const QString& text) {
@@ -121,17 +132,18 @@ std::string asText(const LineList& list) {
 std::string asCommaSeparated(const LineList& list) {
   const LineListModel* model = list.lineModel();
   if (model == nullptr) return {};
-  const std::vector<std::string> titles = cellTitles(list.columns());
+  const std::vector<std::string> titles =
+      hasColumns(list) ? cellTitles(list.columns()) : std::vector<std::string>();
   std::string text;
   if (!titles.empty()) text.append(csvLine(titles)).append("\r\n");
   for (std::size_t i = 0; i < model->lines().size(); ++i) {
     const std::string_view line = model->lines()[i];
-    if (titles.empty()) {
+    if (list.columns().empty()) {
       text.append(csvLine(line));
     } else if (const auto cells = cellsOfLine(list, line)) {
       text.append(csvLine(*cells));
     } else {
-      std::vector<std::string> alone(titles.size());
+      std::vector<std::string> alone(std::max<std::size_t>(1, titles.size()));
       alone.front() = trimmed(line);
       text.append(csvLine(alone));
     }
@@ -145,7 +157,7 @@ QString asTable(const LineList& list, std::size_t atMost) {
   if (model == nullptr) return {};
   const std::size_t all = model->lines().size();
   const std::size_t shown = std::min(all, atMost);
-  QString rows = tableTitles(list.columns());
+  QString rows = hasColumns(list) ? tableTitles(list.columns()) : QString();
   for (std::size_t i = 0; i < shown; ++i) rows += tableRow(list, model->lines()[i]);
   QString text = u"<table cellspacing=\"0\" cellpadding=\"3\">%1</table>"_s.arg(rows);
   if (shown < all) text += u"<p>The first %1 of %2 lines.</p>"_s.arg(shown).arg(all);

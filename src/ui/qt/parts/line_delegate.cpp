@@ -106,7 +106,7 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   else if (highlights.wins)
     ground = paintGround(*painter, line, theme::winning, winningTint);
   if (line.state.testFlag(QStyle::State_Selected)) ground = line.palette.color(QPalette::Highlight);
-  const auto cells = cellsOf(list_.columns(), text, highlights.matched);
+  const auto cells = cellsOf(list_.columns(), text, highlights.matched, highlights.prize);
   if (cells)
     paintCells(*painter, line, ground, *cells, highlights);
   else

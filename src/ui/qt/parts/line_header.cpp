@@ -26,6 +26,8 @@ double contentWidth(LineField field, const QFontMetricsF& face) {
       return lineBallSide(face);
     case LineField::matched:
       return 13 * letter;
+    case LineField::prize:
+      return 8 * letter;
     case LineField::amount:
     case LineField::figure:
       break;

@@ -15,6 +15,7 @@
 #include <QScrollBar>
 #include <QStyleHints>
 #include <algorithm>
+#include <utility>
 
 namespace tallywick {
 
@@ -75,8 +76,10 @@ QVariant LineListModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole: {
       QString text = shown(lines_[row]).simplified();
       if (standsOut(row)) text += QStringLiteral(", ") + meaning_;
-      const std::string matched = highlightsOf(lines_[row]).matched;
-      if (!matched.empty()) text += QStringLiteral(", matched ") + QString::fromStdString(matched);
+      const LineHighlights found = highlightsOf(lines_[row]);
+      if (!found.matched.empty())
+        text += QStringLiteral(", matched ") + QString::fromStdString(found.matched);
+      if (!found.prize.empty()) text += QStringLiteral(", prize ") + QString::fromStdString(found.prize);
       return text;
     }
     case StandsOutRole:
@@ -140,6 +143,23 @@ void LineList::setSortable(std::function<void(int column)> sortBy) {
 void LineList::reload() {
   if (beforeReload) beforeReload();
   if (LineListModel* lines = lineModel()) lines->reset();
+  fitHeader();
+}
+
+void LineList::fitHeader() {
+  const LineListModel* lines = lineModel();
+  if (header_ == nullptr || lines == nullptr) return;
+  // One of the first lines fits where any does.
+  constexpr std::size_t looked = 8;
+  const std::size_t count = std::min(lines->lines().size(), looked);
+  std::size_t first = 0;
+  while (first < count && !cellsOf(columns(), lines->lines()[first])) ++first;
+  isAllText_ = count > 0 && first == count;
+  const bool begins = first > 0;
+  if (std::exchange(beginsWithText_, begins) == begins) return;
+  header_->setVisible(showsHeader());
+  updateGeometry();
+  updateGeometries();
 }
 
 void LineList::setEmphasis(std::vector<std::string> texts) {
@@ -196,7 +216,8 @@ QSize LineList::lineSize() const {
   };
   int height = static_cast<int>(metrics.height()) + theme::halfGap;
   if (std::ranges::any_of(columns(), hasBalls)) height = std::max(height, lineBallSide(metrics) + 2);
-  return {header_ != nullptr ? std::max(text, header_->neededWidth()) : text, height};
+  const bool hasColumns = header_ != nullptr && !isAllText_;
+  return {hasColumns ? std::max(text, header_->neededWidth()) : text, height};
 }
 
 QSize LineList::sizeOf(int width, int rows) const {

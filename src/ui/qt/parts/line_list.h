@@ -28,6 +28,8 @@ struct LineHighlights {
   bool wins = false;
   /// The text of the column for it: "3 + PowerBall".
   std::string matched;
+  /// The same of the prize: "$7".
+  std::string prize;
 };
 
 /// Shows lines that somebody else owns; they must outlive the model.
@@ -126,10 +128,14 @@ class LineList : public QListView {
  private:
   QSize sizeOf(int width, int rows) const;
   int textWidth(int characters) const;
-  bool showsHeader() const { return header_ != nullptr && !headerHidden_; }
+  bool showsHeader() const { return header_ != nullptr && !headerHidden_ && !beginsWithText_; }
+  /// No header is over lines of text, and where all are text they have no columns' width.
+  void fitHeader();
 
   LineHeader* header_ = nullptr;
   bool headerHidden_ = false;
+  bool beginsWithText_ = false;
+  bool isAllText_ = false;
   int leastRows_ = 3;
   bool extraBalls_ = false;
   Game game_ = Game::powerBall;

@@ -126,7 +126,7 @@ std::size_t cellsIn(LineField field) {
 }
 
 std::optional<std::vector<std::string>> cellsOf(const LineColumns& columns, std::string_view text,
-                                                std::string_view matched) {
+                                                std::string_view matched, std::string_view prize) {
   if (isTable(columns)) {
     const FieldsOfLine fields = piecesOf(text);
     if (fields.size() != columns.size()) return std::nullopt;
@@ -149,6 +149,9 @@ std::optional<std::vector<std::string>> cellsOf(const LineColumns& columns, std:
       case LineField::amount:
         cells.emplace_back(line.marked ? star : std::string_view());
         cells.emplace_back(line.amount);
+        break;
+      case LineField::prize:
+        cells.emplace_back(prize);
         break;
       default:
         cells.emplace_back(matched);

@@ -39,6 +39,7 @@ enum class LineField : std::uint8_t {
   extra,
   amount,   ///< with its mark
   matched,  ///< what a play matched
+  prize,    ///< what it won
   ball,     ///< of a table: a number
   figure    ///< of a table: anything else
 };
@@ -56,9 +57,9 @@ using LineColumns = std::vector<LineColumn>;
 std::size_t cellsIn(LineField field);
 
 /// The cells of a line in the order of the columns; none where the line does not fit them and is text.
-/// `matched` is the text of that column.
+/// `matched` and `prize` are the texts of those columns.
 std::optional<std::vector<std::string>> cellsOf(const LineColumns& columns, std::string_view line,
-                                                std::string_view matched = {});
+                                                std::string_view matched = {}, std::string_view prize = {});
 /// The title of each cell.
 std::vector<std::string> cellTitles(const LineColumns& columns);
 
