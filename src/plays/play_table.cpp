@@ -128,8 +128,13 @@ std::string matchCount(const Match& match, Game game) {
 }
 
 std::string prizeText(const JudgedPlay& play) {
-  if (play.jackpot)
-    return play.jackpotAmount.empty() ? "jackpot" : join("jackpot, amount ", play.jackpotAmount);
+  if (play.jackpot) {
+    const std::string& amount = play.jackpotAmount;
+    // A bare figure is in million dollars; any other text says itself what it is.
+    const bool isFigure = amount.find_first_not_of("0123456789.,") == std::string::npos;
+    if (amount.empty()) return "jackpot";
+    return isFigure ? join("jackpot, $", amount, " million") : join("jackpot, ", amount);
+  }
   if (play.prize) return moneyText(*play.prize * 100);
   return play.match.wins() ? "won, no published prize" : "";
 }

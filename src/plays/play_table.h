@@ -49,7 +49,7 @@ std::string stateText(const JudgedPlay& play);
 std::string matchText(const Match& match, Game game);
 /// "3 numbers", "2 + PowerBall", "Mega Ball"; empty where nothing matches.
 std::string matchCount(const Match& match, Game game);
-/// "$7", "jackpot, amount 300", "won, no published prize"; empty where nothing is won.
+/// "$7", "jackpot, $300 million", "won, no published prize"; empty where nothing is won.
 std::string prizeText(const JudgedPlay& play);
 /// What matched the Double Play numbers, and whether that wins; empty where they are not known.
 std::string doublePlayText(const JudgedPlay& play);

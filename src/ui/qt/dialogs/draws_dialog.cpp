@@ -165,7 +165,7 @@ QBoxLayout* DrawsDialog::actionRows() {
 void DrawsDialog::addAmounts(QBoxLayout& column) {
   auto* name = heading(this, u"Amounts of the &newest draws:"_s);
   name->setBuddy(amounts_);
-  amounts_->setHorizontalHeaderLabels({u"Date"_s, u"Amount"_s, u"Marks"_s});
+  amounts_->setHorizontalHeaderLabels({u"Date"_s, u"Amount ($ million)"_s, u"Marks"_s});
   for (const int each : {amountColumn, marksColumn})
     amounts_->horizontalHeaderItem(each)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   amounts_->setAccessibleName(u"Amounts of the newest draws"_s);

@@ -37,7 +37,8 @@ TypedDrawDialog::TypedDrawDialog(const DataFolder& folder, const GameInfo& game,
     addField(*form, TypedField::doublePlay, u"D&ouble Play:"_s,
              u"Five white balls and the PowerBall; empty if not known"_s);
   }
-  addField(*form, TypedField::amount, u"&Amount:"_s, u"As you want to see it; empty if not known"_s);
+  addField(*form, TypedField::amount, u"&Amount:"_s,
+           u"In million dollars, such as 150; empty if not known"_s);
   addField(*form, TypedField::marks, u"Mar&ks:"_s, u"How many tickets won the amount; empty for none"_s);
   fields_.at(TypedField::date).edit->setText(toQString(displayDate(proposed)));
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/pages/drawn_lists.h"
 
+#include "core/text.h"
 #include "core/words.h"
 #include "frames/game_frames.h"
 #include "plays/judged_plays.h"
@@ -31,7 +32,7 @@ std::string titleOf(LineField field, Game game) {
     case LineField::extra:
       return std::string(extraBallName(game));
     case LineField::amount:
-      return "Amount";
+      return join("Amount", amountUnit);
     case LineField::matched:
       return "Matched";
     case LineField::prize:

@@ -44,6 +44,9 @@ enum class LineField : std::uint8_t {
   figure    ///< of a table: anything else
 };
 
+/// Behind the title of a column of amounts: record books have "40" for forty million dollars.
+inline constexpr std::string_view amountUnit = " ($ million)";
+
 struct LineColumn {
   LineField field;
   std::string title;
