@@ -152,11 +152,9 @@ std::string chartInWords(const Chart& chart) {
 }
 
 std::string barMeaning(Color color) {
-  constexpr std::array<std::string_view, barColors.size()> draws = {"second", "third", "fourth", "fifth",
-                                                                    "sixth"};
   const auto found = std::find(barColors.begin(), barColors.end(), color);
-  if (found == barColors.end()) return "no repeat on the summary";
-  return join("also in the ", draws.at(static_cast<std::size_t>(found - barColors.begin())), " newest draw");
+  if (found == barColors.end()) return join("not in the ", std::to_string(barColors.size()), " draws before");
+  return join("also ", inFigures(static_cast<std::size_t>(found - barColors.begin()) + 1, "draw"), " before");
 }
 
 void Command3_Click(DrawsPage& page, const DataFolder& folder) {

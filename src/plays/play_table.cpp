@@ -144,6 +144,24 @@ std::string doublePlayText(const JudgedPlay& play) {
   return join(matchText(*play.doublePlay, Game::powerBall), winsDoublePlay(play) ? ": won" : "");
 }
 
+std::vector<std::string> playCellTitles(Game game) {
+  std::vector<std::string> titles = {"Draw", "Number 1", "Number 2", "Number 3", "Number 4", "Number 5"};
+  titles.emplace_back(extraBallName(game));
+  for (const char* title : {"State", "Matched", "Prize ($)"}) titles.emplace_back(title);
+  if (game == Game::powerBall) titles.emplace_back("With Double Play");
+  return titles;
+}
+
+std::vector<std::string> playCells(const JudgedPlay& play, Game game) {
+  std::vector<std::string> cells = {play.date};
+  cells.insert(cells.end(), play.white.begin(), play.white.end());
+  cells.insert(cells.end(), {play.extra, stateText(play),
+                             play.state == DrawState::drawn ? matchText(play.match, game) : "",
+                             play.prize && !play.jackpot ? std::to_string(*play.prize) : prizeText(play)});
+  if (game == Game::powerBall) cells.push_back(doublePlayText(play));
+  return cells;
+}
+
 std::string moneyText(std::int64_t cents) {
   std::string text = grouped(static_cast<std::uint64_t>(cents / 100));
   if (cents % 100 != 0) text += join(".", twoDigits(static_cast<int>(cents % 100)));

@@ -54,6 +54,11 @@ std::string prizeText(const JudgedPlay& play);
 /// What matched the Double Play numbers, and whether that wins; empty where they are not known.
 std::string doublePlayText(const JudgedPlay& play);
 
+/// The table for a spreadsheet: the titles, and of a play a cell for each of its numbers, its date as the
+/// record has it, and its prize as a plain number of dollars where it is one.
+std::vector<std::string> playCellTitles(Game game);
+std::vector<std::string> playCells(const JudgedPlay& play, Game game);
+
 /// "$1,000,000" for whole dollars, else "$2.50".
 std::string moneyText(std::int64_t cents);
 

@@ -68,6 +68,11 @@ TEST_F(MyPlays, AreInOneTableWithTheirSumsByYear) {
                           "Fri 01-02-2026|drawn|10 20 30|$7|10 20 30: won",
                           "Tue 12-30-2025|drawn, left among the next plays|01 02 03|$7|",
                           "Sat 12-27-2025|drawn|the PowerBall|$4|"));
+  const std::vector<std::string> cells =
+      playCells(playsIn(judgement(), PlayFilter::all).at(2), Game::powerBall);
+  EXPECT_EQ(cells.size(), playCellTitles(Game::powerBall).size());
+  EXPECT_THAT(cells, ElementsAre("01-02-2026", "10", "20", "30", testing::_, testing::_, testing::_, "drawn",
+                                 "10 20 30", "7", "10 20 30: won"));
   EXPECT_EQ(playsIn(judgement(), PlayFilter::waiting).size(), 2U);
   EXPECT_EQ(playsIn(judgement(), PlayFilter::won).size(), 3U);
   const std::vector<YearSums> years = sumsByYear(judgement(), 250);

@@ -76,8 +76,13 @@ void DrawsView::drawsChanged() {
 
 void DrawsView::showNotes() {
   QStringList chart;
-  if (form_.frames.Frame11.visible())
-    chart += u"This chart is of PowerBall; Mega Millions has none. See the Number Table."_s;
+  const bool isMegaMillions = form_.frames.Frame11.visible();
+  if (isMegaMillions) {
+    chart +=
+        u"Mega Millions has no chart; this one is PowerBall's. How often each Mega Millions number came is "
+        "in the Number Table."_s;
+  }
+  toNumbers_->setVisible(isMegaMillions);
   if (isChartOld_) chart += u"The draws have changed since: press its button for a new one."_s;
   chartNote_->setText(chart.join(u'\n'));
   chartNote_->setVisible(!chart.isEmpty());
@@ -94,10 +99,15 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   buttons->addWidget(lastHundred);
   buttons->addWidget(doublePlay);
   buttons->addStretch();
-  chartNote_ = heading(box);
-  chartNote_->setTextFormat(Qt::PlainText);
+  chartNote_ = sentences(box);
+  chartNote_->setFont(theme::headingFont(chartNote_->font()));
+  toNumbers_ = new QPushButton(u"Show the Nu&mber Table"_s, box);
+  connect(toNumbers_, &QPushButton::clicked, this, [this] { setCurrentWidget(numbers_); });
+  auto* note = row();
+  note->addWidget(chartNote_, 1);
+  note->addWidget(toNumbers_, 0, Qt::AlignTop);
   auto* column = columnIn(box);
-  column->addWidget(chartNote_);
+  column->addLayout(note);
   column->addWidget(view, 1);
   column->addLayout(buttons);
   view->setWords([](const Chart& chart) { return toQString(chartInWords(chart)); },

@@ -7,6 +7,7 @@
 #include <string>
 
 class QLabel;
+class QPushButton;
 
 namespace tallywick {
 
@@ -33,6 +34,7 @@ class DrawsView : public QTabWidget {
   const MainForm& form_;
   NumberTableView* numbers_;
   QLabel* chartNote_ = nullptr;
+  QPushButton* toNumbers_ = nullptr;
   QLabel* picturesNote_ = nullptr;
   bool isChartOld_ = false;
   bool arePicturesOld_ = false;

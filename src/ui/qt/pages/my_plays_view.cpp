@@ -47,49 +47,14 @@ QPushButton* button(QBoxLayout& row, const QString& text, const QString& tip) {
   return made;
 }
 
-QStringList cellsOf(const QAbstractItemModel& plays, int row) {
-  QStringList cells;
-  for (int column = 0; column < plays.columnCount(); ++column)
-    cells += plays.index(row, column).data().toString();
-  return cells;
-}
-
-QStringList titlesOf(const QAbstractItemModel& plays) {
-  QStringList titles;
-  for (int column = 0; column < plays.columnCount(); ++column)
-    titles += plays.headerData(column, Qt::Horizontal).toString();
-  return titles;
-}
-
-/// The rows in their order with a tab between cells, of a selection or all, each with its end.
-QString linesOf(const QAbstractItemModel& plays, const QItemSelectionModel* selection) {
-  QString text;
-  for (int row = 0; row < plays.rowCount(); ++row) {
-    if (selection == nullptr || selection->isRowSelected(row))
-      text += cellsOf(plays, row).join(u'\t') + u'\n';
+/// The plays with each number in a field of its own.
+std::string commaSeparated(const QSortFilterProxyModel& sorted, const PlayTableModel& plays, Game game) {
+  std::string text = csvLine(playCellTitles(game)) + "\r\n";
+  for (int row = 0; row < sorted.rowCount(); ++row) {
+    const int play = sorted.mapToSource(sorted.index(row, 0)).row();
+    text.append(csvLine(playCells(plays.playAt(play), game))).append("\r\n");
   }
   return text;
-}
-
-std::string commaSeparated(const QAbstractItemModel& plays) {
-  std::string text;
-  for (int row = -1; row < plays.rowCount(); ++row) {
-    std::vector<std::string> cells;
-    for (const QString& cell : row < 0 ? titlesOf(plays) : cellsOf(plays, row)) cells.push_back(toText(cell));
-    text.append(csvLine(cells)).append("\r\n");
-  }
-  return text;
-}
-
-QString tableOf(const QAbstractItemModel& plays) {
-  const auto line = [](const QString& tag, const QStringList& cells) {
-    QString text;
-    for (const QString& cell : cells) text += u"<%1 align=\"left\">%2</%1>"_s.arg(tag, cell.toHtmlEscaped());
-    return u"<tr>%1</tr>"_s.arg(text);
-  };
-  QString rows = line(u"th"_s, titlesOf(plays));
-  for (int row = 0; row < plays.rowCount(); ++row) rows += line(u"td"_s, cellsOf(plays, row));
-  return u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(rows);
 }
 
 QString sumText(const YearSums& sums, int column) {
@@ -214,10 +179,10 @@ void MyPlaysView::addButtons(QBoxLayout& column) {
 }
 
 void MyPlaysView::addMenu() {
-  addViewActions(*table_, actions_.runner(),
-                 {[this] { return linesOf(*sorted_, table_->selectionModel()); },
-                  [this] { return toText(linesOf(*sorted_, nullptr)); },
-                  [this] { return commaSeparated(*sorted_); }, [this] { return tableOf(*sorted_); }});
+  ViewTexts texts = tableTexts(*table_);
+  texts.commaSeparated = [this] { return commaSeparated(*sorted_, *model_, actions_.game().game); };
+  addViewActions(*table_, actions_.runner(), texts);
+  addViewActions(*sums_, actions_.runner(), tableTexts(*sums_));
   auto* line = new QAction(table_);
   line->setSeparator(true);
   table_->addAction(line);

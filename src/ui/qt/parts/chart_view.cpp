@@ -5,6 +5,7 @@
 #include "ui/qt/parts/focus_style.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
+#include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/wording.h"
 
 #include <QAction>
@@ -61,6 +62,7 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table_->horizontalHeader()->setStretchLastSection(true);
   addActions(runner);
+  addViewActions(*table_, runner, tableTexts(*table_));
   draw();
 }
 

@@ -18,6 +18,7 @@
 #include <QGuiApplication>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTableView>
 #include <QTextDocument>
 #include <algorithm>
 #include <limits>
@@ -96,7 +97,53 @@ QString tableRow(const LineList& list, std::string_view line) {
   return u"<tr>%1</tr>"_s.arg(row);
 }
 
+QStringList cellsOf(const QAbstractItemModel& rows, int row) {
+  QStringList cells;
+  for (int column = 0; column < rows.columnCount(); ++column)
+    cells += row < 0 ? rows.headerData(column, Qt::Horizontal).toString()
+                     : rows.index(row, column).data().toString();
+  return cells;
+}
+
+/// The rows in their order, of a selection or all, each with its end.
+QString linesOf(const QAbstractItemModel& rows, const QItemSelectionModel* selection) {
+  QString text;
+  for (int row = 0; row < rows.rowCount(); ++row) {
+    if (selection == nullptr || selection->rowIntersectsSelection(row, {}))
+      text += cellsOf(rows, row).join(u'\t') + u'\n';
+  }
+  return text;
+}
+
+/// Behind a line of titles.
+std::string commaSeparated(const QAbstractItemModel& rows) {
+  std::string text;
+  for (int row = -1; row < rows.rowCount(); ++row) {
+    std::vector<std::string> cells;
+    for (const QString& cell : cellsOf(rows, row)) cells.push_back(toText(cell));
+    text.append(csvLine(cells)).append("\r\n");
+  }
+  return text;
+}
+
+QString htmlOf(const QAbstractItemModel& rows) {
+  QString text;
+  for (int row = -1; row < rows.rowCount(); ++row) {
+    QString cells;
+    for (const QString& cell : cellsOf(rows, row))
+      cells += tableCell(row < 0 ? u"th"_s : u"td"_s, Qt::AlignLeft, cell);
+    text += u"<tr>%1</tr>"_s.arg(cells);
+  }
+  return u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(text);
+}
+
 }  // namespace
+
+ViewTexts tableTexts(QTableView& table) {
+  return {[&table] { return linesOf(*table.model(), table.selectionModel()); },
+          [&table] { return toText(linesOf(*table.model(), nullptr)); },
+          [&table] { return commaSeparated(*table.model()); }, [&table] { return htmlOf(*table.model()); }};
+}
 
 void addViewActions(QAbstractItemView& view, HandlerRunner& runner, const ViewTexts& texts) {
   const auto add = [&view, &runner](const QString& text, const QKeySequence& key,

@@ -7,6 +7,7 @@
 #include <string>
 
 class QAbstractItemView;
+class QTableView;
 
 namespace tallywick {
 
@@ -24,6 +25,10 @@ struct ViewTexts {
   /// The same as a table of HTML.
   std::function<QString()> table;
 };
+
+/// What a table shows, with a tab between the cells of a row; of a selection its whole rows. `table` outlives
+/// what is returned.
+ViewTexts tableTexts(QTableView& table);
 
 /// Adds the actions to the view's context menu.
 void addViewActions(QAbstractItemView& view, HandlerRunner& runner, const ViewTexts& texts);
