@@ -10,6 +10,7 @@
 #include "core/sequential_reader.h"
 #include "core/text.h"
 #include "core/words.h"
+#include "update/public_exports.h"
 
 #include <algorithm>
 #include <array>
@@ -120,6 +121,21 @@ std::string summaryOf(const GameInfo& game, const exports::HistoryReport& histor
                  displayDate(history.missing.back()));
   }
   return text + ".";
+}
+
+std::string fetchFailure(const GameFetch& fetch) {
+  constexpr std::string_view head = "The transfer failed: ";
+  std::string text = fetch.error;
+  if (text.starts_with(head)) text.erase(0, head.size());
+  const std::string address = join("\"", fetch.address, "\"");
+  const std::size_t at = text.find(address);
+  const std::size_t scheme = fetch.address.find("://");
+  if (at == std::string::npos || scheme == std::string::npos) return sentence(text);
+  const std::size_t begin = scheme + 3;
+  const std::string host = fetch.address.substr(begin, fetch.address.find_first_of("/?", begin) - begin);
+  const bool isServer = text.substr(0, at).ends_with(": ");
+  text.replace(at, address.size(), join(isServer ? "" : "the draws at ", host));
+  return sentence(text);
 }
 
 }  // namespace tallywick

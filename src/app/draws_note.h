@@ -15,6 +15,7 @@ namespace tallywick {
 
 class Clock;
 class DataFolder;
+struct GameFetch;
 
 /// A sentence for the player: which draw is not published yet, or when the next one takes place.
 std::string drawsNote(const GameInfo& game, const DataFolder& folder, const Clock& clock);
@@ -32,5 +33,8 @@ std::string drawsAgeNote(const GameInfo& game, const DataFolder& folder, const C
 
 /// How many draws there are, from when to when, and which scheduled ones are missing; a line each.
 std::string summaryOf(const GameInfo& game, const exports::HistoryReport& history);
+
+/// Why a fetch has failed, with the host in the place of the whole address.
+std::string fetchFailure(const GameFetch& fetch);
 
 }  // namespace tallywick

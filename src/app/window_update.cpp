@@ -52,7 +52,7 @@ void Application::fetchThenUpdate(const std::vector<const GameInfo*>& games,
     if (!exports.bringDraws() && std::ranges::none_of(games, hasMoves)) {
       exports.takeInto(folder);
       for (const GameFetch& result : exports.results()) {
-        if (!result.error.empty()) throw std::runtime_error(result.error);
+        if (!result.error.empty()) throw std::runtime_error(fetchFailure(result));
       }
       showNothingNew(games, exports.remarks());
       return;
@@ -83,7 +83,8 @@ bool Application::fetchAll(FetchedExports& exports, const std::vector<const Game
     const GameInfo& game = *games[fetched];
     status.setPanel(1, join("Fetching the draws of ", game.name));
     try {
-      const std::string why = exports.fetch({game.game, serverOf(game.game)}).error;
+      const GameFetch& fetch = exports.fetch({game.game, serverOf(game.game)});
+      const std::string why = fetch.error.empty() ? "" : fetchFailure(fetch);
       status.setPanel(1, "");
       if (why.empty()) {
         ++fetched;

@@ -153,7 +153,8 @@ TEST_F(Portal, UpdatesOnlyWhatHasComeAndIsNew) {
   update();
   EXPECT_EQ(boxes, std::vector<std::string>{
                        "The draws of Mega Millions could not be fetched. Nothing was changed."});
-  EXPECT_TRUE(boxText.contains(QStringLiteral("the server does not have"))) << boxText.toStdString();
+  EXPECT_TRUE(boxText.contains(QStringLiteral("The server does not have the draws at 127.0.0.1")))
+      << boxText.toStdString();
   EXPECT_EQ(scratch.snapshot(), empty) << "one game alone has come";
   EXPECT_FALSE(widget<QPushButton>("Form1", "Command2").isHidden());
 

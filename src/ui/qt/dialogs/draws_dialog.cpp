@@ -45,7 +45,7 @@ QString linesOf(const exports::MergeReport& report, Game game) {
 
 QString resultOf(const GameFetch& fetch) {
   const QString name = toQString(infoOf(fetch.game).name);
-  if (!fetch.error.empty()) return u"%1: %2"_s.arg(name, toQString(fetch.error));
+  if (!fetch.error.empty()) return u"%1: %2"_s.arg(name, toQString(fetchFailure(fetch)));
   if (fetch.isUnchanged) return u"%1: nothing new"_s.arg(name);
   return u"%1: %2 draws fetched\n%3"_s.arg(name, QString::number(fetch.report.draws),
                                            linesOf(fetch.report, fetch.game));
@@ -153,11 +153,13 @@ QBoxLayout* DrawsDialog::actionRows() {
   rows->setSpacing(theme::gap);
   rows->addLayout(line);
   address_ = addressField(u"Address of this game's draws"_s);
-  auto* how = sentences(this);
-  how->setText(howToGetFiles);
-  how->setBuddy(address_);
-  rows->addWidget(how);
-  rows->addWidget(address_);
+  address_->setToolTip(howToGetFiles);
+  auto* name = new QLabel(u"To get a file, &open in a web browser:"_s);
+  name->setBuddy(address_);
+  auto* from = row();
+  from->addWidget(name);
+  from->addWidget(address_, 1);
+  rows->addLayout(from);
   rows->addLayout(typed);
   return rows;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/dialogs/real_book.h"
 
+#include "app/draws_note.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/outside.h"
@@ -36,7 +37,7 @@ Outcome fetchInto(const fs::path& folder, const Settings& settings, QWidget* par
     for (const GameFetch& one : setup::makeFetchedFolder(book, clock, settings, {}, &dialog)) {
       if (one.error.empty()) continue;
       isMade = false;
-      why += u"\n\n%1: %2"_s.arg(toQString(infoOf(one.game).name), toQString(one.error));
+      why += u"\n\n%1: %2"_s.arg(toQString(infoOf(one.game).name), toQString(fetchFailure(one)));
     }
     return isMade ? Outcome::made : Outcome::failed;
   } catch (const TransferCancelled&) {
@@ -63,6 +64,12 @@ bool makeBookFromExports(const fs::path& folder, const Settings& settings, QWidg
                     u"The draws could not be fetched, so no record book was made."_s + why,
                     QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        u"Take Files… takes the files of both games' draws. To get them, open these addresses in a web "
+        u"browser, "
+        "on any computer:\n%1\n%2"_s.arg(toQString(settings.powerBallDraws),
+                                         toQString(settings.megaMillionsDraws)));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     const auto* again = box.addButton(u"&Try Again"_s, QMessageBox::AcceptRole);
     const auto* files = box.addButton(u"Take &Files…"_s, QMessageBox::ActionRole);
     box.addButton(u"&Back"_s, QMessageBox::RejectRole);

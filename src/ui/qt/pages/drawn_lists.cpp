@@ -162,7 +162,7 @@ void highlightCommon(LineList& list, PlayJudge& judge, const std::optional<Compa
     match.extra = play.extra == draw->extra;
     const bool isItsOwn = play.date == draw->date;
     return LineHighlights{match.whites, match.extra, isItsOwn && match.wins(), matchCount(match, list.game()),
-                          isItsOwn ? plays->of(play, list.game()).prize : "not its draw"};
+                          isItsOwn ? plays->of(play, list.game()).prize : "other date"};
   });
 }
 

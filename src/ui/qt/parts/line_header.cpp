@@ -27,7 +27,7 @@ double contentWidth(LineField field, const QFontMetricsF& face) {
     case LineField::matched:
       return 13 * letter;
     case LineField::prize:
-      return 8 * letter;
+      return 10 * letter;
     case LineField::amount:
     case LineField::figure:
       break;
