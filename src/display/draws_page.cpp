@@ -151,7 +151,8 @@ std::string chartInWords(const Chart& chart) {
               " draws");
 }
 
-std::string barMeaning(Color color) {
+std::string barMeaning(Color color, bool isExtraBall) {
+  if (isExtraBall) return "the extra ball, which has no colour";
   const auto found = std::find(barColors.begin(), barColors.end(), color);
   if (found == barColors.end()) return join("not in the ", std::to_string(barColors.size()), " draws before");
   return join("also ", inFigures(static_cast<std::size_t>(found - barColors.begin()) + 1, "draw"), " before");

@@ -42,8 +42,9 @@ void drawStartUpChart(DrawsPage& page, const ButtonRow<6>& frequent, const DataF
 
 /// What the chart counts, in a sentence that names its game and numbers; empty where it has no bars.
 std::string chartInWords(const Chart& chart);
-/// What a bar's colour says of its number: the colour that the number has on the summary.
-std::string barMeaning(Color color);
+/// What a bar's colour says of its number: the colour that the number has on the summary, where the extra
+/// ball has none.
+std::string barMeaning(Color color, bool isExtraBall);
 
 /// Shows the newest draw of PowerBall, of Double Play and of Mega Millions as pictures.
 void Command3_Click(DrawsPage& page, const DataFolder& folder);

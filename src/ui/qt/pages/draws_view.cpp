@@ -79,8 +79,9 @@ void DrawsView::showNotes() {
   const bool isMegaMillions = form_.frames.Frame11.visible();
   if (isMegaMillions) {
     chart +=
-        u"Mega Millions has no chart; this one is PowerBall's. How often each Mega Millions number came is "
-        "in the Number Table."_s;
+        u"Mega Millions has no chart: here PowerBall draws are counted. How often each Mega Millions number "
+        u"came "
+        "is in the Number Table."_s;
   }
   toNumbers_->setVisible(isMegaMillions);
   if (isChartOld_) chart += u"The draws have changed since: press its button for a new one."_s;
@@ -111,7 +112,7 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   column->addWidget(view, 1);
   column->addLayout(buttons);
   view->setWords([](const Chart& chart) { return toQString(chartInWords(chart)); },
-                 [](Color color) { return toQString(barMeaning(color)); });
+                 [](Color color, bool isExtraBall) { return toQString(barMeaning(color, isExtraBall)); });
   binding.bind(page.Draw1, *view);
   binding.bind(page.Command52, *lastHundred, withMnemonic('L'));
   binding.bind(page.Command27, *doublePlay, withMnemonic('B'));

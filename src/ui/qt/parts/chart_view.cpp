@@ -67,7 +67,7 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
 }
 
 void ChartView::setWords(std::function<QString(const Chart&)> explain,
-                         std::function<QString(Color)> meaningOf) {
+                         std::function<QString(Color, bool isLast)> meaningOf) {
   explain_ = std::move(explain);
   meaningOf_ = std::move(meaningOf);
 }
@@ -136,7 +136,8 @@ void ChartView::fillTable() {
     const QColor color = theme::toQColor(bar.color, palette());
     QPixmap swatch(2 * theme::gap, 2 * theme::gap);
     swatch.fill(color);
-    auto* meaning = new QTableWidgetItem(QIcon(swatch), meaningOf_ ? meaningOf_(bar.color) : QString());
+    auto* meaning = new QTableWidgetItem(
+        QIcon(swatch), meaningOf_ ? meaningOf_(bar.color, row + 1 == table_->rowCount()) : QString());
     auto* count = new QTableWidgetItem(QString::number(bar.value));
     count->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table_->setItem(row, 0, new QTableWidgetItem(toQString(bar.label)));

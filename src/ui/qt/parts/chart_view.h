@@ -22,7 +22,8 @@ class ChartView : public QWidget {
   explicit ChartView(HandlerRunner& runner, QWidget* parent = nullptr);
 
   /// What is said of a chart under its title, and of a bar's colour in the table; set before the first chart.
-  void setWords(std::function<QString(const Chart&)> explain, std::function<QString(Color)> meaningOf);
+  void setWords(std::function<QString(const Chart&)> explain,
+                std::function<QString(Color, bool isLast)> meaningOf);
 
   void show(const Chart& chart);
   /// The title and each number with its count, for screen readers.
@@ -45,7 +46,7 @@ class ChartView : public QWidget {
   QCPTextElement* heading_;
   QTableWidget* table_;
   std::function<QString(const Chart&)> explain_;
-  std::function<QString(Color)> meaningOf_;
+  std::function<QString(Color, bool isLast)> meaningOf_;
   QString title_;
   QString explanation_;
   std::vector<Chart::Bar> bars_;
