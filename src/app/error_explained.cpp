@@ -27,11 +27,10 @@ constexpr std::string_view mendDraws =
     "game "
     "again. If it does not help, bring the file back from a backup (Backup…).";
 constexpr std::string_view mendPlays =
-    "Bring the plays back: in My Plays, Bring Back… takes them from the dated copies beside this file; "
-    "Backup… "
-    "restores the whole record book. Or mend the record in a text editor: a play is one line of eight fields "
-    "with "
-    "commas between them. Update does not mend plays.";
+    "Mend the record in a text editor: a play is one line of eight fields with commas between them. Or put "
+    "the "
+    "newest dated copy, which has this file's name with a date and a time, in its place; or restore a backup "
+    "(Backup…). Update does not mend plays.";
 constexpr std::string_view mendAmounts =
     "Mend the record in a text editor: month, day, year, amount and a number of marks, with commas between "
     "them. "

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/pages/play_actions.h"
 
+#include "app/error_explained.h"
 #include "app/main_form.h"
 #include "core/clock.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/form_window.h"
@@ -44,6 +46,8 @@ void PlayActions::attempt(const std::function<void()>& action) {
       action();
     } catch (const LockedByAnother&) {
       throw std::runtime_error("Another program is changing the play files; please try again.");
+    } catch (const RuntimeError& error) {
+      throw std::runtime_error(join(error.description(), ".\n\n", errorExplained(error)));
     }
     fillPlayedPlays(form_.winnings, folder(), game());
     fillCommittedPlays(form_.winnings, folder(), game());
