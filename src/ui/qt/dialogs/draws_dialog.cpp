@@ -232,7 +232,8 @@ void DrawsDialog::showAmounts() {
   }
   // An amount in words, such as $1.2 Billion, has room.
   amounts_->resizeColumnsToContents();
-  amounts_->setColumnWidth(amountColumn, 16 * amounts_->fontMetrics().averageCharWidth());
+  amounts_->setColumnWidth(amountColumn, std::max(amounts_->columnWidth(amountColumn),
+                                                  16 * amounts_->fontMetrics().averageCharWidth()));
   save_->setEnabled(false);
 }
 
