@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QTabWidget>
+#include <utility>
 
 namespace tallywick::test {
 namespace {
@@ -27,6 +28,21 @@ TEST_F(Keyboard, EntriesWithoutAnAddressAreGrey) {
   FormWindow& main = open("Form1");
   EXPECT_FALSE(main.findChild<QAction*>(QStringLiteral("mnuGameInfo"))->isEnabled());
   EXPECT_TRUE(main.findChild<QAction*>(QStringLiteral("mnuQZRHelp"))->isEnabled());
+}
+
+TEST_F(Keyboard, SavesThePagesListWhereverTheFocusIs) {
+  FormWindow& main = open("Form1");
+  QString title;
+  for (const char* name : {"Command7", "List4"}) {
+    QApplication::setActiveWindow(&main);
+    widget<QWidget>("Form1", name).setFocus();
+    QTimer::singleShot(0, [&title] {
+      title = QApplication::activeModalWidget()->windowTitle();
+      QApplication::activeModalWidget()->close();
+    });
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(std::exchange(title, {}), QStringLiteral("Save the Lines")) << name;
+  }
 }
 
 TEST_F(Keyboard, MakesAPlayWithDigitsSpaceAndMnemonics) {

@@ -8,6 +8,7 @@
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_ball.h"
+#include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/qt_transfer_window.h"
@@ -105,6 +106,13 @@ TEST(Lists, AreSavedAsTextAndInColumns) {
   EXPECT_EQ(asCommaSeparated(list),
             "Date,Number 1,Number 2,Number 3,Number 4,Number 5,PowerBall,Mark,Amount\r\n"
             "11-18-2026,06,08,30,51,55,13,*,40\r\n\"06, 4 draws before:\",,,,,,,,\r\n");
+  TextLines texts;
+  texts.add(" 11-18-2026   Winning Ticket... ");
+  LineList verdicts(texts);
+  verdicts.showColumns(list.columns(), Game::powerBall);
+  verdicts.reload();
+  EXPECT_TRUE(verdicts.header()->isHidden());
+  EXPECT_EQ(asCommaSeparated(verdicts), "11-18-2026   Winning Ticket...\r\n");
   const QString table = asTable(list, 1);
   EXPECT_TRUE(table.contains(QStringLiteral("<td align=\"left\">06&nbsp;08&nbsp;30&nbsp;51&nbsp;55</td>")))
       << table.toStdString();

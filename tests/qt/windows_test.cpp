@@ -388,6 +388,13 @@ TEST_F(Windows, DoublePlayIsAskedForOnceAndThenHasAButton) {
     (*std::ranges::find(buttons, QLatin1String(text), &QToolButton::text))->click();
     EXPECT_EQ(frames.Frame6.visible(), QLatin1String(text) == u"Show Double Play");
   }
+  widget<QPushButton>("Form1", "Command4").click();
+  platform.onShowDoublePlay(true);
+  const auto& selection = widget<QPushButton>("Form1", "Command48");
+  EXPECT_EQ(selection.text().remove(u'&'), QStringLiteral("Mega Millions Play Selection"));
+  EXPECT_EQ(selection.toolTip(), QStringLiteral("Opens the play selection of PowerBall, the game on show"));
+  widget<QPushButton>("Form1", "Command4").click();
+  EXPECT_EQ(selection.toolTip(), selection.text().remove(u'&'));
 }
 
 TEST_F(Windows, SayWhereChartAndPicturesAreOlderThanTheDraws) {
@@ -513,6 +520,15 @@ TEST_F(Windows, EverySearchTakesATypedNumber) {
     EXPECT_FALSE(platform.ended()) << name;
   }
   EXPECT_EQ(static_cast<Button&>(*application.find("Form1")->find("Command23")).caption(), "23");
+  click(*application.find("Form1")->find("Command46"));
+  window("Form1").binding().showChanges();
+  const auto& counted = static_cast<const ComboBox&>(*application.find("Form1")->find("Combo9")).items();
+  QStringList listed;
+  for (const auto* list : window("Form1").findChildren<LineList*>()) {
+    if (list->accessibleName() == u"Draws that were found" && !list->parentWidget()->isHidden())
+      listed += QString::number(list->model()->rowCount());
+  }
+  EXPECT_EQ(listed, QStringList(QString::number(counted.size())));
 }
 
 TEST_F(Windows, AKeyOnTheSplashEndsTheProgram) {
