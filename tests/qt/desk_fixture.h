@@ -35,6 +35,7 @@ class Desktop : public testing::Test {
         return;
       }
       if (application.find("Form1") == nullptr) application.showMainWindow();
+      window("Form1").finish();
       if (name == "Form3") application.openSelection(powerBall);
       if (name == "Form5") application.openSelection(megaMillions);
       if (name == "frmAbout") click(*application.find("Form1")->find("mnuAbout"));

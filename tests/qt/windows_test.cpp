@@ -216,6 +216,22 @@ TEST_F(Windows, CloseBeforeTheFormsTheyShow) {
   EXPECT_TRUE(binding->isReleased());
 }
 
+TEST_F(Windows, MakeAPageWhenItIsFirstShownOrBeforeTheFirstPress) {
+  platform.run([this] { application.showMainWindow(); });
+  FormWindow& main = window("Form1");
+  EXPECT_EQ(main.findChild<LineList*>(QStringLiteral("List8")), nullptr);
+  widget<QTabWidget>("Form1", "SSTab1").setCurrentIndex(1);
+  EXPECT_TRUE(widget<LineList>("Form1", "List8").isVisible());
+  EXPECT_EQ(main.findChild<LineList*>(QStringLiteral("List14")), nullptr);
+  widget<QPushButton>("Form1", "Command8").click();
+  EXPECT_TRUE(widget<LineList>("Form1", "List14").isVisible());
+  EXPECT_NE(main.findChild<QWidget*>(QStringLiteral("Draw1")), nullptr);
+  const QWidget* last = main.previousInFocusChain();
+  while ((last->focusPolicy() & Qt::TabFocus) == 0) last = last->previousInFocusChain();
+  EXPECT_EQ(last->parentWidget(), widget<QWidget>("Form1", "Frame4").parentWidget())
+      << "the corner of the strip comes behind every page";
+}
+
 TEST_F(Windows, PaintInTheMiddleOfAHandlerButTakeNoInput) {
   FormWindow& main = open("Form1");
   auto* next = main.findChild<QPushButton*>(QStringLiteral("Command8"));

@@ -36,7 +36,13 @@ void Binding::enter(Control& control, QObject& widget, std::function<void()> sho
   bound_.at(&control).show();
 }
 
+void Binding::partMade() {
+  --awaited_;
+  requireEveryControl();
+}
+
 void Binding::requireEveryControl() const {
+  if (awaited_ > 0) return;
   std::string missing;
   for (const Control* control : form_->controls()) {
     if (!bound_.contains(control)) missing += " " + control->name();
@@ -47,10 +53,11 @@ void Binding::requireEveryControl() const {
 void Binding::showChanges() {
   if (form_ == nullptr) return;
   for (const Control* control : form_->takeChanges()) {
-    Bound& bound = bound_.at(control);
-    if (bound.widget == nullptr) continue;
-    bound.show();
-    if (auto* widget = qobject_cast<QWidget*>(bound.widget);
+    // What has no widget yet will be shown as it is then.
+    const auto found = bound_.find(control);
+    if (found == bound_.end() || found->second.widget == nullptr) continue;
+    found->second.show();
+    if (auto* widget = qobject_cast<QWidget*>(found->second.widget);
         widget != nullptr && announced_.contains(control)) {
       announce(*widget);
     }

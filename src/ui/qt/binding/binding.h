@@ -60,8 +60,12 @@ class Binding : public QObject {
   /// A change of this control is read out by screen readers.
   void announceChangesOf(const Control& control) { announced_.insert(&control); }
 
-  /// Raises std::logic_error that names the controls which no widget shows.
+  /// Raises std::logic_error that names the controls which no widget shows; nothing as long as parts of the
+  /// window are to come.
   void requireEveryControl() const;
+  /// A part of the window is made later, and binds its controls then.
+  void awaitPart() { ++awaited_; }
+  void partMade();
 
   /// Copies the controls that changed to their widgets.
   void showChanges();
@@ -100,6 +104,7 @@ class Binding : public QObject {
   const DataFolder& folder_;
   std::unordered_map<const Control*, Bound> bound_;
   std::unordered_set<const Control*> announced_;
+  int awaited_ = 0;
 };
 
 }  // namespace tallywick

@@ -33,19 +33,20 @@ void resizeTo(QWidget& window, const std::string& size) {
   if (sides.size() == 2) window.resize(sides[0].toInt(), sides[1].toInt());
 }
 
-void open(Application& application, const Options& options) {
+void open(Application& application, const QtPlatform& platform, const Options& options) {
   if (options.window == "frmSplash") {
     application.showSplash();
     return;
   }
   application.showMainWindow();
+  platform.windowOf(*application.find("Form1"))->finish();
   static_cast<TabStrip*>(application.find("Form1")->find("SSTab1"))->setTab(options.page);
 }
 
 }  // namespace
 
 int takeScreenshot(Application& application, QtPlatform& platform, const Options& options) {
-  platform.run([&] { open(application, options); });
+  platform.run([&] { open(application, platform, options); });
   for (const std::string& name : options.press) {
     Control* control = findControl(application, name);
     if (control == nullptr) return fail("there is no control " + name);

@@ -70,6 +70,8 @@ class FormWindow : public QMainWindow {
   virtual QString helpPage() const = 0;
   /// Keeps sizes for the next time; called before the window goes.
   virtual void keepLayout() {}
+  /// Makes what the window has left for later.
+  virtual void finish() {}
   /// Whether the window may go; asks the user where something would be lost with it.
   virtual bool mayClose() { return true; }
   /// Where a transfer shows how far it is and can be cancelled; null where this window has no such place.

@@ -26,7 +26,12 @@ void restoreLayout(QWidget& window, QSize usual) {
   const QSettings settings;
   const QSize last = settings.value(keyOf(window, u"size"_s), usual).toSize();
   resizeOnScreen(window, last);
-  for (QSplitter* splitter : window.findChildren<QSplitter*>()) {
+  restoreSplitters(window, window);
+}
+
+void restoreSplitters(const QWidget& window, const QWidget& part) {
+  const QSettings settings;
+  for (QSplitter* splitter : part.findChildren<QSplitter*>()) {
     splitter->restoreState(settings.value(keyOf(window, nameOf(*splitter))).toByteArray());
   }
 }

@@ -11,6 +11,7 @@
 #include "ui/qt/pages/winnings_view.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/handler_runner.h"
+#include "ui/qt/parts/later_page.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/glance_strip.h"
@@ -29,7 +30,9 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -44,6 +47,9 @@ constexpr QSize usualSize = {1080, 800};
 /// What every list calls these.
 const QString saveAction = u"&Save…"_s;
 const QString printAction = u"&Print…"_s;
+
+/// In milliseconds: that the window comes up is first, and so is what the user does meanwhile.
+constexpr int beforeNextPage = 200;
 
 /// The manual's page for each page of the window.
 constexpr std::array<const char*, 4> helpPages = {"summary.html", "searches.html", "winnings.html",
@@ -74,13 +80,13 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     followGame();
     glance_->showGame();
     showDoublePlayNote();
-    searches_->showHints();
     greyUnset();
-    winnings_->showChanges();
-    draws_->showChanges();
+    showPages();
   };
   binding().onPress = [this, press = binding().onPress](Control& control) {
     if (!mayPress(control)) return;
+    // A page notices what a press does from where it is made on.
+    finish();
     if (press) {
       press(control);
     } else {
@@ -94,12 +100,9 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
 
 void MainWindow::addPages() {
   pages_->addTab(new SummaryView(main_, *this), u"Summa&ry"_s);
-  searches_ = new SearchView(main_, binding());
-  pages_->addTab(searches_, u"Sear&ches"_s);
-  winnings_ = new WinningsView(main_, *this);
-  pages_->addTab(winnings_, u"&Winnings"_s);
-  draws_ = new DrawsView(main_, binding());
-  pages_->addTab(draws_, u"&Draws"_s);
+  addLaterPage(u"Sear&ches"_s, [this] { return searches_ = new SearchView(main_, binding()); });
+  addLaterPage(u"&Winnings"_s, [this] { return winnings_ = new WinningsView(main_, *this); });
+  addLaterPage(u"&Draws"_s, [this] { return draws_ = new DrawsView(main_, binding()); });
   pages_->setCornerWidget(gameShown());
   binding().bind(main_.bar.SSTab1, *pages_);
 
@@ -114,6 +117,44 @@ void MainWindow::addPages() {
   column->addWidget(pages_, 1);
   // On a screen too small for the pages they scroll.
   setCentralWidget(scrolled(content));
+}
+
+void MainWindow::addLaterPage(const QString& title, std::function<QWidget*()> make) {
+  binding().awaitPart();
+  auto* page = new LaterPage(std::move(make));
+  page->onMade = [this, page] {
+    binding().partMade();
+    restoreSplitters(*this, *page);
+    showPages();
+    // What is made last is last for the Tab key, but the strip's corner comes behind the pages.
+    QWidget* last = previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus) last = last->previousInFocusChain();
+    setTabOrder(last, doublePlay_);
+  };
+  laterPages_.push_back(page);
+  pages_->addTab(page, title);
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  FormWindow::showEvent(event);
+  QTimer::singleShot(beforeNextPage, this, &MainWindow::makeNextPage);
+}
+
+void MainWindow::makeNextPage() {
+  const auto next = std::ranges::find_if_not(laterPages_, &LaterPage::isMade);
+  if (binding().isReleased() || next == laterPages_.end()) return;
+  (*next)->make();
+  QTimer::singleShot(beforeNextPage, this, &MainWindow::makeNextPage);
+}
+
+void MainWindow::finish() {
+  for (LaterPage* page : laterPages_) page->make();
+}
+
+void MainWindow::showPages() {
+  if (searches_ != nullptr) searches_->showHints();
+  if (winnings_ != nullptr) winnings_->showChanges();
+  if (draws_ != nullptr) draws_->showChanges();
 }
 
 QWidget* MainWindow::gameShown() {
@@ -145,6 +186,7 @@ void MainWindow::followDraws() {
   std::vector<os::FileStamp> files = stampsOfDraws(desk().folder);
   if (files == drawFiles_) return;
   drawFiles_ = std::move(files);
+  finish();
   searches_->drawsChanged();
   draws_->drawsChanged();
 }
@@ -266,6 +308,7 @@ void MainWindow::followGlance() {
   glance_->onNewest = [this] { pages_->setCurrentIndex(summary); };
   const auto showPlays = [this](PlayFilter filter) {
     pages_->setCurrentIndex(winnings);
+    finish();
     winnings_->showMyPlays(filter);
   };
   glance_->onWaiting = [showPlays] { showPlays(PlayFilter::waiting); };

@@ -21,6 +21,7 @@ namespace tallywick {
 class GlanceStrip;
 class NoticeStrip;
 class DrawsView;
+class LaterPage;
 class MainForm;
 class NavigationBarView;
 class SearchView;
@@ -32,6 +33,7 @@ class MainWindow : public FormWindow {
 
   QString helpPage() const override;
   void keepLayout() override;
+  void finish() override;
   /// The program ends with this window, and the selection windows go with it.
   bool mayClose() override;
   TransferPanel* transferPanel() const override;
@@ -39,9 +41,16 @@ class MainWindow : public FormWindow {
  protected:
   /// Saves and prints the page's list where no list has the focus, which has these keys itself.
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void addPages();
+  /// A page that is made when it is first shown, when there is time, or by finish().
+  void addLaterPage(const QString& title, std::function<QWidget*()> make);
+  /// Makes one page after the other while nobody waits for anything.
+  void makeNextPage();
+  /// What the pages show that does not come from one control alone.
+  void showPages();
   void addMenusAndStatus();
   void addOptionEntries();
   void showDoublePlayNote();
@@ -84,6 +93,8 @@ class MainWindow : public FormWindow {
   QTabWidget* pages_;
   QPointer<QAbstractItemView> lastList_;
   const GameInfo* titled_ = nullptr;
+  std::vector<LaterPage*> laterPages_;
+  /// Null until they are made.
   DrawsView* draws_ = nullptr;
   SearchView* searches_ = nullptr;
   WinningsView* winnings_ = nullptr;
