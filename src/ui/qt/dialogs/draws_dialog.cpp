@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTimer>
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -230,7 +231,7 @@ void DrawsDialog::showAmounts() {
     amounts_->setItem(line, marksColumn, figure(QString::number(entry.marks)));
     ++line;
   }
-  // An amount in words, such as $1.2 Billion, has room.
+  // An amount in words, such as $1.2 Billion, has room, and so has the title.
   amounts_->resizeColumnsToContents();
   amounts_->setColumnWidth(amountColumn, std::max(amounts_->columnWidth(amountColumn),
                                                   16 * amounts_->fontMetrics().averageCharWidth()));
