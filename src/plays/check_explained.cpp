@@ -63,11 +63,11 @@ Counts countsOf(const std::vector<std::string>& listed, const Judgement& judgeme
 std::string judgedSentence(const GameInfo& game, const Counts& counts) {
   if (counts.drawn == 0) return join("No play of ", game.name, " has been drawn yet.");
   const std::string drawn = inFigures(counts.drawn, join("drawn ", game.name, " play"));
-  if (counts.won == 0) return join("Judged by the draw of each play's own date, none of ", drawn, " won.");
+  if (counts.won == 0) return join("None of ", drawn, " won in the draw of its own date.");
   const std::string dollars =
-      counts.dollars > 0 ? join(", ", moneyText(counts.dollars * 100), " in all before any multiplier") : "";
-  return join("Judged by the draw of each play's own date, ", std::to_string(counts.won), " of ", drawn,
-              " won", dollars, ".");
+      counts.dollars > 0 ? join(": ", moneyText(counts.dollars * 100), " in all before any multiplier") : "";
+  return join(std::to_string(counts.won), " of ", drawn, " won in the draw of ",
+              counts.won == 1 ? "its" : "their", " own date", dollars, ".");
 }
 
 /// Of the check by date.

@@ -265,9 +265,7 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
     return text;
   };
   const std::string sum =
-      "Judged by the draw of each play's own date, 3 of 3 drawn PowerBall plays won, $18 in all before "
-      "any "
-      "multiplier.\n";
+      "3 of 3 drawn PowerBall plays won in the draw of their own date: $18 in all before any multiplier.\n";
   write(leftBehind + waiting, records({"12-26-2025,10,20,30,34,35,01,x"}) + old + newest);
   const std::string left = "Won, and still among the next plays: 1 play. The check does not look there.\n";
   EXPECT_EQ(explained(page.Option1),

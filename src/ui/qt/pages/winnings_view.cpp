@@ -224,7 +224,7 @@ void WinningsView::say(const QString& headline, const QString& verdict, const QS
                                                                 : HintPanel::Kind::warning;
   headline_->show(kind, headline, headline.isEmpty() ? beforeCheck : QString());
   verdictNote_->setText(verdict);
-  verdict_->setPlaceholderText(headline.isEmpty() ? QString() : u"empty; the count is above"_s);
+  verdict_->setPlaceholderText(explainedGame_ == nullptr ? QString() : u"empty; the count is above"_s);
   explained_->setText(more);
   explained_->setVisible(!more.isEmpty());
   for (QLabel* label : {verdictNote_, explained_}) {
