@@ -87,8 +87,10 @@ void DrawsView::showNotes() {
   if (isChartOld_) chart += u"The draws have changed since: press its button for a new one."_s;
   chartNote_->setText(chart.join(u'\n'));
   chartNote_->setVisible(!chart.isEmpty());
-  picturesNote_->setText(u"The draws have changed since: press the button for the newest."_s);
-  picturesNote_->setVisible(arePicturesOld_);
+  const bool areEmpty = form_.draws.powerBallImages.front().number().empty();
+  picturesNote_->setText(areEmpty ? u"Press Show Newest Draws to see their numbers here."_s
+                                  : u"The draws have changed since: press the button for the newest."_s);
+  picturesNote_->setVisible(areEmpty || arePicturesOld_);
 }
 
 QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {

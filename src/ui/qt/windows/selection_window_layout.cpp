@@ -92,6 +92,7 @@ void SelectionWindow::addActions(QGridLayout& grid, QWidget* parent) {
 void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   auto* title = new QLabel(u"How many draws:"_s, parent);
   auto* step = new QPushButton(parent);
+  step->setAccessibleDescription(u"Adds a draw; after ten it begins again with one"_s);
   auto* showCount = new QPushButton(parent);
   auto* count = heading(parent);
   new ListFace(count);
