@@ -6,12 +6,16 @@
 #include "ui/qt/windows/manual_search.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace tallywick::test {
 namespace {
@@ -50,13 +54,17 @@ TEST(Manual, FindsTheBestSentenceOfEachPage) {
   }
 }
 
-TEST(Manual, IsSearchedFromTheKeyboard) {
+HelpWindow* openHelp() {
   HelpWindow::showPage(QStringLiteral("settings.html"));
-  HelpWindow* help = nullptr;
   for (QWidget* each : QApplication::topLevelWidgets()) {
-    if (auto* found = dynamic_cast<HelpWindow*>(each)) help = found;
+    auto* help = dynamic_cast<HelpWindow*>(each);
+    if (help != nullptr && help->isVisible()) return help;
   }
-  ASSERT_NE(help, nullptr);
+  throw std::logic_error("the manual is not open");
+}
+
+TEST(Manual, IsSearchedFromTheKeyboard) {
+  HelpWindow* help = openHelp();
   QApplication::setActiveWindow(help);
   auto* text = help->findChild<QTextBrowser*>();
   QTest::keyClick(text, Qt::Key_F, Qt::ControlModifier);
@@ -82,6 +90,35 @@ TEST(Manual, IsSearchedFromTheKeyboard) {
   EXPECT_TRUE(text->extraSelections().isEmpty());
   QTest::keyClick(text, Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
+}
+
+TEST(Manual, CanBeReadWhileDialogsWait) {
+  HelpWindow* help = openHelp();
+  auto* field = help->findChild<QLineEdit*>();
+  std::string typed;
+  const auto type = [&](Qt::Key letter) {
+    EXPECT_TRUE(QTest::qWaitFor([help] {
+      return help->windowHandle()->transientParent() == QApplication::activeModalWidget()->windowHandle();
+    }));
+    QTest::mouseClick(help->windowHandle(), Qt::LeftButton, {}, field->mapTo(help, field->rect().center()));
+    QTest::keyClick(help->windowHandle(), letter);
+    typed = field->text().toStdString();
+  };
+  QDialog outer;
+  QTimer::singleShot(0, &outer, [&] {
+    type(Qt::Key_A);
+    QDialog inner(&outer);
+    QTimer::singleShot(0, &inner, [&] {
+      type(Qt::Key_B);
+      inner.accept();
+    });
+    inner.exec();
+    type(Qt::Key_C);
+    outer.accept();
+  });
+  outer.exec();
+  EXPECT_EQ(typed, "abc");
+  help->close();
 }
 
 }  // namespace

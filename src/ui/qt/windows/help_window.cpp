@@ -7,6 +7,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QBuffer>
+#include <QDialog>
 #include <QDir>
 #include <QHash>
 #include <QImage>
@@ -19,6 +20,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
+#include <QWindow>
 #include <utility>
 #include <vector>
 
@@ -185,6 +187,21 @@ HelpWindow::HelpWindow() : text_(new ManualText), search_(new ManualSearch(manua
   addBar();
   addSearch();
   resizeOnScreen(*this, usualSize);
+}
+
+bool HelpWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked) QTimer::singleShot(0, this, &HelpWindow::followDialog);
+  return QMainWindow::event(event);
+}
+
+/// A dialog shuts out every window but its own ones.
+void HelpWindow::followDialog() {
+  const auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !isVisible()) return;
+  windowHandle()->setTransientParent(dialog->windowHandle());
+  // There may be another dialog behind it.
+  connect(dialog, &QDialog::finished, this,
+          [this] { QTimer::singleShot(0, this, &HelpWindow::followDialog); });
 }
 
 void HelpWindow::addBar() {

@@ -14,8 +14,13 @@ class HelpWindow : public QMainWindow {
   /// Opens the window where it is not open, at this page of the manual.
   static void showPage(const QString& page);
 
+ protected:
+  /// While a dialog waits the manual can be read.
+  bool event(QEvent* event) override;
+
  private:
   HelpWindow();
+  void followDialog();
   void addBar();
   void addSearch();
   void goTo(const QString& page);
