@@ -6,12 +6,12 @@
 #include "controls/color.h"
 #include "controls/form.h"
 #include "controls/text_lines.h"
+#include "core/text.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -129,11 +129,8 @@ class ItemsControl : public VisibleControl {
   /// Adds one item, the pieces one after the other.
   template <typename... Pieces>
   void addJoined(const Pieces&... pieces) {
-    const std::initializer_list<std::string_view> views = {std::string_view(pieces)...};
-    std::size_t size = 0;
-    for (std::string_view view : views) size += view.size();
-    char* to = addItem(size);
-    for (std::string_view view : views) to = std::copy(view.begin(), view.end(), to);
+    char* to = addItem((std::string_view(pieces).size() + ...));
+    ((to = put(to, pieces)), ...);
   }
   /// Adds an item of `size` characters, which the caller writes to where this points.
   char* addItem(std::size_t size) {

@@ -4,20 +4,15 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace tallywick {
 
 namespace {
 
-/// Copies `piece`, which mostly has two characters, and returns what is behind it.
-char* put(char* to, std::string_view piece) {
-  if (piece.size() == 2) {
-    std::memcpy(to, piece.data(), 2);
-  } else {
-    std::copy(piece.begin(), piece.end(), to);
-  }
-  return to + piece.size();
+char* putBlanks(char* to, std::size_t count) {
+  constexpr std::string_view blanks = "    ";
+  for (; count > blanks.size(); count -= blanks.size()) to = put(to, blanks);
+  return put(to, blanks.substr(0, count));
 }
 
 }  // namespace
@@ -52,12 +47,12 @@ void Draw::writeLine(char* to, Gaps gaps) const {
   *to++ = '-';
   to = put(to, day);
   *to++ = '-';
-  to = std::fill_n(put(to, year), gaps.date, ' ');
+  to = putBlanks(put(to, year), gaps.date);
   for (std::string_view ball : white) {
     *to++ = ' ';
     to = put(to, ball);
   }
-  put(std::fill_n(to, gaps.extra, ' '), extra);
+  put(putBlanks(to, gaps.extra), extra);
 }
 
 Draw drawOf(const Fields<drawFields>& record) {

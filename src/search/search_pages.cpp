@@ -36,8 +36,8 @@ void fillDrawPickers(SearchPages& pages, const DataFolder& folder, const GameInf
            havePlayedPlays.List9);
   SequentialReader history(folder, inFolder(game, searchDrawsFile), SequentialReader::Reading::inPieces);
   const auto addDraws = [&] {
-    forEachRecord<drawFields>(history, [&](const Fields<drawFields>& record) {
-      const Draw draw = drawOf(record);
+    forEachRecordView<drawFields>(history, [&](const RecordView<drawFields>& record) {
+      const Draw draw = drawAt(record, mainBalls);
       const std::string_view item = addDraw(havePlayedPlays.List9, draw);
       if (played.Combo3.items().empty()) {
         for (ComboBox* picker : {&havePlayed.Combo2, &twoThree.Combo4}) picker->setText(item);
