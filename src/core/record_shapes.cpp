@@ -19,22 +19,26 @@ bool isDigit(char letter) {
 
 }  // namespace
 
-RecordShape::RecordShape(std::string_view record, std::span<const FieldPlace> places)
-    : fieldCount_(places.size()),
-      length_(record.size()),
-      blocks_((record.size() + sizeof(Block) - 1) / sizeof(Block)) {
+RecordShape::RecordShape(std::string_view record, std::span<const FieldPlace> places,
+                         const WantedPair& wanted)
+    : fieldCount_(places.size()), length_(record.size()), lastCharacter_(record.back()) {
   std::array<unsigned char, maxLength> mask{};
   std::array<unsigned char, maxLength> value{};
+  std::array<unsigned char, maxLength> starts{};
   for (std::size_t i = 0; i < record.size(); ++i) {
     // All digits share their upper four bits, and no separator, quote or blank has these.
     mask[i] = isDigit(record[i]) ? 0xF0 : 0xFF;
     value[i] = static_cast<unsigned char>(record[i]) & mask[i];
   }
-  std::memcpy(mask_.data(), mask.data(), mask.size());
-  std::memcpy(value_.data(), value.data(), value.size());
   std::copy(places.begin(), places.end(), places_.of.begin());
   for (std::size_t i = 0; i < places.size(); ++i) {
     if (places[i].size == 2) places_.pairs |= std::uint32_t{1} << i;
+    if ((places_.pairs & wanted.fields) >> i & 1) starts[places[i].start] = 0xFF;
+  }
+  for (std::size_t i = 0; i < pieces_.size(); ++i) {
+    std::memcpy(&pieces_[i].mask, mask.data() + i * sizeof(Words), sizeof(Words));
+    std::memcpy(&pieces_[i].value, value.data() + i * sizeof(Words), sizeof(Words));
+    std::memcpy(&pieces_[i].wanted, starts.data() + i * sizeof(Words), sizeof(Words));
   }
 }
 
@@ -61,8 +65,8 @@ void RecordShapes::learn(std::string_view record, std::span<const FieldPlace> pl
   shapes_.reserve(mostShapes);
   const std::size_t index = learned_++ % mostShapes;
   const bool isNew = index >= shapes_.size();
-  RecordShape& learned = isNew ? shapes_.emplace_back(record, places) : shapes_[index];
-  if (!isNew) learned = RecordShape(record, places);
+  RecordShape& learned = isNew ? shapes_.emplace_back(record, places, wanted_) : shapes_[index];
+  if (!isNew) learned = RecordShape(record, places, wanted_);
   learned.follower = &learned;
   learned.otherFollower = &learned;
   if (last_ != nullptr) last_->otherFollower = std::exchange(last_->follower, &learned);

@@ -123,7 +123,7 @@ bool SequentialReader::cutFields(std::size_t fieldCount) {
 
 /// Reads another piece behind what is not read yet. At the end of the file the reader is no longer open.
 void SequentialReader::readOn() {
-  constexpr std::size_t pieceSize = std::size_t{1} << 18;
+  constexpr std::size_t pieceSize = std::size_t{1} << 16;
   const std::size_t kept = rest().size();
   if (keepsPieces_) {
     std::vector<char> next(kept + pieceSize);

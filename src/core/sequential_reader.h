@@ -95,6 +95,19 @@ class SequentialReader {
     position_ = text_.size() - left.size();
   }
 
+  /// What forEachWanted() looks for; to be called before the first record is read.
+  void lookFor(const WantedPair& wanted) { shapes_.lookFor(wanted); }
+
+  /// The same as forEachAlike(), but `use` gets only the records that have the wanted pair.
+  template <std::size_t Count, typename Use>
+  void forEachWanted(Use use) {
+    std::string_view left = rest();
+    recordNumber_ += shapes_.forEachWanted(left, Count, [&](const char* begin, const FieldPlaces& places) {
+      use(RecordView<Count>(begin, places));
+    });
+    position_ = text_.size() - left.size();
+  }
+
   /// How many records have been begun.
   std::size_t recordNumber() const { return recordNumber_; }
   /// How much of text() has been read, in bytes.

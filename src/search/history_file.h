@@ -77,6 +77,22 @@ class SearchedNumber {
     return found;
   }
 
+  /// Gives the records to `use` that have this number in one of the `Compared` fields from `first` on.
+  template <std::size_t Compared, std::size_t Count, typename Use>
+  void forEachWith(SequentialReader& history, std::size_t first, Use use) const {
+    const auto useIf = [this, first, use](const RecordView<Count>& record) {
+      if (isIn<Compared>(record, first)) use(record);
+    };
+    if (isPair_) history.lookFor({text_[0], text_[1], ((std::uint32_t{1} << Compared) - 1) << first});
+    while (!history.atEnd()) {
+      useIf(history.recordView<Count>());
+      if (isPair_)
+        history.forEachWanted<Count>(use);
+      else
+        history.forEachAlike<Count>(useIf);
+    }
+  }
+
  private:
   static std::uint16_t pairAt(const char* text) {
     std::uint16_t pair = 0;

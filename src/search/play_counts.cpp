@@ -73,16 +73,21 @@ const History* visibleHistory(const Histories& histories, const GameFrames& fram
 /// Lists the draws that contain one number and counts them.
 class Count {
  public:
-  /// The draws come into `items`; the first one is the text of `results`, too.
+  /// The draws come into `items`; one of them is the text of `results`, too.
   Count(std::string_view number, ItemsControl& items, ComboBox& results)
       : number_(number), items_(items), results_(results) {}
 
   /// Takes the rest of the file, whose records have their draw from field `first` on.
   template <std::size_t Fields>
   void takeAll(SequentialReader& history, std::size_t first) {
-    forEachRecordView<Fields>(history, [this, number = number_, first](const RecordView<Fields>& record) {
-      if (number.template isIn<6>(record, first)) list(record, first);
-    });
+    const auto listIt = [this, first](const RecordView<Fields>& record) { list(record, first); };
+    try {
+      number_.forEachWith<6, Fields>(history, first, listIt);
+    } catch (...) {
+      showText();
+      throw;
+    }
+    showText();
   }
 
   std::size_t times() const { return times_; }
@@ -92,16 +97,22 @@ class Count {
   template <std::size_t Fields>
   [[gnu::noinline]] void list(const RecordView<Fields>& record, std::size_t first) {
     const bool isExtra = number_.isIn<1>(record, first + 5);
-    const std::string_view item = addDraw(items_, drawAt(record, first));
+    addDraw(items_, drawAt(record, first));
     // Kept slip: a draw with the number as extra ball counts as a first one, whatever was found before.
-    if (times_ == 0 || isExtra) results_.setText(item);
+    if (times_ == 0 || isExtra) textLine_ = items_.items().size() - 1;
     ++times_;
+  }
+
+  void showText() {
+    if (times_ > 0) results_.setText(items_.items()[textLine_]);
   }
 
   SearchedNumber number_;
   ItemsControl& items_;
   ComboBox& results_;
   std::size_t times_ = 0;
+  /// The item that is the text of the results.
+  std::size_t textLine_ = 0;
 };
 
 /// How often the number came up; nothing where the history cannot be read.

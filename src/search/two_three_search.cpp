@@ -150,8 +150,8 @@ template <std::size_t Compared>
 /// Adds the draws that have all the numbers among their first `Compared` ones.
 template <std::size_t Compared>
 void addMatches(Results& results, SequentialReader& history, const std::vector<SearchedNumber>& searched) {
-  forEachRecordView<drawFields>(history, [&, first = searched.front()](const DrawRecord& record) {
-    if (first.isIn<Compared>(record, mainBalls)) addCandidate<Compared>(results, record, searched);
+  searched.front().forEachWith<Compared, drawFields>(history, mainBalls, [&](const DrawRecord& record) {
+    addCandidate<Compared>(results, record, searched);
   });
 }
 
