@@ -239,6 +239,7 @@ QWidget* SearchPanelView::lists(const SearchPanel& panel, Binding& binding) {
   listTitle_ = heading(listed_, panel.listTitle);
   auto* list = new LineList(panel.list.items(), listed_);
   add(listed_, listTitle_, list, u"Draws"_s);
+  list->setPlaceholder(u"No draw is listed. PowerBall or Mega Millions at the top lists all draws again."_s);
   binding.bind(panel.list, *list);
   return both;
 }
