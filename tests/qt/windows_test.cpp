@@ -332,12 +332,15 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   EXPECT_EQ(press(3, "Move to Played"), waiting);
   EXPECT_EQ(itemsOf(static_cast<MainForm&>(main.form()).winnings.List14).size(), 3U);
 
-  winnings.setCurrentIndex(1);
-  widget<QPushButton>("Form1", "Command47").click();
   const auto explains = [&](const QString& start) {
     return std::ranges::any_of(winnings.findChildren<QLabel*>(),
                                [&](const QLabel* label) { return label->text().startsWith(start); });
   };
+  widget<QPushButton>("Form1", "Command1").click();
+  EXPECT_TRUE(explains(QStringLiteral("No PowerBall play was moved")));
+
+  winnings.setCurrentIndex(1);
+  widget<QPushButton>("Form1", "Command47").click();
   EXPECT_TRUE(explains(QStringLiteral("Nothing was checked")));
   winnings.setCurrentIndex(3);
   named<QLineEdit>("Form1", QStringLiteral("Numbers")).setText(QStringLiteral("1 2 3 4 5"));

@@ -4,8 +4,10 @@
 #include "app/main_form.h"
 #include "core/data_folder.h"
 #include "core/draws.h"
+#include "core/plays.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "display/judging.h"
 #include "plays/check_explained.h"
 #include "ui/qt/binding/binding.h"
@@ -34,6 +36,18 @@ namespace {
 const QString winningMeaning = u"winning"_s;
 
 constexpr int headlineLines = 2;
+
+/// How many there are up to a torn record.
+std::size_t playedPlays(const GameInfo& game, const DataFolder& folder) {
+  std::size_t plays = 0;
+  try {
+    SequentialReader reader = openPlays(folder, playFilePath(game, PlaySlot::played));
+    forEachRecord<playFields>(reader, [&plays](const Fields<playFields>&) { ++plays; });
+  } catch (const RuntimeError&) {
+    // What is wrong with the file is said where its plays are read.
+  }
+  return plays;
+}
 
 const QString beforeCheck =
     u"Choose what to check against, then press Check Tickets. What each play's own draw says is shown here."_s;
@@ -141,13 +155,32 @@ QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
   auto* buttons = row();
   buttons->addWidget(movePowerBall);
   buttons->addWidget(moveMegaMillions);
-  buttons->addStretch();
+  moved_ = sentences(page);
+  buttons->addWidget(moved_, 1);
   auto* column = columnIn(page, theme::pageMargin);
   column->addWidget(lists, 1);
   column->addLayout(buttons);
   binding.bind(form.update.Command1, *movePowerBall, withMnemonic('V'));
   binding.bind(form.update.Command51, *moveMegaMillions, withMnemonic('G'));
+  sayWhatMoved(form.update.Command1, powerBall, form);
+  sayWhatMoved(form.update.Command51, megaMillions, form);
   return page;
+}
+
+void WinningsView::sayWhatMoved(Button& button, const GameInfo& game, MainForm& form) {
+  button.onClick = [this, &game, &form, move = button.onClick] {
+    const DataFolder& folder = actions_.folder();
+    const std::size_t before = playedPlays(game, folder);
+    move();
+    const std::size_t moved = playedPlays(game, folder) - before;
+    const QString name = toQString(game.name);
+    moved_->setText(
+        moved == 0 ? u"No %1 play was moved; My Plays names those that stay behind."_s.arg(name)
+                   : u"Moved to the drawn plays: %1 of %2."_s.arg(toQString(inFigures(moved, "play")), name));
+    if (&actions_.game() != &game) return;
+    fillPlayedPlays(form.winnings, folder, game);
+    fillCommittedPlays(form.winnings, folder, game);
+  };
 }
 
 QWidget* WinningsView::check(MainForm& form, Binding& binding) {

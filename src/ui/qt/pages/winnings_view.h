@@ -17,6 +17,7 @@ class QSplitter;
 namespace tallywick {
 
 class Binding;
+class Button;
 class FormWindow;
 class HintPanel;
 class LineList;
@@ -34,6 +35,8 @@ class WinningsView : public QTabWidget {
 
  private:
   QWidget* plays(MainForm& form, Binding& binding);
+  /// Says after a press of the maintenance how many plays it moved, and shows the lists anew.
+  void sayWhatMoved(Button& button, const GameInfo& game, MainForm& form);
   QWidget* check(MainForm& form, Binding& binding);
   /// What is said of a check over its verdict line, and beside it.
   QBoxLayout* verdict(MainForm& form, QWidget* page, Binding& binding);
@@ -53,6 +56,7 @@ class WinningsView : public QTabWidget {
 
   const MainForm& form_;
   PlayActions actions_;
+  QLabel* moved_ = nullptr;
   HintPanel* headline_ = nullptr;
   QLineEdit* verdict_ = nullptr;
   QLabel* verdictNote_ = nullptr;
