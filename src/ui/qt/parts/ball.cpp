@@ -2,6 +2,7 @@
 #include "ui/qt/parts/ball.h"
 
 #include "ui/qt/parts/line_ball.h"
+#include "ui/qt/parts/painted_once.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QEvent>
@@ -32,6 +33,7 @@ QRectF centred(const QRectF& ball, double share) {
 }
 
 void paintBody(QPainter& painter, const QRectF& ball, const BallLook& look, const BallColors& colors) {
+  painter.setRenderHint(QPainter::Antialiasing);
   const double outline = std::max(1.0, ball.width() * (look.hovered ? 0.06 : 0.035));
   painter.setPen(Qt::NoPen);
   painter.setBrush(colors.ground);
@@ -131,7 +133,15 @@ void paintBall(QPainter& painter, const QRectF& area, const BallLook& look, cons
   const BallColors colors = ballColors(look, palette);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  paintBody(painter, ball, look, colors);
+  const Looks looks = {'b',
+                       static_cast<std::uint32_t>(look.mark),
+                       (look.isSquare ? 1U : 0U) + (look.hovered ? 2U : 0U),
+                       colors.ground.rgba(),
+                       colors.caps.rgba(),
+                       colors.outline.rgba(),
+                       colors.text.rgba()};
+  paintOnce(painter, ball, looks,
+            [&](QPainter& to, const QRectF& place) { paintBody(to, place, look, colors); });
   if (look.dots > 0) paintDots(painter, ball, look, colors);
   paintNumber(painter, ball, look, colors);
   if (look.focused) paintFocus(painter, ball, look, palette);

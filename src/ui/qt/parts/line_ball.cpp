@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/parts/line_ball.h"
 
+#include "ui/qt/parts/painted_once.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QFontMetricsF>
@@ -35,6 +36,31 @@ QRectF inset(const QRectF& area, double by) {
   return area.adjusted(by, by, -by, -by);
 }
 
+bool isColored(const LineBall& ball) {
+  return ball.kind != LineBallKind::white;
+}
+
+/// The ball without its number.
+void paintShape(QPainter& painter, const QRectF& area, const LineBall& ball, const BallColors& colors) {
+  const double side = area.width();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double ring = std::max(2.0, side * ringWidth);
+  const double outline = std::max(1.0, side * outlineWidth);
+  if (ball.lit) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colors.caps, ring));
+    drawShape(painter, inset(area, ring / 2), ball.kind);
+  }
+  painter.setBrush(colors.ground);
+  if (ball.lit)
+    painter.setPen(Qt::NoPen);
+  else
+    painter.setPen(QPen(colors.outline, outline));
+  // Between the ring and a coloured ball the ground is seen.
+  const double gap = isColored(ball) ? outline * 0.75 : 0;
+  drawShape(painter, inset(area, ball.lit ? ring + gap : side * rim + outline / 2), ball.kind);
+}
+
 }  // namespace
 
 LineBallKind extraBallOf(Game game) {
@@ -61,29 +87,19 @@ BallColors lineBallColors(LineBallKind kind, const QColor& ground, const QPalett
 }
 
 void paintLineBall(QPainter& painter, const QRectF& area, const LineBall& ball, const BallColors& colors) {
-  const double side = area.width();
   painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double ring = std::max(2.0, side * ringWidth);
-  const double outline = std::max(1.0, side * outlineWidth);
-  if (ball.lit) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(colors.caps, ring));
-    drawShape(painter, inset(area, ring / 2), ball.kind);
-  }
-  painter.setBrush(colors.ground);
-  if (ball.lit)
-    painter.setPen(Qt::NoPen);
-  else
-    painter.setPen(QPen(colors.outline, outline));
-  // Between the ring and a coloured ball the ground is seen.
-  const bool isColored = ball.kind != LineBallKind::white;
-  const double gap = isColored ? outline * 0.75 : 0;
-  drawShape(painter, inset(area, ball.lit ? ring + gap : side * rim + outline / 2), ball.kind);
+  const Looks looks = {'l',
+                       static_cast<std::uint32_t>(ball.kind),
+                       ball.lit ? 1U : 0U,
+                       colors.ground.rgba(),
+                       colors.outline.rgba(),
+                       colors.caps.rgba()};
+  paintOnce(painter, area, looks,
+            [&](QPainter& to, const QRectF& place) { paintShape(to, place, ball, colors); });
   QFont face = QGuiApplication::font();
   face.setBold(true);
-  const double digits = ball.lit && isColored ? ringedDigitHeight : digitHeight;
-  face.setPixelSize(std::max(7, static_cast<int>(side * digits)));
+  const double digits = ball.lit && isColored(ball) ? ringedDigitHeight : digitHeight;
+  face.setPixelSize(std::max(7, static_cast<int>(area.width() * digits)));
   painter.setFont(face);
   painter.setPen(colors.text);
   painter.drawText(area, Qt::AlignCenter, ball.number);
