@@ -6,14 +6,18 @@
 #include "setup/digits.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 
 namespace tallywick::setup {
 
 namespace {
 
 constexpr int size = 64;
+constexpr std::size_t pixels = size * size;
 constexpr double middle = size / 2.0;
 constexpr double radius = middle - 1;
 constexpr double digitHeight = 25;
@@ -54,23 +58,51 @@ Shade ballAt(const Look& look, Point at) {
   return mix(lit, look.rim, std::pow(fromMiddle, 6));
 }
 
-double inkAt(int number, Point at) {
-  double distance = size;
-  for (const auto& [digit, shift] : {std::pair(number / 10, -1), std::pair(number % 10, 1)}) {
-    const double left = at.x - shift * digitAdvance / 2;
-    // Beyond this no digit's stroke reaches.
-    if (std::abs(left) > 0.5 * digitHeight || std::abs(at.y) > 0.65 * digitHeight) continue;
-    const Point inDigit = {left / digitHeight, at.y / digitHeight};
-    distance = std::min(distance, distanceTo(digitGlyph(digit), inDigit) * digitHeight);
-  }
-  return coverage(strokeHalf - distance);
+Point pointOf(std::size_t pixel) {
+  const auto at = [](std::size_t place) { return static_cast<double>(place) + 0.5 - middle; };
+  return {at(pixel % size), at(pixel / size)};
 }
 
-Shade pixel(const Look& look, int number, Point at) {
-  const double inside = coverage(radius - std::hypot(at.x, at.y));
-  if (inside == 0) return {255, 255, 255};
-  const Shade ball = mix(ballAt(look, at), look.ink, inkAt(number, at));
-  return mix({255, 255, 255}, ball, inside);
+/// What `of` says of each pixel, from the upper left.
+template <typename Of>
+auto ofEachPixel(Of of) {
+  std::array<decltype(of(Point())), pixels> values;
+  for (std::size_t i = 0; i < pixels; ++i) values[i] = of(pointOf(i));
+  return std::make_unique<const decltype(values)>(values);
+}
+
+/// How far each pixel is from the strokes of a digit.
+using Distances = std::array<double, pixels>;
+
+enum class Side { left, right };
+
+/// The distances of one digit are the same in all pictures: they are found once.
+const Distances& distancesTo(int digit, Side side) {
+  static std::array<std::array<std::unique_ptr<const Distances>, 10>, 2> found;
+  auto& distances = found[side == Side::left ? 0 : 1].at(static_cast<std::size_t>(digit));
+  const double shift = (side == Side::left ? -1 : 1) * digitAdvance / 2;
+  if (distances == nullptr) {
+    distances = ofEachPixel([&](Point at) -> double {
+      const double x = at.x - shift;
+      // Beyond this no digit's stroke reaches.
+      if (std::abs(x) > 0.5 * digitHeight || std::abs(at.y) > 0.65 * digitHeight) return size;
+      return distanceTo(digitGlyph(digit), {x / digitHeight, at.y / digitHeight}) * digitHeight;
+    });
+  }
+  return *distances;
+}
+
+/// How much of each pixel is inside of the ball.
+const std::array<double, pixels>& insideBall() {
+  static const auto inside = ofEachPixel([](Point at) { return coverage(radius - std::hypot(at.x, at.y)); });
+  return *inside;
+}
+
+/// The ball without a number.
+const std::array<Shade, pixels>& bare(BallKind kind) {
+  static const auto white = ofEachPixel([](Point at) { return ballAt(whiteLook, at); });
+  static const auto extra = ofEachPixel([](Point at) { return ballAt(extraLook, at); });
+  return kind == BallKind::white ? *white : *extra;
 }
 
 void appendNumber(std::string& bytes, std::uint32_t number, int count) {
@@ -80,15 +112,17 @@ void appendNumber(std::string& bytes, std::uint32_t number, int count) {
 /// File header and information header of an uncompressed 24-bit bitmap.
 std::string bitmapHeaders() {
   constexpr std::uint32_t headers = 54;
-  constexpr std::uint32_t pixels = size * size * 3;
+  constexpr std::uint32_t pixelBytes = pixels * 3;
   std::string bytes = "BM";
-  for (std::uint32_t word : {headers + pixels, 0U, headers, 40U, std::uint32_t{size}, std::uint32_t{size}}) {
+  for (std::uint32_t word :
+       {headers + pixelBytes, 0U, headers, 40U, std::uint32_t{size}, std::uint32_t{size}}) {
     appendNumber(bytes, word, 4);
   }
   appendNumber(bytes, 1, 2);
   appendNumber(bytes, 24, 2);
   constexpr std::uint32_t dotsPerMetre = 2835;
-  for (std::uint32_t word : {0U, pixels, dotsPerMetre, dotsPerMetre, 0U, 0U}) appendNumber(bytes, word, 4);
+  for (std::uint32_t word : {0U, pixelBytes, dotsPerMetre, dotsPerMetre, 0U, 0U})
+    appendNumber(bytes, word, 4);
   return bytes;
 }
 
@@ -99,11 +133,16 @@ std::string ballPictureName(BallKind kind, int number) {
 }
 
 std::string ballPicture(BallKind kind, int number) {
-  const Look& look = kind == BallKind::white ? whiteLook : extraLook;
+  const Shade& ink = (kind == BallKind::white ? whiteLook : extraLook).ink;
+  const std::array<Shade, pixels>& ball = bare(kind);
+  const Distances& left = distancesTo(number / 10, Side::left);
+  const Distances& right = distancesTo(number % 10, Side::right);
   std::string bytes = bitmapHeaders();
-  for (int y = size - 1; y >= 0; --y) {
-    for (int x = 0; x < size; ++x) {
-      const Shade shade = pixel(look, number, {x + 0.5 - middle, y + 0.5 - middle});
+  // The lowest line comes first.
+  for (std::size_t line = size; line-- > 0;) {
+    for (std::size_t i = line * size; i < (line + 1) * size; ++i) {
+      const Shade inked = mix(ball[i], ink, coverage(strokeHalf - std::min(left[i], right[i])));
+      const Shade shade = mix({255, 255, 255}, inked, insideBall()[i]);
       for (double part : {shade.blue, shade.green, shade.red}) bytes += static_cast<char>(std::lround(part));
     }
   }

@@ -53,12 +53,13 @@ std::array<Glyph, 10> drawDigits() {
       hook(-1)};
 }
 
-double distanceToSegment(Point from, Point to, Point at) {
+double squaredDistance(Point from, Point to, Point at) {
   const Point along = {to.x - from.x, to.y - from.y};
   const double length = along.x * along.x + along.y * along.y;
   const double part = length == 0 ? 0 : ((at.x - from.x) * along.x + (at.y - from.y) * along.y) / length;
   const double near = std::clamp(part, 0.0, 1.0);
-  return std::hypot(from.x + near * along.x - at.x, from.y + near * along.y - at.y);
+  const Point away = {from.x + near * along.x - at.x, from.y + near * along.y - at.y};
+  return away.x * away.x + away.y * away.y;
 }
 
 }  // namespace
@@ -72,10 +73,10 @@ double distanceTo(const Glyph& glyph, Point at) {
   double nearest = std::numeric_limits<double>::max();
   for (const Stroke& stroke : glyph) {
     for (std::size_t i = 1; i < stroke.size(); ++i) {
-      nearest = std::min(nearest, distanceToSegment(stroke[i - 1], stroke[i], at));
+      nearest = std::min(nearest, squaredDistance(stroke[i - 1], stroke[i], at));
     }
   }
-  return nearest;
+  return std::sqrt(nearest);
 }
 
 }  // namespace tallywick::setup
