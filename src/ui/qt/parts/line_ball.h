@@ -27,6 +27,8 @@ struct LineBall {
   QString number;
   LineBallKind kind = LineBallKind::white;
   bool lit = false;
+
+  bool operator==(const LineBall&) const = default;
 };
 
 void paintLineBall(QPainter& painter, const QRectF& area, const LineBall& ball, const BallColors& colors);

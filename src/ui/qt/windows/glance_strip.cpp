@@ -49,14 +49,17 @@ GlancePart::GlancePart(Look look, QWidget* parent) : QAbstractButton(parent), lo
 
 void GlancePart::showPart(const QString& caption, const Glance::Part& part, const QString& where,
                           std::vector<LineBall> balls) {
+  const QString text = part.text.empty() ? blank : toQString(part.text);
+  const QString tip = u"%1 %2"_s.arg(toQString(part.tip), where);
+  // The strip is asked after every press, and most of them change nothing of it.
+  if (caption == caption_ && text == text_ && tip == toolTip() && balls == balls_) return;
   caption_ = caption;
-  text_ = part.text.empty() ? blank : toQString(part.text);
+  text_ = text;
   balls_ = std::move(balls);
   QString numbers;
   for (const LineBall& ball : balls_)
     numbers += (&ball == &balls_.back() ? u" and "_s : u" "_s) + ball.number;
   setAccessibleName(u"%1: %2%3"_s.arg(caption_, part.text.empty() ? u"not known"_s : text_, numbers));
-  const QString tip = u"%1 %2"_s.arg(toQString(part.tip), where);
   setToolTip(tip);
   setAccessibleDescription(tip);
   updateGeometry();
