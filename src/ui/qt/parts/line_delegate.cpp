@@ -142,10 +142,14 @@ void LineDelegate::paintBalls(QPainter& painter, const QRect& cell, const QStyle
                               std::vector<LineBall> balls, const QColor& ground) const {
   const int side = std::min(lineBallSide(QFontMetricsF(option.font)), cell.height());
   QRectF area(cell.left(), cell.center().y() + 1 - side / 2.0, side, side);
+  // A cell has one kind of ball.
+  const bool areExtra =
+      list_.hasExtraBalls() || (!balls.empty() && balls.front().kind != LineBallKind::white);
+  const LineBallKind kind = areExtra ? extraBallOf(list_.game()) : LineBallKind::white;
+  const BallColors colors = lineBallColors(kind, ground, option.palette);
   for (LineBall& ball : balls) {
-    if (list_.hasExtraBalls()) ball.kind = LineBallKind::roundRed;
-    if (ball.kind != LineBallKind::white) ball.kind = extraBallOf(list_.game());
-    paintLineBall(painter, area, ball, lineBallColors(ball.kind, ground, option.palette));
+    ball.kind = kind;
+    paintLineBall(painter, area, ball, colors);
     area.translate(side + betweenLineBalls, 0);
   }
 }
