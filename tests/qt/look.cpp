@@ -18,6 +18,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTextEdit>
@@ -102,6 +104,13 @@ void expectOnScreen(const QWidget& window) {
   const QRect around(window.pos(), whole);
   EXPECT_TRUE(screen.contains(around)) << "beyond the edge of the screen: " << around.x() << ',' << around.y()
                                        << " to " << around.right() << ',' << around.bottom();
+}
+
+/// Pages may be higher than the window, and never wider.
+void expectNoSidewaysScrolling(const QWidget& window) {
+  for (const auto* area : window.findChildren<QScrollArea*>()) {
+    EXPECT_TRUE(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0) << "wider than the window";
+  }
 }
 
 /// Each text with a mnemonic leads there alone.
@@ -267,6 +276,7 @@ void look(QWidget& window) {
     window.grab().save(QStringLiteral("%1/%2.png").arg(folder).arg(++pictures, 3, 10, QLatin1Char('0')));
   SCOPED_TRACE(window.windowTitle().toStdString());
   expectOnScreen(window);
+  expectNoSidewaysScrolling(window);
   expectOwnMnemonics(window);
   expectSpoken(window);
   const std::vector<QWidget*> leaves = leavesOf(window);

@@ -84,7 +84,7 @@ class Walk : public Desktop, public testing::WithParamInterface<Setting> {
 
   static void lookAt(QWidget& window) {
     window.show();
-    QCoreApplication::processEvents();
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
     lookAndTab(window);
   }
 

@@ -14,6 +14,7 @@
 #include "ui/qt/dialogs/export_address.h"
 #include "ui/qt/dialogs/fetch_dialog.h"
 #include "ui/qt/dialogs/typed_draw_dialog.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
 
@@ -80,7 +81,8 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   report_->setObjectName(u"drawsReport"_s);
   report_->setAccessibleName(u"What was done"_s);
   summary_->setAccessibleName(u"The draws of the game"_s);
-  auto* column = columnIn(this, theme::pageMargin);
+  auto* content = new QWidget;
+  auto* column = columnIn(content, theme::pageMargin);
   column->addLayout(gameRow());
   column->addWidget(summary_);
   column->addLayout(actionRows());
@@ -88,7 +90,10 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   addAmounts(*column);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  column->addWidget(buttons);
+  buttons->setContentsMargins(theme::pageMargin, 0, theme::pageMargin, theme::pageMargin);
+  auto* all = columnIn(this);
+  all->addWidget(scrolled(content), 1);
+  all->addWidget(buttons);
   games_->setCurrentIndex(first.game == Game::powerBall ? 0 : 1);
   connect(games_, &QComboBox::currentIndexChanged, this, [this] {
     report_->clear();
@@ -96,7 +101,8 @@ DrawsDialog::DrawsDialog(const DataFolder& folder, const Clock& clock, std::vect
   });
   showGame();
   const int width = sentencesWidth(*this, 88 * theme::gap);
-  resizeOnScreen(*this, {width, std::max(80 * theme::gap, column->heightForWidth(width))});
+  resizeOnScreen(*this, {width, std::max(80 * theme::gap,
+                                         column->heightForWidth(width) + buttons->sizeHint().height())});
 }
 
 void DrawsDialog::importAtOnce() {
@@ -133,7 +139,7 @@ QPushButton* DrawsDialog::action(const QString& name, const QString& text, const
 }
 
 QBoxLayout* DrawsDialog::actionRows() {
-  auto* line = row();
+  auto* line = new Flow;
   line->addWidget(action(u"fetchDraws"_s, u"&Fetch"_s,
                          u"Fetches the draws of both games from the public exports, at any time of the day"_s,
                          [this] { fetch(); }));
@@ -142,14 +148,12 @@ QBoxLayout* DrawsDialog::actionRows() {
                          [this] { importDraws(); }));
   importAmounts_ = action(u"importAmounts"_s, u"Import &Amounts…"_s, {}, [this] { importAmounts(); });
   line->addWidget(importAmounts_);
-  line->addStretch();
-  auto* typed = row();
+  auto* typed = new Flow;
   typeIn_ = action(u"typeIn"_s, u"&Type In a Draw…"_s, {}, [this] { typeIn(); });
   typed->addWidget(typeIn_);
   remove_ = action(u"removeDraw"_s, u"&Remove…"_s,
                    u"Takes back a draw that was typed in and that no export has"_s, [this] { remove(); });
   typed->addWidget(remove_);
-  typed->addStretch();
   auto* rows = new QVBoxLayout;
   rows->setSpacing(theme::gap);
   rows->addLayout(line);
@@ -157,9 +161,9 @@ QBoxLayout* DrawsDialog::actionRows() {
   address_->setToolTip(howToGetFiles);
   auto* name = new QLabel(u"To get a file, &open in a web browser:"_s);
   name->setBuddy(address_);
-  auto* from = row();
+  auto* from = new Flow;
   from->addWidget(name);
-  from->addWidget(address_, 1);
+  from->addWidget(address_, true);
   rows->addLayout(from);
   rows->addLayout(typed);
   return rows;

@@ -6,6 +6,7 @@
 #include "ui/qt/pages/number_table_view.h"
 #include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/chart_view.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 
 #include <QGridLayout>
@@ -98,10 +99,9 @@ QWidget* DrawsView::chart(DrawsPage& page, Binding& binding) {
   auto* view = new ChartView(binding.runner(), box);
   auto* lastHundred = new QPushButton(box);
   auto* doublePlay = new QPushButton(box);
-  auto* buttons = row();
+  auto* buttons = new Flow;
   buttons->addWidget(lastHundred);
   buttons->addWidget(doublePlay);
-  buttons->addStretch();
   chartNote_ = sentences(box);
   chartNote_->setFont(theme::headingFont(chartNote_->font()));
   toNumbers_ = new QPushButton(u"Show the Nu&mber Table"_s, box);
@@ -130,12 +130,13 @@ QWidget* DrawsView::pictures(DrawsPage& page, Binding& binding) {
   addPictures(*grid, u"Mega Millions"_s, Game::megaMillions, page.megaMillionsImages, binding);
   grid->setColumnStretch(7, 1);
   auto* show = new QPushButton(box);
-  auto* title = row();
+  auto* title = new Flow;
   title->addWidget(heading(box, u"Newest Draws"_s));
   title->addStretch();
   title->addWidget(show);
   auto* column = columnIn(box);
-  picturesNote_ = heading(box);
+  picturesNote_ = sentences(box);
+  picturesNote_->setFont(theme::headingFont(picturesNote_->font()));
   column->addLayout(title);
   column->addWidget(picturesNote_);
   column->addLayout(grid);

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "ui/qt/pages/play_actions.h"
 #include "ui/qt/pages/play_table_model.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_text.h"
@@ -40,7 +41,7 @@ void makeReadable(QTableView& table) {
   table.horizontalHeader()->setHighlightSections(false);
 }
 
-QPushButton* button(QBoxLayout& row, const QString& text, const QString& tip) {
+QPushButton* button(Flow& row, const QString& text, const QString& tip) {
   auto* made = new QPushButton(text);
   made->setToolTip(tip);
   row.addWidget(made);
@@ -112,11 +113,11 @@ void MyPlaysView::addFilter(QBoxLayout& column) {
   label->setBuddy(filter_);
   filter_->setAccessibleName(u"Filter"_s);
   notices_ = sentences(this);
-  auto* line = row();
+  auto* line = new Flow;
   line->addWidget(label);
   line->addWidget(filter_);
   line->addSpacing(theme::gap);
-  line->addWidget(notices_, 1);
+  line->addWidget(notices_, true);
   column.addLayout(line);
 }
 
@@ -160,7 +161,7 @@ void MyPlaysView::addTable(QBoxLayout& column) {
 }
 
 void MyPlaysView::addButtons(QBoxLayout& column) {
-  auto* line = row();
+  auto* line = new Flow;
   remove_ = button(*line, u"Remo&ve"_s, u"Takes the selected plays away; Undo brings them back (Delete)"_s);
   move_ = button(*line, u"Move &to Played"_s,
                  u"Moves drawn plays that are among the next plays to the played ones"_s);
@@ -169,7 +170,7 @@ void MyPlaysView::addButtons(QBoxLayout& column) {
   undo_->setShortcut(QKeySequence::Undo);
   done_ = new QLabel(this);
   done_->setTextFormat(Qt::PlainText);
-  line->addWidget(done_, 1);
+  line->addWidget(done_, true);
   column.addLayout(line);
   connect(remove_, &QPushButton::clicked, this, &MyPlaysView::remove);
   connect(move_, &QPushButton::clicked, this, &MyPlaysView::move);

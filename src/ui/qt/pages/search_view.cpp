@@ -4,6 +4,7 @@
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/drawn_lists.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_actions.h"
@@ -32,9 +33,8 @@ std::vector<Button*> pointersTo(ButtonRow<6>& row) {
   return buttons;
 }
 
-void addSearch(QBoxLayout& row, const SearchPanel::Search& search, Binding& binding, QWidget* parent) {
+void addSearch(Flow& row, const SearchPanel::Search& search, Binding& binding, QWidget* parent) {
   auto* button = new QPushButton(parent);
-  row.addSpacing(theme::gap);
   if (search.name.isEmpty()) {
     row.addWidget(button);
     binding.bind(search.button, *button, withMnemonic(search.mnemonic));
@@ -42,8 +42,11 @@ void addSearch(QBoxLayout& row, const SearchPanel::Search& search, Binding& bind
   }
   auto* label = new QLabel(withMnemonic(search.mnemonic)(toText(search.name)), parent);
   label->setBuddy(button);
-  row.addWidget(label);
-  row.addWidget(button);
+  auto* both = tallywick::row();
+  both->addSpacing(theme::gap);
+  both->addWidget(label);
+  both->addWidget(button);
+  row.addLayout(both);
   binding.bind(search.button, *button);
   button->setAccessibleName(u"Search %1"_s.arg(search.name));
 }
@@ -173,9 +176,9 @@ void SearchPanelView::addSource(const SearchPanel& panel, Binding& binding) {
   auto* label = new QLabel(panel.sourceLabel, this);
   auto* picker = new Picker(panel.source.items(), this);
   label->setBuddy(picker);
-  auto* line = row();
+  auto* line = new Flow;
   line->addWidget(label);
-  line->addWidget(picker, 1);
+  line->addWidget(picker, true);
   picker->lineEdit()->setPlaceholderText(u"a draw, or numbers such as 7 17 20"_s);
   binding.bind(panel.source, *picker);
   for (Button* display : panel.displays) {
@@ -185,14 +188,14 @@ void SearchPanelView::addSource(const SearchPanel& panel, Binding& binding) {
     line->addWidget(button);
     binding.bind(*display, *button, withMnemonic('Y'));
   }
-  line->addStretch(1);
+  line->addStretch();
   static_cast<QBoxLayout*>(layout())->addLayout(line);
 }
 
 void SearchPanelView::addNumbers(const SearchPanel& panel, Binding& binding) {
-  QHBoxLayout* line = ballRow(panel.numbers, panel.gameOf, binding, this);
+  auto* line = new Flow;
+  line->addLayout(ballRow(panel.numbers, panel.gameOf, binding, this));
   for (const SearchPanel::Search& search : panel.searches) addSearch(*line, search, binding, this);
-  line->addStretch();
   static_cast<QBoxLayout*>(layout())->addLayout(line);
 }
 
@@ -204,10 +207,10 @@ void SearchPanelView::addResults(const SearchPanel& panel, Binding& binding) {
   results->setAccessibleName(u"Draws found"_s);
   auto* tally = heading(this);
   tally->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  auto* line = row();
+  auto* line = new Flow;
   line->addWidget(title);
-  line->addWidget(results, 1);
-  line->addWidget(tally, 1);
+  line->addWidget(results, true);
+  line->addWidget(tally, true);
   found_ = sentences(this);
   auto* column = static_cast<QBoxLayout*>(layout());
   column->addLayout(line);

@@ -4,6 +4,7 @@
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/drawn_lists.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
@@ -112,14 +113,14 @@ void highlightFrequentNumbers(LineList& list, const SummaryPage& page) {
 }  // namespace
 
 SummaryView::SummaryView(MainForm& form, FormWindow& window) {
-  auto* sides = splitter(Qt::Horizontal, u"summary"_s);
+  auto* sides = new Sides(u"summary"_s);
   sides->addWidget(drawsSide(form, window.binding()));
   sides->addWidget(playsSide(form, window));
   sides->setStretchFactor(0, 1);
   sides->setStretchFactor(1, 1);
   // By their size hints the plays' side would be too narrow for what they matched.
   sides->setSizes({1000, 1000});
-  columnIn(this, theme::pageMargin)->addWidget(sides);
+  columnIn(this, theme::gap)->addWidget(sides);
 }
 
 QWidget* SummaryView::drawsSide(MainForm& form, Binding& binding) {

@@ -28,8 +28,10 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
       verdict_(sentences(this)),
       keep_(new QPushButton(u"K&eep It"_s, this)) {
   auto* column = columnIn(this, theme::pageMargin);
-  column->addWidget(
-      heading(this, u"A ticket is judged by the draw of its date. It is kept only if you ask for it."_s));
+  QLabel* about = sentences(this);
+  about->setFont(theme::headingFont(about->font()));
+  about->setText(u"A ticket is judged by the draw of its date. It is kept only if you ask for it."_s);
+  column->addWidget(about);
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(theme::gap);
   form->setVerticalSpacing(theme::gap);

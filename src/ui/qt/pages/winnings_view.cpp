@@ -13,6 +13,7 @@
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/my_plays_view.h"
 #include "ui/qt/pages/ticket_view.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
@@ -144,7 +145,7 @@ void WinningsView::showMyPlays(PlayFilter filter) {
 
 QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
   auto* page = new QWidget;
-  auto* lists = splitter(Qt::Horizontal, u"plays"_s);
+  auto* lists = new Sides(u"plays"_s);
   showEmphasisedLines(*titledList(*lists, u"Plays Already Dr&awn"_s, form.winnings.List14,
                                   u"No play's draw has taken place yet."_s, binding),
                       form.winnings.List14);
@@ -152,11 +153,11 @@ QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
              binding);
   auto* movePowerBall = new QPushButton(page);
   auto* moveMegaMillions = new QPushButton(page);
-  auto* buttons = row();
+  auto* buttons = new Flow;
   buttons->addWidget(movePowerBall);
   buttons->addWidget(moveMegaMillions);
   moved_ = sentences(page);
-  buttons->addWidget(moved_, 1);
+  buttons->addWidget(moved_, true);
   auto* column = columnIn(page, theme::pageMargin);
   column->addWidget(lists, 1);
   column->addLayout(buttons);
@@ -189,16 +190,16 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   auto* latest = new QRadioButton(page);
   auto* byDate = new QRadioButton(page);
   auto* run = new QPushButton(page);
-  auto* choice = row(theme::pageMargin);
+  auto* choice = new Flow;
+  choice->setSpacing(theme::pageMargin);
   choice->addWidget(new QLabel(u"Check against:"_s, page));
   for (QWidget* widget :
        {static_cast<QWidget*>(latest), static_cast<QWidget*>(byDate), static_cast<QWidget*>(run)})
     choice->addWidget(widget);
-  choice->addStretch();
 
   headline_ = new HintPanel(headlineLines, page);
   explained_ = sentences(page);
-  lists_ = splitter(Qt::Horizontal, u"check"_s);
+  lists_ = new Sides(u"check"_s);
   connect(lists_, &QSplitter::splitterMoved, this, [this] { areWidthsChosen_ = true; });
   showWinningLines(*titledList(*lists_, u"Winnin&g Tickets"_s, winnings.List11, {}, binding));
   numbers_ = titledList(*lists_, u"Their Num&bers and Double Play"_s, winnings.List10, {}, binding);
@@ -217,7 +218,7 @@ QWidget* WinningsView::check(MainForm& form, Binding& binding) {
   return page;
 }
 
-QBoxLayout* WinningsView::verdict(MainForm& form, QWidget* page, Binding& binding) {
+QLayout* WinningsView::verdict(MainForm& form, QWidget* page, Binding& binding) {
   ComboBox& written = form.winnings.Combo10;
   auto* line = new Picker(written.items(), page);
   line->setResultsOnly();
@@ -226,10 +227,10 @@ QBoxLayout* WinningsView::verdict(MainForm& form, QWidget* page, Binding& bindin
   auto* name = new QLabel(u"The check's &verdict line:"_s, page);
   name->setBuddy(line);
   verdictNote_ = sentences(page);
-  auto* all = row();
+  auto* all = new Flow;
   all->addWidget(name);
   all->addWidget(line);
-  all->addWidget(verdictNote_, 1);
+  all->addWidget(verdictNote_, true);
   binding.bind(written, *line);
   binding.announceChangesOf(written);
   return all;

@@ -39,7 +39,7 @@ class WinningsView : public QTabWidget {
   void sayWhatMoved(Button& button, const GameInfo& game, MainForm& form);
   QWidget* check(MainForm& form, Binding& binding);
   /// What is said of a check over its verdict line, and beside it.
-  QBoxLayout* verdict(MainForm& form, QWidget* page, Binding& binding);
+  QLayout* verdict(MainForm& form, QWidget* page, Binding& binding);
   /// Says beside each check what the judging says, and why the two differ.
   void explainCheck(MainForm& form);
   void showExplanation(const MainForm& form);

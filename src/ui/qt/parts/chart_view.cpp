@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <algorithm>
 #include <cmath>
@@ -30,25 +31,51 @@ constexpr double barWidth = 0.6;
 constexpr double headroom = 1.15;
 constexpr double leastHeight = 5;
 constexpr int wantedTicks = 5;
+/// The plot beside the table is at least so wide.
+constexpr int plotLetters = 40;
+
+/// The text with line ends where its words pass `width`.
+QString wrapped(const QString& text, const QFont& face, int width) {
+  const QFontMetrics metrics(face);
+  QString lines;
+  int used = 0;
+  for (const QString& word : QString(text).replace(u'\n', u" \n"_s).split(u' ')) {
+    const int own = metrics.horizontalAdvance(word + u' ');
+    const bool breaks = !word.startsWith(u'\n') && used > 0 && used + own > width;
+    lines += (breaks ? u"\n"_s : lines.isEmpty() || word.startsWith(u'\n') ? QString() : u" "_s) + word;
+    used = breaks || word.startsWith(u'\n') ? own : used + own;
+  }
+  return lines;
+}
+
+/// Of the colour, with an outline, for colours as light as the ground.
+QIcon swatch(const QColor& color, const QPalette& palette) {
+  QPixmap picture(2 * theme::gap, 2 * theme::gap);
+  picture.fill(theme::standingOutFrom(palette.base().color(), color, theme::shapeContrast));
+  QPainter(&picture).fillRect(picture.rect().adjusted(1, 1, -1, -1), color);
+  return picture;
+}
 
 }  // namespace
 
 ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
     : QWidget(parent),
+      parts_(new QHBoxLayout(this)),
       plot_(new QCustomPlot(this)),
       heading_(new QCPTextElement(plot_)),
       table_(new QTableWidget(this)) {
-  auto* line = new QHBoxLayout(this);
   // Room for the mark of the keyboard.
-  line->setContentsMargins(1, 1, 1, 1);
-  line->setSpacing(theme::gap);
-  line->addWidget(plot_, 3);
-  line->addWidget(table_, 2);
+  parts_->setContentsMargins(1, 1, 1, 1);
+  parts_->setSpacing(theme::gap);
+  parts_->addWidget(plot_, 1);
+  parts_->addWidget(table_);
   setFocusPolicy(Qt::StrongFocus);
-  setMinimumHeight(22 * theme::gap);
+  plot_->setMinimumHeight(22 * theme::gap);
   plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
   plot_->plotLayout()->insertRow(0);
   plot_->plotLayout()->addElement(0, 0, heading_);
+  // It is wrapped by hand.
+  heading_->setMinimumSize(1, 0);
   plot_->xAxis->grid()->setVisible(false);
   plot_->xAxis->setSubTicks(false);
   plot_->yAxis->setSubTicks(false);
@@ -108,10 +135,29 @@ void ChartView::draw() {
   auto counts = QSharedPointer<QCPAxisTickerFixed>::create();
   counts->setTickStep(std::max(1.0, std::ceil(tallest / wantedTicks)));
   plot_->yAxis->setTicker(counts);
-  heading_->setText(explanation_.isEmpty() ? title_ : title_ + u'\n' + explanation_);
   fillTable();
   colorAxes();
+  arrange();
   plot_->replot();
+}
+
+void ChartView::arrange() {
+  const QAbstractItemView& table = *table_;
+  const QHeaderView& titles = *table_->horizontalHeader();
+  int needed = 2 * table_->frameWidth() + table_->verticalScrollBar()->sizeHint().width();
+  for (int column = 0; column < table_->columnCount(); ++column)
+    needed += std::max(titles.sectionSizeHint(column), table.sizeHintForColumn(column));
+  const bool isNarrow = width() < needed + plotLetters * fontMetrics().averageCharWidth();
+  parts_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  table_->setMinimumWidth(isNarrow ? 0 : needed);
+  const int room = isNarrow ? width() : width() - needed;
+  const QString text = explanation_.isEmpty() ? title_ : title_ + u'\n' + explanation_;
+  heading_->setText(wrapped(text, heading_->font(), room - 4 * theme::gap));
+}
+
+void ChartView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  arrange();
 }
 
 void ChartView::addBar(int place, const Chart::Bar& bar) {
@@ -133,11 +179,9 @@ void ChartView::fillTable() {
   table_->setRowCount(static_cast<int>(bars_.size()));
   for (int row = 0; row < table_->rowCount(); ++row) {
     const Chart::Bar& bar = bars_[static_cast<std::size_t>(row)];
-    const QColor color = theme::toQColor(bar.color, palette());
-    QPixmap swatch(2 * theme::gap, 2 * theme::gap);
-    swatch.fill(color);
-    auto* meaning = new QTableWidgetItem(
-        QIcon(swatch), meaningOf_ ? meaningOf_(bar.color, row + 1 == table_->rowCount()) : QString());
+    auto* meaning =
+        new QTableWidgetItem(swatch(theme::toQColor(bar.color, palette()), palette()),
+                             meaningOf_ ? meaningOf_(bar.color, row + 1 == table_->rowCount()) : QString());
     auto* count = new QTableWidgetItem(QString::number(bar.value));
     count->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table_->setItem(row, 0, new QTableWidgetItem(toQString(bar.label)));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bar chart of the last hundred draws. Each bar has its count on top and its number below; a table beside
-// it has the same values with the meaning of the colours. The chart can be read as text, saved as a picture
-// and printed.
+// or below it has the same values with the meaning of the colours. The chart can be read as text, saved as a
+// picture and printed.
 #pragma once
 
 #include "controls/controls.h"
@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 
+class QBoxLayout;
 class QCPTextElement;
 class QCustomPlot;
 class QTableWidget;
@@ -32,9 +33,12 @@ class ChartView : public QWidget {
  protected:
   void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void draw();
+  /// The table beside the plot, or below it where there is too little room.
+  void arrange();
   void addBar(int place, const Chart::Bar& bar);
   void colorAxes();
   void fillTable();
@@ -42,6 +46,7 @@ class ChartView : public QWidget {
   void saveAsPicture();
   void print();
 
+  QBoxLayout* parts_;
   QCustomPlot* plot_;
   QCPTextElement* heading_;
   QTableWidget* table_;

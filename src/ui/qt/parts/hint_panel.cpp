@@ -4,7 +4,7 @@
 #include "ui/qt/parts/layouts.h"
 
 #include <QAccessible>
-#include <QEvent>
+#include <QResizeEvent>
 
 namespace tallywick {
 
@@ -74,6 +74,7 @@ void HintPanel::show(Kind kind, const QString& heading, const QString& text) {
   heading_->setText(heading);
   heading_->setVisible(!heading.isEmpty());
   text_->setText(text);
+  updateGeometry();
   setAccessibleName(heading.isEmpty() ? text : heading + u". "_s + text);
   color();
   QAccessibleEvent changed(this, QAccessible::NameChanged);
@@ -83,12 +84,22 @@ void HintPanel::show(Kind kind, const QString& heading, const QString& text) {
 }
 
 QSize HintPanel::sizeHint() const {
-  const int height = lines_ * (fontMetrics().lineSpacing() + 1) + 2 * theme::gap;
-  return {20 * fontMetrics().averageCharWidth(), height};
+  const int usual = lines_ * (fontMetrics().lineSpacing() + 1) + 2 * theme::gap;
+  const int room = width() - sign_->width() - 2 * theme::gap - 2 * frameWidth();
+  int needed = theme::gap + 2 * frameWidth() + theme::halfGap / 2;
+  for (const QLabel* label : {heading_, text_}) {
+    if (!label->text().isEmpty()) needed += label->heightForWidth(room);
+  }
+  return {20 * fontMetrics().averageCharWidth(), std::max(usual, needed)};
 }
 
 QSize HintPanel::minimumSizeHint() const {
   return sizeHint();
+}
+
+void HintPanel::resizeEvent(QResizeEvent* event) {
+  QFrame::resizeEvent(event);
+  if (event->oldSize().width() != width()) updateGeometry();
 }
 
 void HintPanel::fitToFont() {

@@ -26,6 +26,7 @@ class HintPanel : public QFrame {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void color();

@@ -273,6 +273,19 @@ void QtPlatform::endWithError(const RuntimeError& error) {
   end(1);
 }
 
+namespace {
+
+/// With room for the box's edges and its buttons.
+bool fitsOnScreen(const QWidget& box, const QString& text) {
+  constexpr int linesAround = 5;
+  const QSize screen = box.screen()->availableGeometry().size().shrunkBy(theme::windowFrame);
+  const QFontMetrics face = box.fontMetrics();
+  const QRect whole = face.boundingRect(QRect(0, 0, screen.width() * 3 / 4, 0), Qt::TextWordWrap, text);
+  return whole.height() + linesAround * face.lineSpacing() <= screen.height();
+}
+
+}  // namespace
+
 void QtPlatform::showError(const RuntimeError& error) {
   showChanges();
   if (TransferPanel* panel = transferPanel()) panel->end();
@@ -282,7 +295,10 @@ void QtPlatform::showError(const RuntimeError& error) {
   QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok,
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(explained);
+  if (fitsOnScreen(box, text + u'\n' + explained))
+    box.setInformativeText(explained);
+  else
+    box.setDetailedText(explained);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   QPushButton* copy = box.addButton(u"&Copy Text"_s, QMessageBox::ActionRole);
   // The box stays open after a copy.

@@ -2,6 +2,7 @@
 #include "ui/qt/windows/glance_strip.h"
 
 #include "app/main_form.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
 #include "ui/qt/windows/form_window.h"
@@ -142,16 +143,14 @@ GlanceStrip::GlanceStrip(MainForm& form, FormWindow& window)
       waiting_(new GlancePart(GlancePart::Look::link, this)),
       wins_(new GlancePart(GlancePart::Look::link, this)) {
   setFrameShape(QFrame::StyledPanel);
-  auto* parts = new QHBoxLayout(this);
+  auto* parts = new Flow(this);
   parts->setContentsMargins(theme::halfGap, 0, theme::halfGap, 0);
-  parts->setSpacing(theme::gap);
   parts->addWidget(newest_);
   parts->addWidget(line(this));
   parts->addWidget(next_);
   parts->addWidget(waiting_);
   parts->addWidget(line(this));
   parts->addWidget(wins_);
-  parts->addStretch();
   connect(newest_, &GlancePart::clicked, this, [this] { onNewest(); });
   connect(next_, &GlancePart::clicked, this, [this] { onWaiting(); });
   connect(waiting_, &GlancePart::clicked, this, [this] { onWaiting(); });

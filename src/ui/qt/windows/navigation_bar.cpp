@@ -2,6 +2,7 @@
 #include "ui/qt/windows/navigation_bar.h"
 
 #include "app/main_form.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/windows/form_window.h"
@@ -86,19 +87,20 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   auto* games = row(0);
   games->addWidget(powerBall_);
   games->addWidget(megaMillions_);
-  auto* bar = row();
+  auto* bar = new Flow;
   bar->addLayout(games);
   bar->addSpacing(theme::gap);
   bar->addWidget(selection_);
   bar->addWidget(opens_);
   bar->addWidget(update);
-  bar->addWidget(progress, 1);
+  bar->addWidget(progress, true);
   bar->addWidget(transfer_);
   bar->addStretch();
-  bar->addWidget(next);
-  bar->addWidget(backup);
-  bar->addWidget(draws);
-  bar->addWidget(settings);
+  auto* others = row();
+  for (QWidget* each : {static_cast<QWidget*>(next), static_cast<QWidget*>(backup),
+                        static_cast<QWidget*>(draws), static_cast<QWidget*>(settings)})
+    others->addWidget(each);
+  bar->addLayout(others);
   auto* column = columnIn(this);
   column->addLayout(bar);
   column->addWidget(updateNote());

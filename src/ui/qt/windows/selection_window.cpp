@@ -6,6 +6,7 @@
 #include "selection/play_lists.h"
 #include "selection/selection_form.h"
 #include "selection/selection_handlers.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
@@ -38,13 +39,23 @@ HintPanel::Kind kindOf(MarksHint::Kind kind) {
 
 SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
     : FormWindow(form, desk), selection_(form), removedPlays_(form) {
-  auto* content = new QWidget;
-  auto* sides = new QHBoxLayout(content);
-  sides->setContentsMargins(theme::pageMargin, theme::gap, theme::pageMargin, theme::gap);
-  sides->setSpacing(theme::pageMargin);
+  auto* sides = new Sides(u"sides"_s, Sides::Room::least);
   sides->addWidget(slipSide());
-  sides->addWidget(listSide(), 1);
-  setCentralWidget(scrolled(content));
+  sides->addWidget(listSide());
+  sides->setStretchFactor(1, 1);
+  sides->setHandleWidth(theme::pageMargin);
+  auto* scrolling = new QWidget;
+  columnIn(scrolling, theme::gap)->addWidget(sides);
+  auto* content = new QWidget;
+  auto* column = columnIn(content);
+  column->addWidget(scrolled(scrolling), 1);
+  column->addLayout(actions());
+  setCentralWidget(content);
+  QWidget* before = slip_->findChildren<QWidget*>().back();
+  for (auto* button : content->findChildren<QPushButton*>(Qt::FindDirectChildrenOnly)) {
+    setTabOrder(before, button);
+    before = button;
+  }
   addStatus();
   answerHelpKey();
   surroundActions();

@@ -8,12 +8,12 @@
 #include "ui/qt/windows/play_removal.h"
 
 class QBoxLayout;
-class QGridLayout;
 class QPushButton;
 class QToolButton;
 
 namespace tallywick {
 
+class Flow;
 class HintPanel;
 class LineList;
 class Slip;
@@ -40,9 +40,10 @@ class SelectionWindow : public FormWindow {
   /// A list whose plays can be taken away.
   QWidget* removableChoice(Label& label, char mnemonic, ComboBox& combo, QToolButton* button, Remove act);
   QWidget* savedTexts();
-  void addActions(QGridLayout& grid, QWidget* parent);
+  /// Always in sight, however far the rest is scrolled.
+  QLayout* actions();
   void addDrawCount(QBoxLayout& column, QWidget* parent);
-  void addBringBack(QBoxLayout& line, QWidget* parent);
+  void addBringBack(Flow& line, QWidget* parent);
   void addStatus();
   /// Lets a double click, and the Enter key, mark the play of a line.
   void markFrom(LineList& list, const TextLines& items);

@@ -4,6 +4,7 @@
 #include "selection/selection_form.h"
 #include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/choice_list.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/hint_panel.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
@@ -11,7 +12,6 @@
 #include "ui/qt/windows/selection_window.h"
 #include "ui/qt/windows/slip.h"
 
-#include <QGridLayout>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QToolButton>
@@ -36,13 +36,6 @@ class TwoLines : public Sentences {
   QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-QPushButton* actionButton(QWidget* parent, QGridLayout& grid, int line, int column) {
-  auto* button = new QPushButton(parent);
-  button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  grid.addWidget(button, line, column);
-  return button;
-}
-
 Wording orElse(const QString& captionless) {
   return [captionless](std::string_view caption) {
     return caption.empty() ? captionless : literally()(caption);
@@ -60,33 +53,32 @@ QWidget* SelectionWindow::slipSide() {
   column->addWidget(slip_, 0, Qt::AlignLeft);
   hint_ = new HintPanel(hintLines, side);
   column->addWidget(hint_);
-  auto* actions = new QGridLayout;
-  actions->setSpacing(theme::gap);
-  addActions(*actions, side);
-  column->addLayout(actions);
   addDrawCount(*column, side);
   column->addStretch();
   return side;
 }
 
-void SelectionWindow::addActions(QGridLayout& grid, QWidget* parent) {
+QLayout* SelectionWindow::actions() {
+  auto* line = new Flow;
+  line->setContentsMargins(theme::gap, 0, theme::gap, theme::gap);
+  const auto add = [&] {
+    auto* button = new QPushButton(this);
+    line->addWidget(button, true);
+    return button;
+  };
   // In the place of Select until the model shows it, so that the row has no hole.
-  waitingSelect_ = actionButton(parent, grid, 0, 0);
+  waitingSelect_ = add();
   waitingSelect_->setText(toQString(selection_.Command59.caption()));
   waitingSelect_->setEnabled(false);
-  auto* select = actionButton(parent, grid, 0, 0);
-  auto* quickPick = actionButton(parent, grid, 0, 1);
-  auto* replay = actionButton(parent, grid, 0, 2);
-  auto* clear = actionButton(parent, grid, 1, 0);
-  auto* draw = actionButton(parent, grid, 1, 1);
-  auto* done = actionButton(parent, grid, 1, 2);
+  QPushButton* select = add();
   select->setFont(theme::headingFont(select->font()));
   binding().bind(selection_.Command59, *select, withMnemonic('S'));
-  binding().bind(selection_.Command9, *quickPick, withMnemonic('Q'));
-  binding().bind(selection_.Command60, *replay, withMnemonic('R'));
-  binding().bind(selection_.Command84, *clear, withMnemonic('C'));
-  binding().bind(selection_.Command1, *draw, withMnemonic('W'));
-  binding().bind(selection_.Command5, *done, withMnemonic('D'));
+  binding().bind(selection_.Command9, *add(), withMnemonic('Q'));
+  binding().bind(selection_.Command60, *add(), withMnemonic('R'));
+  binding().bind(selection_.Command84, *add(), withMnemonic('C'));
+  binding().bind(selection_.Command1, *add(), withMnemonic('W'));
+  binding().bind(selection_.Command5, *add(), withMnemonic('D'));
+  return line;
 }
 
 void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
@@ -96,7 +88,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   auto* showCount = new QPushButton(parent);
   auto* count = heading(parent);
   new ListFace(count);
-  auto* line = row();
+  auto* line = new Flow;
   line->addWidget(title);
   line->addWidget(step);
   line->addWidget(showCount);
@@ -113,7 +105,7 @@ void SelectionWindow::addDrawCount(QBoxLayout& column, QWidget* parent) {
   binding().bind(selection_.Command7, *showCount, orElse(u"Draw Count"_s));
 }
 
-void SelectionWindow::addBringBack(QBoxLayout& line, QWidget* parent) {
+void SelectionWindow::addBringBack(Flow& line, QWidget* parent) {
   bringBack_ = new QPushButton(parent);
   bringBack_->setToolTip(
       u"Puts back the marks that an action took off without entering a play, and plays that were removed (Ctrl+Z)"_s);
@@ -138,7 +130,8 @@ QWidget* SelectionWindow::listSide() {
   removeNext_->setText(u"R&emove"_s);
   lists->addWidget(savedTexts());
   column->addWidget(lists, 1);
-  auto* how = new QLabel(u"Double-click a play, or press Enter on it, to mark it."_s, side);
+  QLabel* how = sentences(side);
+  how->setText(u"Double-click a play, or press Enter on it, to mark it."_s);
   column->addWidget(how);
   return side;
 }
