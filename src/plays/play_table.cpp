@@ -177,6 +177,7 @@ std::vector<YearSums> sumsByYear(const Judgement& judgement, std::optional<std::
     add(sums, sumsOf(play, centsAPlay));
   }
   std::vector<YearSums> newestFirst;
+  newestFirst.reserve(years.size());
   for (const auto& [year, sums] : years) newestFirst.push_back(sums);
   return newestFirst;
 }

@@ -180,7 +180,7 @@ std::optional<fs::path> offerFolder(const fs::path& folder, const fs::path& last
       case Choice::last:
         return last;
       case Choice::open:
-        if (const auto other = askForFolder()) return other;
+        if (auto other = askForFolder()) return other;
         break;
       case Choice::quit:
         return std::nullopt;
