@@ -18,6 +18,7 @@ namespace {
 
 constexpr int size = 64;
 constexpr std::size_t pixels = size * size;
+constexpr std::uint32_t headerBytes = 54;
 constexpr double middle = size / 2.0;
 constexpr double radius = middle - 1;
 constexpr double digitHeight = 25;
@@ -92,17 +93,22 @@ const Distances& distancesTo(int digit, Side side) {
   return *distances;
 }
 
-/// How much of each pixel is inside of the ball.
-const std::array<double, pixels>& insideBall() {
-  static const auto inside = ofEachPixel([](Point at) { return coverage(radius - std::hypot(at.x, at.y)); });
-  return *inside;
-}
+/// A ball without a number, and how much of each pixel is inside of it.
+struct BareBall {
+  explicit BareBall(const Look& from)
+      : look(from),
+        shades(ofEachPixel([&](Point at) { return ballAt(from, at); })),
+        inside(ofEachPixel([](Point at) { return coverage(radius - std::hypot(at.x, at.y)); })) {}
 
-/// The ball without a number.
-const std::array<Shade, pixels>& bare(BallKind kind) {
-  static const auto white = ofEachPixel([](Point at) { return ballAt(whiteLook, at); });
-  static const auto extra = ofEachPixel([](Point at) { return ballAt(extraLook, at); });
-  return kind == BallKind::white ? *white : *extra;
+  const Look& look;
+  std::unique_ptr<const std::array<Shade, pixels>> shades;
+  std::unique_ptr<const std::array<double, pixels>> inside;
+};
+
+const BareBall& bareBall(BallKind kind) {
+  static const BareBall white(whiteLook);
+  static const BareBall extra(extraLook);
+  return kind == BallKind::white ? white : extra;
 }
 
 void appendNumber(std::string& bytes, std::uint32_t number, int count) {
@@ -111,11 +117,10 @@ void appendNumber(std::string& bytes, std::uint32_t number, int count) {
 
 /// File header and information header of an uncompressed 24-bit bitmap.
 std::string bitmapHeaders() {
-  constexpr std::uint32_t headers = 54;
   constexpr std::uint32_t pixelBytes = pixels * 3;
   std::string bytes = "BM";
   for (std::uint32_t word :
-       {headers + pixelBytes, 0U, headers, 40U, std::uint32_t{size}, std::uint32_t{size}}) {
+       {headerBytes + pixelBytes, 0U, headerBytes, 40U, std::uint32_t{size}, std::uint32_t{size}}) {
     appendNumber(bytes, word, 4);
   }
   appendNumber(bytes, 1, 2);
@@ -126,6 +131,21 @@ std::string bitmapHeaders() {
   return bytes;
 }
 
+/// Sets a pixel with so much ink on it. The lowest line of a bitmap comes first.
+void paint(std::string& bytes, const BareBall& ball, std::size_t pixel, double ink) {
+  const Shade inked = mix((*ball.shades)[pixel], ball.look.ink, ink);
+  const Shade shade = mix({255, 255, 255}, inked, (*ball.inside)[pixel]);
+  std::size_t at = headerBytes + ((size - 1 - pixel / size) * size + pixel % size) * 3;
+  for (double part : {shade.blue, shade.green, shade.red}) bytes[at++] = static_cast<char>(std::lround(part));
+}
+
+std::string barePicture(const BareBall& ball) {
+  std::string bytes = bitmapHeaders();
+  bytes.resize(headerBytes + pixels * 3);
+  for (std::size_t i = 0; i < pixels; ++i) paint(bytes, ball, i, 0);
+  return bytes;
+}
+
 }  // namespace
 
 std::string ballPictureName(BallKind kind, int number) {
@@ -133,18 +153,14 @@ std::string ballPictureName(BallKind kind, int number) {
 }
 
 std::string ballPicture(BallKind kind, int number) {
-  const Shade& ink = (kind == BallKind::white ? whiteLook : extraLook).ink;
-  const std::array<Shade, pixels>& ball = bare(kind);
+  static const std::string white = barePicture(bareBall(BallKind::white));
+  static const std::string extra = barePicture(bareBall(BallKind::extra));
   const Distances& left = distancesTo(number / 10, Side::left);
   const Distances& right = distancesTo(number % 10, Side::right);
-  std::string bytes = bitmapHeaders();
-  // The lowest line comes first.
-  for (std::size_t line = size; line-- > 0;) {
-    for (std::size_t i = line * size; i < (line + 1) * size; ++i) {
-      const Shade inked = mix(ball[i], ink, coverage(strokeHalf - std::min(left[i], right[i])));
-      const Shade shade = mix({255, 255, 255}, inked, insideBall()[i]);
-      for (double part : {shade.blue, shade.green, shade.red}) bytes += static_cast<char>(std::lround(part));
-    }
+  std::string bytes = kind == BallKind::white ? white : extra;
+  for (std::size_t i = 0; i < pixels; ++i) {
+    const double ink = coverage(strokeHalf - std::min(left[i], right[i]));
+    if (ink > 0) paint(bytes, bareBall(kind), i, ink);
   }
   return bytes;
 }
