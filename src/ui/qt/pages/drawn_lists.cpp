@@ -32,7 +32,7 @@ std::string titleOf(LineField field, Game game) {
     case LineField::extra:
       return std::string(extraBallName(game));
     case LineField::amount:
-      return join("Amount", amountUnit);
+      return join("Amount (", amountUnit, ")");
     case LineField::matched:
       return "Matched";
     case LineField::prize:
@@ -98,6 +98,11 @@ GameOfLines gameOnShowOf(const GameFrames& frames) {
 LineColumns columnsFor(const LineFields& fields, Game game) {
   LineColumns columns;
   for (const LineField field : fields) columns.push_back({field, titleOf(field, game)});
+  // Beside numbers there is little room; what it is the list's heading says.
+  const bool hasNumbers = std::ranges::find(fields, LineField::whites) != fields.end();
+  for (LineColumn& column : columns) {
+    if (hasNumbers && column.field == LineField::amount) column.title = amountUnit;
+  }
   return columns;
 }
 

@@ -44,8 +44,8 @@ enum class LineField : std::uint8_t {
   figure    ///< of a table: anything else
 };
 
-/// Behind the title of a column of amounts: record books have "40" for forty million dollars.
-inline constexpr std::string_view amountUnit = " ($ million)";
+/// What amounts are in: record books have "40" for forty million dollars.
+inline constexpr std::string_view amountUnit = "$ million";
 
 struct LineColumn {
   LineField field;
