@@ -34,7 +34,7 @@ QRectF centred(const QRectF& ball, double share) {
 
 void paintBody(QPainter& painter, const QRectF& ball, const BallLook& look, const BallColors& colors) {
   painter.setRenderHint(QPainter::Antialiasing);
-  const double outline = std::max(1.0, ball.width() * (look.hovered ? 0.06 : 0.035));
+  const double outline = std::max(1.5, ball.width() * (look.hovered ? 0.07 : 0.045));
   painter.setPen(Qt::NoPen);
   painter.setBrush(colors.ground);
   painter.drawPath(ballShape(ball, look.isSquare));
@@ -77,7 +77,7 @@ void paintDots(QPainter& painter, const QRectF& ball, const BallLook& look, cons
 }
 
 void paintFocus(QPainter& painter, const QRectF& ball, const BallLook& look, const QPalette& palette) {
-  const QColor ground = palette.color(QPalette::Window);
+  const QColor ground = theme::outlinedGround(palette);
   const QColor ring =
       theme::standingOutFrom(ground, palette.color(QPalette::Highlight), theme::shapeContrast);
   painter.setBrush(Qt::NoBrush);
@@ -122,7 +122,9 @@ BallColors ballColors(const BallLook& look, const QPalette& palette) {
   if (!look.enabled)
     colors.text = theme::standingOutFrom(fill, theme::mixed(colors.text, fill, 0.5), theme::shapeContrast);
   colors.caps = theme::standingOutFrom(fill, theme::mixed(fill, colors.text, 0.5), theme::shapeContrast);
-  colors.outline = theme::standingOutFrom(window, theme::mixed(fill, window, 0.2), theme::shapeContrast);
+  colors.outline = theme::standingOutFrom(
+      theme::outlinedGround(palette),
+      look.fill.isValid() ? theme::mixed(fill, window, 0.2) : theme::outline(palette), theme::shapeContrast);
   return colors;
 }
 

@@ -66,7 +66,7 @@ void BallPicture::paintEvent(QPaintEvent*) {
     return;
   }
   const LineBallKind kind = isExtraBall_ ? extraBallOf(game_) : LineBallKind::white;
-  const QColor ground = palette().color(QPalette::Window);
+  const QColor ground = theme::outlinedGround(palette());
   BallColors colors = lineBallColors(kind, ground, palette());
   if (number_.isEmpty()) {
     colors.ground = theme::mixed(unmarkedFill(palette()), ground, 0.6);

@@ -30,7 +30,7 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
 }
 
 void FocusStyle::drawRing(QPainter& painter, const QRect& area, const QPalette& palette, int width) {
-  const QColor ground = palette.color(QPalette::Window);
+  const QColor ground = theme::outlinedGround(palette);
   const double half = width / 2.0;
   painter.save();
   painter.setBrush(Qt::NoBrush);

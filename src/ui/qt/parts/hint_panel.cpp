@@ -88,7 +88,7 @@ QSize HintPanel::sizeHint() const {
   const int room = width() - sign_->width() - 2 * theme::gap - 2 * frameWidth();
   int needed = theme::gap + 2 * frameWidth() + theme::halfGap / 2;
   for (const QLabel* label : {heading_, text_}) {
-    if (!label->text().isEmpty()) needed += label->heightForWidth(room);
+    if (!label->isHidden()) needed += label->heightForWidth(room);
   }
   return {20 * fontMetrics().averageCharWidth(), std::max(usual, needed)};
 }

@@ -16,7 +16,7 @@ constexpr int selectedBar = 3;
 constexpr int focusWidth = 2;
 
 QColor ringColor(const QPalette& palette) {
-  return theme::standingOutFrom(palette.color(QPalette::Window), palette.color(QPalette::Highlight),
+  return theme::standingOutFrom(theme::outlinedGround(palette), palette.color(QPalette::Highlight),
                                 theme::shapeContrast);
 }
 
@@ -94,8 +94,10 @@ void OutlineStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         drawMarkedOutline(*painter, *option, hasKeyboard);
       return;
     case PE_IndicatorRadioButton: {
+      // A thinner circle fades away between the pixels.
       const QRectF circle = circleIn(option->rect);
-      return drawOutline(*painter, circle, *option, circle.width() / 2);
+      const QPen pen(theme::outline(option->palette, option->state.testFlag(State_Enabled)), 1.5);
+      return drawOutline(*painter, circle, pen, circle.width() / 2);
     }
     default:
       return;

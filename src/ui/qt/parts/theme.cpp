@@ -123,8 +123,14 @@ void makeReadable() {
   if (colors != now) QApplication::setPalette(colors);
 }
 
+QColor outlinedGround(const QPalette& palette) {
+  constexpr int pageShare = 150;
+  if (!isDark(palette)) return palette.color(QPalette::Window);
+  return palette.color(QPalette::Button).lighter(pageShare);
+}
+
 QColor outline(const QPalette& palette, bool isEnabled) {
-  const QColor ground = palette.color(QPalette::Window);
+  const QColor ground = outlinedGround(palette);
   const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
   // On a desktop of high contrast the lines have it too.
   const double share = contrast(ground, ink) > highContrast ? 0.7 : 0.4;

@@ -46,6 +46,9 @@ QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastC
 /// apart for what cannot be used.
 void makeReadable();
 
+/// What outlines have to stand out from: the window or, on dark desktops, the pages of tabs, which are
+/// lighter.
+QColor outlinedGround(const QPalette& palette);
 /// Of fields, lists and buttons. What cannot be used has a weaker one.
 QColor outline(const QPalette& palette, bool isEnabled = true);
 

@@ -84,7 +84,7 @@ NavigationBarView::NavigationBarView(MainForm& form, FormWindow& window)
   auto* draws = drawsButton(this);
   auto* settings = settingsButton(this);
 
-  auto* games = row(0);
+  auto* games = row(theme::halfGap / 2);
   games->addWidget(powerBall_);
   games->addWidget(megaMillions_);
   auto* bar = new Flow;
