@@ -100,6 +100,16 @@ void makeHintsReadable(QPalette& colors) {
     colors.setColor(QPalette::PlaceholderText, readable);
 }
 
+/// The toolkit's own white on blue is not.
+void makeSelectionReadable(QPalette& colors) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    const QColor text = colors.color(group, QPalette::HighlightedText);
+    const QColor ground = colors.color(group, QPalette::Highlight);
+    if (contrast(text, ground) < textContrast)
+      colors.setColor(group, QPalette::Highlight, standingOutFrom(text, ground, textContrast));
+  }
+}
+
 /// Some desktops of high contrast have one colour for both.
 void tellDisabledApart(QPalette& colors) {
   for (const auto& [text, ground] :
@@ -119,6 +129,7 @@ void makeReadable() {
   const QPalette now = QGuiApplication::palette();
   QPalette colors = now;
   makeHintsReadable(colors);
+  makeSelectionReadable(colors);
   tellDisabledApart(colors);
   if (colors != now) QApplication::setPalette(colors);
 }

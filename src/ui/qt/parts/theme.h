@@ -42,8 +42,8 @@ QColor mixed(const QColor& under, const QColor& over, double share);
 /// `wanted`, moved towards black or white until it has at least that contrast with `ground`.
 QColor standingOutFrom(const QColor& ground, const QColor& wanted, double leastContrast);
 
-/// Gives the application's palette colours that are readable for hints in empty fields, and that are told
-/// apart for what cannot be used.
+/// Gives the application's palette colours that are readable for hints in empty fields and for what is
+/// selected, and that are told apart for what cannot be used.
 void makeReadable();
 
 /// What outlines have to stand out from: the window or, on dark desktops, the pages of tabs, which are
