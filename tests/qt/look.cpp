@@ -2,6 +2,8 @@
 #include "qt/look.h"
 
 #include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/line_header.h"
+#include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/theme.h"
 
 #include <QAbstractItemView>
@@ -17,6 +19,7 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -217,6 +220,138 @@ void expectContrast(const QWidget& widget) {
       << nameOf(widget) << ": " << text.name().toStdString() << " on " << under.name().toStdString();
 }
 
+/// A window as it is painted.
+class Painted {
+ public:
+  explicit Painted(QWidget& window) : image_(window.grab().toImage()), scale_(image_.devicePixelRatio()) {}
+
+  /// The strongest contrast in a part of the window with what most of it is.
+  double ofInk(const QRect& area) const {
+    const QHash<QRgb, int> counts = colorsIn(area);
+    const auto ground = std::max_element(counts.cbegin(), counts.cend());
+    double strongest = 1;
+    for (const QRgb color : counts.keys())
+      strongest = std::max(strongest, theme::contrast(QColor(color), QColor(ground.key())));
+    return strongest;
+  }
+
+  /// Of the lightest and the darkest colour.
+  double ofRange(const QRect& area) const {
+    double strongest = 1;
+    for (const QRgb one : colorsIn(area).keys())
+      for (const QRgb other : colorsIn(area).keys())
+        strongest = std::max(strongest, theme::contrast(QColor(one), QColor(other)));
+    return strongest;
+  }
+
+  /// The weakest of the strongest contrasts on the ways over the middles of the sides that are in sight.
+  double ofEdge(const QRect& area, const QRect& sight) const {
+    const QPoint middle = area.center();
+    double weakest = theme::contrast(Qt::black, Qt::white);
+    for (const QRect& way :
+         {QRect(area.left() - 2, middle.y(), 6, 1), QRect(area.right() - 3, middle.y(), 6, 1),
+          QRect(middle.x(), area.top() - 2, 1, 6), QRect(middle.x(), area.bottom() - 3, 1, 6)}) {
+      if (sight.contains(way)) weakest = std::min(weakest, ofRange(way));
+    }
+    return weakest;
+  }
+
+ private:
+  QHash<QRgb, int> colorsIn(const QRect& area) const {
+    const QRectF part(QPointF(area.topLeft()) * scale_, QSizeF(area.size()) * scale_);
+    const QRect pixels = part.toRect() & image_.rect();
+    QHash<QRgb, int> counts;
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y)
+      for (int x = pixels.left(); x <= pixels.right(); ++x) ++counts[image_.pixel(x, y)];
+    return counts;
+  }
+
+  QImage image_;
+  double scale_;
+};
+
+/// `area` of a widget, where all of it is in sight.
+void expectInk(const Painted& painted, const QWidget& widget, const QRect& area, const QString& what) {
+  const QRect part = area.translated(inWindow(widget).topLeft());
+  if (what.trimmed().isEmpty() || area.isEmpty() || !seenPart(widget).contains(part)) return;
+  EXPECT_GE(painted.ofInk(part), theme::textContrast) << nameOf(widget) << ": " << what.toStdString();
+}
+
+void expectEdge(const Painted& painted, const QWidget& widget, const QRect& area) {
+  QRect sight = widget.window()->rect();
+  for (const QWidget* around = widget.parentWidget(); around != nullptr; around = around->parentWidget())
+    sight &= inWindow(*around);
+  EXPECT_GE(painted.ofEdge(area.translated(inWindow(widget).topLeft()), sight), theme::shapeContrast)
+      << nameOf(widget) << " has no outline";
+}
+
+/// Something stands out on the way, where all of it is in sight.
+void expectWay(const Painted& painted, const QWidget& widget, const QRect& way) {
+  const QRect part = way.translated(inWindow(widget).topLeft());
+  EXPECT_TRUE(!seenPart(widget).contains(part) || painted.ofRange(part) >= theme::shapeContrast)
+      << nameOf(widget);
+}
+
+void expectPaintedCells(const Painted& painted, const QAbstractItemView& view) {
+  const auto* list = dynamic_cast<const LineList*>(&view);
+  const bool hasColumns = list != nullptr && list->header() != nullptr;
+  for (const auto* header : view.findChildren<QHeaderView*>()) {
+    for (int i = 0; header->isVisible() && i < header->count(); ++i)
+      expectInk(painted, *header->viewport(),
+                {header->sectionViewportPosition(i), 0, header->sectionSize(i), header->height()},
+                header->model()->headerData(i, header->orientation()).toString());
+  }
+  for (int row = 0; view.model() != nullptr && row < view.model()->rowCount(); ++row) {
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+      const QModelIndex cell = view.model()->index(row, column);
+      const QRect area = view.visualRect(cell);
+      if (area.top() > view.viewport()->height()) return;
+      expectInk(painted, *view.viewport(), area, cell.data().toString());
+      // The picture of a chart's colour.
+      if (!cell.data(Qt::DecorationRole).isNull())
+        expectWay(painted, *view.viewport(), QRect(area.left(), area.center().y(), 2 * theme::gap, 1));
+    }
+    for (std::size_t i = 0; hasColumns && i < list->columns().size(); ++i) {
+      const QModelIndex line = view.model()->index(row, 0);
+      const auto cells = cellsOf(list->columns(), line.data().toString().toStdString(), "matched");
+      if (cells && list->columns()[i].field <= LineField::extra)
+        expectInk(painted, *view.viewport(), list->header()->cell(static_cast<int>(i), view.visualRect(line)),
+                  QStringLiteral("a cell"));
+    }
+  }
+}
+
+/// What the program or its style paints by hand.
+void expectPainted(const Painted& painted, const QWidget& leaf) {
+  const QRect area = leaf.rect();
+  const auto* button = qobject_cast<const QAbstractButton*>(&leaf);
+  if (const auto* view = qobject_cast<const QAbstractItemView*>(&leaf)) expectPaintedCells(painted, *view);
+  if (const auto* label = qobject_cast<const QLabel*>(&leaf)) {
+    if (Qt::mightBeRichText(label->text())) expectInk(painted, leaf, area, label->text());
+    return;
+  }
+  if (!leaf.isEnabled()) {
+    const QPalette& colors = leaf.palette();
+    EXPECT_GE(theme::contrast(colors.color(QPalette::Active, leaf.foregroundRole()),
+                              colors.color(QPalette::Disabled, leaf.foregroundRole())),
+              theme::changeContrast)
+        << nameOf(leaf) << " looks as if it could be used";
+  } else if (qobject_cast<const BallButton*>(button) != nullptr) {
+    const int side = std::min(area.width(), area.height());
+    const QRect ball((area.width() - side) / 2 + 3, (area.height() - side) / 2 + 3, side - 7, side - 7);
+    expectEdge(painted, leaf, ball);
+    expectInk(painted, leaf, ball.adjusted(side / 4, side / 4, -side / 4, -side / 4), button->text());
+  } else if (qobject_cast<const QRadioButton*>(button) != nullptr) {
+    QStyleOptionButton option;
+    option.initFrom(button);
+    expectEdge(painted, leaf, leaf.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, &leaf));
+  } else if (isOneOf<QAbstractSpinBox>(leaf.parentWidget())) {
+    expectEdge(painted, *leaf.parentWidget(), leaf.parentWidget()->rect());
+  } else if (isOneOf<QPushButton, QLineEdit, QComboBox, QAbstractItemView, QTextEdit>(&leaf)) {
+    expectEdge(painted, leaf, area);
+  }
+}
+
 bool takesTab(const QWidget& widget) {
   return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr;
 }
@@ -268,6 +403,27 @@ void expectVisibleFocus(QWidget& window) {
 
 }  // namespace
 
+QPalette lightPalette() {
+  return {QColor(239, 239, 239)};
+}
+
+QPalette darkPalette() {
+  QPalette colors(QColor(53, 53, 53), QColor(35, 35, 35));
+  colors.setColor(QPalette::Highlight, QColor(48, 140, 198));
+  colors.setColor(QPalette::Link, QColor(48, 140, 198));
+  return colors;
+}
+
+QPalette highContrastPalette() {
+  QPalette colors(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black,
+                  Qt::black);
+  colors.setColor(QPalette::Highlight, Qt::yellow);
+  colors.setColor(QPalette::HighlightedText, Qt::black);
+  colors.setColor(QPalette::Link, Qt::yellow);
+  colors.setColor(QPalette::PlaceholderText, Qt::white);
+  return colors;
+}
+
 void look(QWidget& window) {
   seen.insert(typeid(window).name());
   static int pictures = 0;
@@ -281,7 +437,9 @@ void look(QWidget& window) {
   expectSpoken(window);
   const std::vector<QWidget*> leaves = leavesOf(window);
   expectNoOverlap(leaves);
+  const Painted painted(window);
   for (const QWidget* leaf : leaves) {
+    expectPainted(painted, *leaf);
     expectInside(*leaf);
     expectWholeText(*leaf);
     if (leaf->isEnabled() && !isOneOf<BallButton>(leaf)) expectContrast(*leaf);

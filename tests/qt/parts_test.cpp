@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Balls that everybody can read, and lists that find and emphasise among many lines.
+#include "qt/look.h"
 #include "ui/qt/parts/ball.h"
 #include "ui/qt/parts/line_ball.h"
 #include "ui/qt/parts/line_list.h"
@@ -20,14 +21,12 @@ const Color ballColors_[] = {colors::buttonFace, colors::threeDLight, colors::cy
                              colors::magenta,    colors::red,         colors::lightBlue,
                              colors::green,      colors::yellow,      colors::lightCyan};
 
-QPalette palette(bool dark) {
-  return dark ? QPalette(QColor(60, 60, 64), QColor(45, 45, 48)) : QPalette(QColor(239, 239, 239));
-}
+const QPalette palettes_[] = {lightPalette(), darkPalette(), highContrastPalette()};
 
 BallLook lookOf(Color color) {
   BallLook look;
   look.number = QStringLiteral("27");
-  if (color.kind == Color::Kind::rgb) look.fill = theme::toQColor(color, palette(false));
+  if (color.kind == Color::Kind::rgb) look.fill = theme::toQColor(color, lightPalette());
   look.mark = ballMarkOf(color);
   look.dots = repeatOf(color);
   return look;
@@ -41,27 +40,25 @@ QImage imageOf(const BallLook& look, const QPalette& colors) {
   return image;
 }
 
-TEST(Balls, HaveReadableNumbersInEveryColourLightAndDark) {
-  for (const bool dark : {false, true}) {
-    ASSERT_EQ(theme::isDark(palette(dark)), dark);
+TEST(Balls, HaveReadableNumbersInEveryColourOnEveryDesktop) {
+  for (const QPalette& colors : palettes_) {
     for (const Color color : ballColors_) {
       BallLook look = lookOf(color);
       for (const bool pressed : {false, true}) {
         look.pressed = pressed;
-        const BallColors painted = ballColors(look, palette(dark));
+        const BallColors painted = ballColors(look, colors);
         EXPECT_GE(theme::contrast(painted.text, painted.ground), theme::textContrast)
-            << color.text() << dark << pressed;
+            << color.text() << pressed;
       }
-      const BallColors painted = ballColors(look, palette(dark));
-      EXPECT_GE(theme::contrast(painted.outline, palette(dark).color(QPalette::Window)), theme::shapeContrast)
-          << color.text() << dark;
+      const BallColors painted = ballColors(look, colors);
+      EXPECT_GE(theme::contrast(painted.outline, colors.color(QPalette::Window)), theme::shapeContrast)
+          << color.text();
     }
   }
 }
 
 TEST(Balls, OfLinesAreReadableOnEveryGround) {
-  for (const bool dark : {false, true}) {
-    const QPalette colors = palette(dark);
+  for (const QPalette& colors : palettes_) {
     for (const QColor& ground : {colors.color(QPalette::Base), colors.color(QPalette::Highlight),
                                  theme::mixed(colors.color(QPalette::Base), theme::winning, 0.14)}) {
       for (const auto kind : {LineBallKind::white, LineBallKind::roundRed, LineBallKind::squareGold}) {
@@ -80,7 +77,7 @@ TEST(Balls, AreToldApartWithoutTheirColours) {
                       colors::green, colors::yellow, colors::lightCyan}) {
     BallLook look = lookOf(color);
     look.fill = Qt::lightGray;
-    const QImage image = imageOf(look, palette(false));
+    const QImage image = imageOf(look, lightPalette());
     EXPECT_FALSE(std::find(images.begin(), images.end(), image) != images.end()) << color.text();
     images.push_back(image);
   }

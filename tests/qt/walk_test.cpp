@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A walk through every window and dialog: usual and large text, light, dark and high contrast, on the screen
-// that the surroundings give (CMakeLists.txt has them).
+// A walk through every window and dialog: usual and large text, light, dark and high contrast, before and
+// after use, on the screen that the surroundings give (CMakeLists.txt has them).
 #include "app/main_form.h"
 #include "core/runtime_error.h"
 #include "qt/desk_fixture.h"
@@ -15,6 +15,7 @@
 #include "ui/qt/windows/help_window.h"
 #include "ui/qt/windows/qt_transfer_window.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QTabWidget>
@@ -23,28 +24,12 @@
 namespace tallywick::test {
 namespace {
 
-QPalette dark() {
-  QPalette colors(QColor(53, 53, 53), QColor(35, 35, 35));
-  colors.setColor(QPalette::Highlight, QColor(48, 140, 198));
-  colors.setColor(QPalette::Link, QColor(48, 140, 198));
-  return colors;
-}
-
-/// As the desktops have it: white on black, chosen and linked in yellow.
-QPalette highContrast() {
-  QPalette colors(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black,
-                  Qt::black);
-  colors.setColor(QPalette::Highlight, Qt::yellow);
-  colors.setColor(QPalette::HighlightedText, Qt::black);
-  colors.setColor(QPalette::Link, Qt::yellow);
-  colors.setColor(QPalette::PlaceholderText, Qt::white);
-  return colors;
-}
-
 struct Setting {
   const char* name;
   int points;
   QPalette palette;
+  /// Marks are set and searches and checks made before the pages are looked at.
+  bool isUsed;
 };
 
 /// The classes of windows that the sources declare, each as it is within the compiler's names.
@@ -120,6 +105,11 @@ class Walk : public Desktop, public testing::WithParamInterface<Setting> {
     }
   }
 
+  void press(const char* window, std::initializer_list<const char*> buttons) {
+    for (const char* name : buttons) widget<QAbstractButton>(window, name).click();
+  }
+  /// The lists get results, numbers are marked, verdicts given and pictures shown.
+  void usePages(FormWindow& main);
   void lookAtDialogs();
   void lookAtBoxes();
 
@@ -129,11 +119,20 @@ class Walk : public Desktop, public testing::WithParamInterface<Setting> {
 };
 
 INSTANTIATE_TEST_SUITE_P(Settings, Walk,
-                         testing::Values(Setting{"Usual", 10, QPalette(QColor(239, 239, 239))},
-                                         Setting{"Dark", 10, dark()},
-                                         Setting{"HighContrast", 10, highContrast()},
-                                         Setting{"Large", 24, QPalette(QColor(239, 239, 239))}),
+                         testing::Values(Setting{"Usual", 10, lightPalette(), false},
+                                         Setting{"Dark", 10, darkPalette(), false},
+                                         Setting{"HighContrast", 10, highContrastPalette(), true},
+                                         Setting{"Large", 24, darkPalette(), true}),
                          [](const auto& instance) { return std::string(instance.param.name); });
+
+void Walk::usePages(FormWindow& main) {
+  auto& pages = *main.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+  main.show();
+  for (int i = pages.count() - 1; i >= 0; --i) pages.setCurrentIndex(i);
+  widget<QComboBox>("Form1", "Combo4").lineEdit()->selectAll();
+  QTest::keyClicks(widget<QComboBox>("Form1", "Combo4").lineEdit(), QStringLiteral("2 3"));
+  press("Form1", {"Command37", "Command38", "Option2", "Command47", "Command52", "Command3"});
+}
 
 void Walk::lookAtDialogs() {
   const Day today = *parseDay(clock.date());
@@ -171,6 +170,7 @@ TEST_P(Walk, ThroughEveryWindow) {
   platform.onShowsMadeUpDraws = [&] { return isAllShown; };
   platform.onUpdateNote = [&] { return isAllShown ? "The newest draws are not there yet." : ""; };
   FormWindow& main = open("Form1");
+  if (GetParam().isUsed) usePages(main);
   lookAtTabs(main, *main.findChild<QTabWidget*>(QStringLiteral("SSTab1")));
   isAllShown = true;
   platform.run([] {});
@@ -179,7 +179,14 @@ TEST_P(Walk, ThroughEveryWindow) {
     platform.progress({2048, 1, 3});
     lookAt(main);
   });
-  for (const char* name : {"Form3", "Form5", "frmAbout", "frmSplash"}) lookAt(open(name));
+  for (const char* name : {"Form3", "Form5", "frmAbout", "frmSplash"}) {
+    FormWindow& window = open(name);
+    auto* selection = dynamic_cast<SelectionForm*>(&window.form());
+    for (const int number : {1, 2, 3, 4, 5, 5, 6}) {
+      if (GetParam().isUsed && selection != nullptr) press(name, {selection->button(number).name().c_str()});
+    }
+    lookAt(window);
+  }
   HelpWindow::showPage(QStringLiteral("index.html"));
   for (QWidget* each : QApplication::topLevelWidgets()) {
     auto* help = dynamic_cast<HelpWindow*>(each);
