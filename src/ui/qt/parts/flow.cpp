@@ -3,6 +3,7 @@
 
 #include "ui/qt/parts/theme.h"
 
+#include <QShowEvent>
 #include <QSpacerItem>
 #include <QWidget>
 #include <algorithm>
@@ -157,9 +158,20 @@ QSize Sides::minimumSizeHint() const {
   return {widest, QSplitter::minimumSizeHint().height()};
 }
 
-void Sides::resizeEvent(QResizeEvent* event) {
+void Sides::arrange() {
+  // A page that was not shown yet has no width of its own, and the others would be as high as it.
+  if (!isVisible()) return;
   const Qt::Orientation fitting = width() < neededWidth() ? Qt::Vertical : Qt::Horizontal;
   if (orientation() != fitting) setOrientation(fitting);
+}
+
+void Sides::showEvent(QShowEvent* event) {
+  arrange();
+  QSplitter::showEvent(event);
+}
+
+void Sides::resizeEvent(QResizeEvent* event) {
+  arrange();
   QSplitter::resizeEvent(event);
 }
 

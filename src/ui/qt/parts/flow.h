@@ -62,9 +62,11 @@ class Sides : public QSplitter {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   int neededWidth() const;
+  void arrange();
 
   const Room room_;
 };

@@ -85,12 +85,15 @@ void HintPanel::show(Kind kind, const QString& heading, const QString& text) {
 
 QSize HintPanel::sizeHint() const {
   const int usual = lines_ * (fontMetrics().lineSpacing() + 1) + 2 * theme::gap;
+  const int letters = 20 * fontMetrics().averageCharWidth();
+  // On a page that was not shown yet it has no width of its own.
+  if (!testAttribute(Qt::WA_Resized)) return {letters, usual};
   const int room = width() - sign_->width() - 2 * theme::gap - 2 * frameWidth();
   int needed = theme::gap + 2 * frameWidth() + theme::halfGap / 2;
   for (const QLabel* label : {heading_, text_}) {
     if (!label->isHidden()) needed += label->heightForWidth(room);
   }
-  return {20 * fontMetrics().averageCharWidth(), std::max(usual, needed)};
+  return {letters, std::max(usual, needed)};
 }
 
 QSize HintPanel::minimumSizeHint() const {
