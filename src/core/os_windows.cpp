@@ -70,8 +70,8 @@ void retryWhileHeld(Step step, const fs::path& file) {
   for (;;) {
     const DWORD error = step();
     if (error == ERROR_SUCCESS) return;
-    const bool mayPass =
-        error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !isFolder(file));
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_USER_MAPPED_FILE ||
+                         (error == ERROR_ACCESS_DENIED && !isFolder(file));
     if (!mayPass || std::chrono::steady_clock::now() >= until) fail(error, file);
     std::this_thread::sleep_for(10ms);
   }

@@ -97,7 +97,7 @@ RuntimeError runtimeErrorFrom(std::error_code code, const std::filesystem::path&
   } else if (is(std::errc::not_a_directory)) {
     number = ErrorNumber::pathNotFound;
   } else if (is(std::errc::permission_denied) || is(std::errc::operation_not_permitted) ||
-             is(std::errc::read_only_file_system)) {
+             is(std::errc::read_only_file_system) || is(std::errc::device_or_resource_busy)) {
     number = ErrorNumber::permissionDenied;
   } else if (is(std::errc::no_space_on_device) || is(std::errc::file_too_large)) {
     number = ErrorNumber::diskFull;
