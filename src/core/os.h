@@ -130,6 +130,10 @@ bool canRun(const std::filesystem::path& program);
 void startProgram(const std::filesystem::path& program, const std::filesystem::path& argument,
                   const std::filesystem::path& workingFolder);
 
+/// Whether `error`, an error number of the platform's sockets, says that nobody listens where a connection
+/// was asked for.
+bool saysRefused(long error);
+
 /// Lets a program with windows write to the console that it was started from; where every program does so,
 /// nothing.
 void joinConsole();

@@ -335,6 +335,10 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   if (error != 0) failToStart(program, error);
 }
 
+bool saysRefused(long error) {
+  return error == ECONNREFUSED;
+}
+
 void joinConsole() {}
 
 bool isTerminalBehindErrors() {

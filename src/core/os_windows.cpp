@@ -350,6 +350,10 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   ::CloseHandle(process.hProcess);
 }
 
+bool saysRefused(long error) {
+  return error == WSAECONNREFUSED;
+}
+
 void joinConsole() {
   // Handles that lead somewhere were given on purpose.
   if (::GetStdHandle(STD_OUTPUT_HANDLE) != nullptr || ::AttachConsole(ATTACH_PARENT_PROCESS) == 0) return;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "update/curl_errors.h"
 
+#include "core/os.h"
 #include "core/text.h"
 #include "update/transfer_errors.h"
 
 #include <algorithm>
 #include <array>
-#include <system_error>
 #include <utility>
 
 namespace tallywick {
@@ -65,7 +65,7 @@ std::string_view timedOutAt(const CurlOperation& operation, Asked asked) {
 bool wasRefused(const CurlOperation& operation) {
   long number = 0;
   curl_easy_getinfo(operation.handle(), CURLINFO_OS_ERRNO, &number);
-  return std::error_code(static_cast<int>(number), std::system_category()) == std::errc::connection_refused;
+  return os::saysRefused(number);
 }
 
 Meaning meaningOf(CURLcode result, const CurlOperation& operation, Asked asked) {
