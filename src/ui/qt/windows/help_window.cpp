@@ -69,12 +69,12 @@ class ManualText : public QTextBrowser {
       unread_.clear();
     }
     if (type != QTextDocument::ImageResource) return loaded;
-    const QByteArray data = loaded.toByteArray();
+    const QByteArray bytes = loaded.toByteArray();
     QBuffer file;
-    file.setData(data);
+    file.setData(bytes);
     QImage blank(fittedSize(QImageReader(&file).size()), QImage::Format_ARGB32_Premultiplied);
     blank.fill(Qt::transparent);
-    unread_.emplace_back(name, data);
+    unread_.emplace_back(name, bytes);
     reading_.start(0);
     return blank;
   }
@@ -111,9 +111,9 @@ class ManualText : public QTextBrowser {
   /// One after the other, so that no step is long.
   void readPicture() {
     if (unread_.empty()) return reading_.stop();
-    const auto [name, data] = unread_.front();
+    const auto [name, bytes] = unread_.front();
     unread_.erase(unread_.begin());
-    const QImage picture = QImage::fromData(data);
+    const QImage picture = QImage::fromData(bytes);
     pictures_.insert(name, picture);
     document()->addResource(QTextDocument::ImageResource, name, fitted(picture));
     viewport()->update();
