@@ -20,9 +20,10 @@ TEST(ErrorExplained, SaysInWholeSentencesWhereAndWhatToDo) {
         ErrorNumber::fileNotFound, ErrorNumber::diskFull, ErrorNumber::inputPastEnd,
         ErrorNumber::permissionDenied, ErrorNumber::pathFileAccess, ErrorNumber::pathNotFound}) {
     const std::string text = errorExplained(RuntimeError(number, "QZRNUM6.Dat, record 3"));
-    EXPECT_THAT(text, testing::MatchesRegex(
-                          "Where: QZRNUM6.Dat, record 3\n\nThis is the file of the draws[.]\n\n.*[.]"
-                          "\n\n[A-Z].*[a-z)][.]"));
+    EXPECT_THAT(text,
+                testing::AllOf(testing::StartsWith("Where: QZRNUM6.Dat, record 3\n\nThis is the file of "
+                                                   "the draws.\n\n"),
+                               testing::HasSubstr(".\n\n"), testing::EndsWith(".")));
   }
   const auto explained = [](const std::string& where) {
     return errorExplained(RuntimeError(ErrorNumber::inputPastEnd, where));

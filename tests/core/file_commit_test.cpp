@@ -73,7 +73,7 @@ TEST_F(FileCommits, AFileThatIsHeldOpenOrReadOnlyStopsTheChangeBeforeItBegins) {
   };
   change();
   const std::string before = files();
-  for (const DWORD shared : {0, FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE}) {
+  for (const DWORD shared : {0UL, 0UL + FILE_SHARE_READ, 0UL + FILE_SHARE_READ + FILE_SHARE_WRITE}) {
     const HANDLE holder =
         ::CreateFileW(held.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, 0, nullptr);
     EXPECT_EQ(raisedBy(change).number, 70) << shared;

@@ -181,13 +181,16 @@ TEST_F(MergeOfAFolder, ChangesTheDrawsAloneOnceAndLeavesItWhereItFails) {
     const bool isMerged = name.find("QZR6PWR/QZRNUM") != std::string::npos || name.ends_with("QzrPwr.Win");
     EXPECT_TRUE(isMerged || after.at(name) == text) << name;
   }
-  const auto longAgo = std::filesystem::file_time_type() + std::chrono::hours(1);
   const auto draws = scratch.folder().resolve("QzrNumbers/QZR6PWR/QZRNUM6.Dat");
-  for (const auto& entry : {draws, draws.parent_path()}) std::filesystem::last_write_time(entry, longAgo);
+  const auto written = test::makeOld(draws);
+  // The library cannot give a folder a time everywhere. A folder that keeps it had no lock in it.
+  const auto changed = test::hasPosixFiles ? test::makeOld(draws.parent_path()) : written;
   merge(200);
   EXPECT_EQ(scratch.snapshot(), after);
-  EXPECT_EQ(std::filesystem::last_write_time(draws), longAgo) << "nothing was written";
-  EXPECT_EQ(std::filesystem::last_write_time(draws.parent_path()), longAgo) << "there was no lock";
+  EXPECT_EQ(std::filesystem::last_write_time(draws), written) << "nothing was written";
+  if (test::hasPosixFiles) {
+    EXPECT_EQ(std::filesystem::last_write_time(draws.parent_path()), changed) << "there was no lock";
+  }
 }
 
 TEST_F(MergeOfAFolder, IsAtWorkAloneFollowsNoLinkAndMakesAMissingGame) {

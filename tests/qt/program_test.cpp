@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program as it is started.
+#include "support/host.h"
 #include "support/scratch_folder.h"
 
 #include <QImage>
@@ -98,6 +99,7 @@ TEST_F(Program, EndsWithAMessageWhateverItsSurroundingsLack) {
   const Outcome unwritable = run(pictureOf({}));
   EXPECT_EQ(unwritable.exitCode, 1);
   EXPECT_NE(unwritable.errors.find("window.png cannot be written"), std::string::npos);
+  if (!hasPosixFiles) return;  // A folder that a program runs in stays.
   QProcess shell;
   shell.start(
       QStringLiteral("/bin/sh"),

@@ -47,7 +47,7 @@ class SortTool : public testing::Test {
 
   test::ScratchFolder scratch;
   const std::string plays = "QzrNumbers/QZR6PWR/qzr6pwr1.ply";
-  const std::filesystem::path file = scratch.root() / plays;
+  const std::filesystem::path file = (scratch.root() / plays).make_preferred();
   std::string errors;
 };
 
@@ -63,8 +63,7 @@ TEST_F(SortTool, SortsTheCommittedPlaysOfItsFolderAndNothingElse) {
   expected["QzrNumbers/QZR6MEG/QZR6MEG1.Ply"] = records({lastYear, january});
   EXPECT_EQ(scratch.snapshot(), expected);
 
-  const auto longAgo = std::filesystem::file_time_type() + std::chrono::hours(1);
-  std::filesystem::last_write_time(file, longAgo);
+  const auto longAgo = test::makeOld(file);
   EXPECT_EQ(run(), 0);
   EXPECT_EQ(std::filesystem::last_write_time(file), longAgo) << "it was in order";
 }

@@ -14,7 +14,7 @@ class RealServer : public TransferTest {
  protected:
   void SetUp() override {
     TransferTest::SetUp();
-    const std::filesystem::path folder = tree.root() / "root/D:/QZR/Z1-Pwr/Qzr6";
+    const std::filesystem::path folder = driveOf(tree.root() / "root") / "QZR/Z1-Pwr/Qzr6";
     putText(folder / "QZRNUM6.Dat", draws);
     putText(folder / "empty", "");
     putText(folder / "odd #1;type=a %41.Win", "odd");
@@ -22,7 +22,7 @@ class RealServer : public TransferTest {
   }
 
   ServerProcess serve(std::vector<std::string> wishes = {}) {
-    wishes.insert(wishes.begin(), {(tree.root() / "root").string(), (tree.root() / "log").string()});
+    wishes.insert(wishes.begin(), {served(tree.root() / "root").string(), (tree.root() / "log").string()});
     return ServerProcess("good_server.py", wishes);
   }
   std::vector<std::string> commands(const std::string& verb) {
@@ -87,8 +87,8 @@ TEST_F(RealServer, TakesFilesAndFolders) {
   component->createDirectory("/D:/new");
   EXPECT_TRUE(component->directoryExists("/D:/new"));
   component->upload(pwrHere, "*.*", "/D:/new/");
-  EXPECT_EQ(textOf(tree.root() / "root/D:/new/qzrnum6.dat"), "old draws");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(tree.root() / "root/D:/new"), {}), 2);
+  EXPECT_EQ(textOf(driveOf(tree.root() / "root") / "new/qzrnum6.dat"), "old draws");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(driveOf(tree.root() / "root") / "new"), {}), 2);
   EXPECT_THAT(errorOf([&] { component->createDirectory("/D:/new"); }), testing::HasSubstr("refuses"));
   EXPECT_THAT(errorOf([&] { component->createDirectory("x\r\nDELE y"); }),
               testing::HasSubstr("not a folder"));

@@ -2,6 +2,8 @@
 // FTP servers of the tests' own, each a process on a free port of the loopback that ends with its object.
 #pragma once
 
+#include "support/host.h"
+
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
@@ -15,6 +17,8 @@
 
 #ifdef _WIN32
 #include <winsock2.h>
+// A macro there, a class here.
+#undef MessageBox
 #else
 #include <sys/wait.h>
 #include <unistd.h>
@@ -161,14 +165,29 @@ inline std::string textOf(const std::filesystem::path& file) {
   return text.str();
 }
 
+/// What a server shows as its root, so that driveOf(tree), which exists, is "/D:/" there.
+inline std::filesystem::path served(const std::filesystem::path& tree) {
+  if (hasPosixFiles) return tree;
+  // The tree itself, as the server follows no link that leads out of its root.
+  const std::filesystem::path root = tree.parent_path() / "served";
+  const std::string drive = root.string() + "/D:";
+  shell("if [ ! -L " + tree.string() + " ]; then mkdir " + root.string() + " && mv " + tree.string() + " " +
+        drive + " && ln -s " + drive + " " + tree.string() + "; fi");
+  return root;
+}
+
 inline void putText(const std::filesystem::path& file, const std::string& text) {
   std::filesystem::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << text;
 }
 
+/// What a certificate of the tests' servers is for. The second name is for Windows, whose library compares
+/// names alone.
+inline constexpr const char* thisComputer = "IP:127.0.0.1,DNS:127.0.0.1";
+
 /// A certificate with its key, in one file. Without an `authority`, the file of another one, it vouches for
 /// itself.
-inline void makeCertificate(const std::string& file, const std::string& owner = "IP:127.0.0.1",
+inline void makeCertificate(const std::string& file, const std::string& owner = thisComputer,
                             const std::string& authority = "") {
   const std::string signer = authority.empty() ? "" : " -CA " + authority + " -CAkey " + authority + ".key";
   const std::string make =

@@ -101,8 +101,8 @@ class TransferTest : public testing::Test {
       const std::string all = join(error.what(), error.where(), error.boxText());
       EXPECT_EQ(all.find(serverPassword), std::string::npos) << all;
       EXPECT_EQ(all.find(serverLogin), std::string::npos) << all;
-      EXPECT_TRUE(std::ranges::all_of(all, [](char byte) {
-        return byte == '\n' || (byte >= ' ' && byte <= '~');
+      EXPECT_TRUE(std::ranges::all_of(all, [](char letter) {
+        return letter == '\n' || (letter >= ' ' && letter <= '~');
       })) << "bytes of the server's choice reach the terminal";
       return error.description();
     }

@@ -40,6 +40,8 @@ std::string outputOf(const std::string& lines, const ScratchFolder& book, const 
 }
 
 TEST(WholeUpdate, BringsPublishedDrawsAndSortsWhatIsStillToCome) {
+  // Published on Windows, where one folder has both spellings, and served where it has not.
+  if (!hasPosixFiles) GTEST_SKIP() << "needs a server that takes both spellings of a folder";
   const ScratchFolder newer;
   const ScratchFolder book;
   setup::writeFolder(newer.root(), setup::sampleContents(newerDay, seed));
@@ -85,7 +87,7 @@ TEST(WholeUpdate, BringsExportedDrawsOnceAndMovesDrawnPlays) {
   const ScratchFolder web;
   const auto file = [&](const char* name) { return (web.root() / name).string(); };
   makeCertificate(file("authority"));
-  makeCertificate(file("certificate"), "IP:127.0.0.1", file("authority"));
+  makeCertificate(file("certificate"), thisComputer, file("authority"));
   const ServerProcess server("web_server.py", {file("certificate"), file("log")});
   const ScratchFolder book;
   setup::writeFolder(book.root(), setup::sampleContents(olderDay, seed));
