@@ -147,7 +147,9 @@ void ChartView::arrange() {
   int needed = 2 * table_->frameWidth() + table_->verticalScrollBar()->sizeHint().width();
   for (int column = 0; column < table_->columnCount(); ++column)
     needed += std::max(titles.sectionSizeHint(column), table.sizeHintForColumn(column));
-  const bool isNarrow = width() < needed + plotLetters * fontMetrics().averageCharWidth();
+  // On a page that was not shown yet it has no width of its own.
+  const bool isNarrow =
+      testAttribute(Qt::WA_Resized) && width() < needed + plotLetters * fontMetrics().averageCharWidth();
   parts_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   table_->setMinimumWidth(isNarrow ? 0 : needed);
   const int room = isNarrow ? width() : width() - needed;
