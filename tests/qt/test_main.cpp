@@ -57,7 +57,9 @@ int main(int argumentCount, char** arguments) {
   takeOver("TALLYWICK_TEST_SCALE", "QT_SCALE_FACTOR");
   takeOver("TALLYWICK_TEST_FONTS", "QT_QPA_FONTDIR");
   makeScreen("screen.json");
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+  // Not in the registry, where Windows has the user's own.
+  QSettings::setDefaultFormat(QSettings::IniFormat);
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   QCoreApplication::setOrganizationName(QStringLiteral("Tallywick"));
   QCoreApplication::setApplicationName(QStringLiteral("tallywick"));
   QGuiApplication::setQuitOnLastWindowClosed(false);
