@@ -339,8 +339,11 @@ void startProgram(const fs::path& program, const fs::path& argument, const fs::p
   }
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
+  // It gets none of this program's output, which somebody may wait for the end of, and no console opens for
+  // it.
+  startup.dwFlags = STARTF_USESTDHANDLES;
   PROCESS_INFORMATION process{};
-  if (::CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+  if (::CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
                        workingFolder.c_str(), &startup, &process) == 0) {
     const std::error_code error(static_cast<int>(::GetLastError()), std::system_category());
     throw RuntimeError(ErrorNumber::fileNotFound,
