@@ -16,6 +16,7 @@
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/windows/glance_strip.h"
 #include "ui/qt/windows/layout_memory.h"
+#include "ui/qt/windows/list_in_use.h"
 #include "ui/qt/windows/menu_bar.h"
 #include "ui/qt/windows/navigation_bar.h"
 #include "ui/qt/windows/notice_strip.h"
@@ -24,7 +25,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -44,10 +44,6 @@ namespace {
 
 constexpr QSize usualSize = {1080, 800};
 
-/// What every list calls these.
-const QString saveAction = u"&Save…"_s;
-const QString printAction = u"&Print…"_s;
-
 /// In milliseconds: that the window comes up is first, and so is what the user does meanwhile.
 constexpr int beforeNextPage = 200;
 
@@ -65,7 +61,8 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       age_(ageStrip(*this)),
       glance_(new GlanceStrip(form, *this)),
       doublePlayNote_(sentences(this)),
-      pages_(new QTabWidget) {
+      pages_(new QTabWidget),
+      listInUse_(new ListInUse(*pages_)) {
   addPages();
   addMenusAndStatus();
   addKeys();
@@ -271,10 +268,6 @@ void MainWindow::addKeys() {
   answerHelpKey();
   addFileEntries();
   addHelpEntry();
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    auto* list = qobject_cast<QAbstractItemView*>(now);
-    if (list != nullptr && !list->actions().isEmpty() && pages_->isAncestorOf(list)) lastList_ = list;
-  });
 }
 
 void MainWindow::addFileEntries() {
@@ -286,9 +279,7 @@ void MainWindow::addFileEntries() {
   print->setShortcut(QKeySequence::Print);
   connect(print, &QAction::triggered, this,
           [this] { desk().runner.attempt([this] { printSummary(main_, *this); }); });
-  // The lists' own actions, keyPressEvent() and the settings' button have the keys.
-  auto* save = listEntry(u"Sa&ve List…\tCtrl+S"_s, saveAction);
-  auto* printList = listEntry(u"Print &List…\tCtrl+Shift+P"_s, printAction);
+  // The settings' button has the key.
   auto* settings = new QAction(u"S&ettings…\tCtrl+,"_s, this);
   connect(settings, &QAction::triggered, this, [this] {
     desk().runner.attempt([this] { desk().editSettings(); });
@@ -296,7 +287,7 @@ void MainWindow::addFileEntries() {
   });
   file->insertActions(exit, {draws});
   file->insertSeparator(exit);
-  file->insertActions(exit, {print, printList, save});
+  file->insertActions(exit, {print, listInUse_->printEntry(*file), listInUse_->saveEntry(*file)});
   file->insertSeparator(exit);
   file->insertActions(exit, {settings});
   file->insertSeparator(exit);
@@ -315,39 +306,8 @@ void MainWindow::followGlance() {
   glance_->onWins = [showPlays] { showPlays(PlayFilter::won); };
 }
 
-QAction* MainWindow::listEntry(const QString& text, const QString& actionText) {
-  auto* entry = new QAction(text, this);
-  entry->setToolTip(u"The list in use, else the first one of the page"_s);
-  connect(entry, &QAction::triggered, this, [this, actionText] { actOnList(actionText); });
-  const QMenu* file = findChild<QAction*>(toQString(main_.menu.mnuFile.name()))->menu();
-  connect(file, &QMenu::aboutToShow, entry, [this, entry] { entry->setEnabled(listInUse() != nullptr); });
-  return entry;
-}
-
-void MainWindow::actOnList(const QString& actionText) {
-  const QAbstractItemView* list = listInUse();
-  if (list == nullptr) return;
-  for (QAction* action : list->actions()) {
-    if (action->text() == actionText) action->trigger();
-  }
-}
-
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Save))
-    actOnList(saveAction);
-  else if (event->keyCombination() == (Qt::CTRL | Qt::SHIFT | Qt::Key_P))
-    actOnList(printAction);
-  else
-    FormWindow::keyPressEvent(event);
-}
-
-QAbstractItemView* MainWindow::listInUse() const {
-  if (lastList_ && lastList_->isVisible()) return lastList_;
-  for (auto* list : pages_->currentWidget()->findChildren<QAbstractItemView*>()) {
-    const bool isOfPicker = qobject_cast<QComboBox*>(list->parentWidget()) != nullptr;
-    if (list->isVisible() && !list->actions().isEmpty() && !isOfPicker) return list;
-  }
-  return nullptr;
+  if (!listInUse_->answers(*event)) FormWindow::keyPressEvent(event);
 }
 
 void MainWindow::followGame() {

@@ -5,13 +5,10 @@
 #include "core/os.h"
 #include "ui/qt/windows/form_window.h"
 
-#include <QAbstractItemView>
-#include <QPointer>
 #include <string>
 #include <tuple>
 #include <vector>
 
-class QAction;
 class QLabel;
 class QTabWidget;
 class QToolButton;
@@ -22,6 +19,7 @@ class GlanceStrip;
 class NoticeStrip;
 class DrawsView;
 class LaterPage;
+class ListInUse;
 class MainForm;
 class NavigationBarView;
 class SearchView;
@@ -39,7 +37,6 @@ class MainWindow : public FormWindow {
   TransferPanel* transferPanel() const override;
 
  protected:
-  /// Saves and prints the page's list where no list has the focus, which has these keys itself.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -65,12 +62,6 @@ class MainWindow : public FormWindow {
   void followGlance();
   /// The window's own entries of the menu File, over Exit.
   void addFileEntries();
-  /// An entry that does to the list in use what the list's own action of that text does.
-  QAction* listEntry(const QString& text, const QString& actionText);
-  /// Triggers the action of that text of the list in use.
-  void actOnList(const QString& actionText);
-  /// The list that was in front last, else the first one of the page.
-  QAbstractItemView* listInUse() const;
   /// Greys what the settings have no address for.
   void greyUnset();
   QWidget* gameShown();
@@ -91,7 +82,7 @@ class MainWindow : public FormWindow {
   /// For which files, game and day the age of the draws was asked.
   std::tuple<std::vector<os::FileStamp>, std::string, std::string> ageAsked_;
   QTabWidget* pages_;
-  QPointer<QAbstractItemView> lastList_;
+  ListInUse* listInUse_;
   const GameInfo* titled_ = nullptr;
   std::vector<LaterPage*> laterPages_;
   /// Null until they are made.
