@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the operating system is asked for. One implementation file a platform; nothing else in the program
-// knows which platform it runs on.
+// What the operating system is asked for. One implementation file a platform, and os.cpp with what is the
+// same on all; nothing else in the program knows which platform it runs on.
 #pragma once
 
 #include <cstddef>
@@ -55,7 +55,8 @@ class InputFile {
   InputFile(const InputFile&) = delete;
   InputFile& operator=(const InputFile&) = delete;
 
-  /// Reads at most `size` bytes and returns how many; 0 at the end.
+  std::size_t size() const;
+  /// Reads at most `size` bytes and returns how many: at least one, but 0 at the end.
   std::size_t read(char* to, std::size_t size);
 
  private:

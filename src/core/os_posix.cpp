@@ -81,21 +81,6 @@ void requireFile(const struct stat& status, const fs::path& file) {
   if (!S_ISREG(status.st_mode)) throw notAFile(file);
 }
 
-std::size_t plainFileSize(int descriptor, const fs::path& file) {
-  const struct stat status = statusOf(descriptor, file);
-  requireFile(status, file);
-  return static_cast<std::size_t>(status.st_size);
-}
-
-/// At least one byte, but at the end of the file.
-std::size_t readSome(int descriptor, char* to, std::size_t size, const fs::path& file) {
-  for (;;) {
-    const ssize_t step = ::read(descriptor, to, size);
-    if (step >= 0) return static_cast<std::size_t>(step);
-    if (errno != EINTR) fail(errno, file);
-  }
-}
-
 /// A pipe in the place of a file is refused rather than waited for.
 constexpr int readingFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY;
 
@@ -122,19 +107,6 @@ void waitForLock(const Descriptor& lock, const fs::path& lockFile,
 
 }  // namespace
 
-FileBytes readFile(const fs::path& file) {
-  const Descriptor descriptor(file, readingFlags);
-  const std::size_t size = plainFileSize(descriptor.number(), file);
-  auto bytes = std::make_unique_for_overwrite<char[]>(size);
-  std::size_t got = 0;
-  while (got < size) {
-    const std::size_t step = readSome(descriptor.number(), bytes.get() + got, size - got, file);
-    if (step == 0) break;
-    got += step;
-  }
-  return {std::move(bytes), got};
-}
-
 FileStamp stampOf(const fs::path& file) {
   struct stat status {};
   if (::stat(file.c_str(), &status) != 0) {
@@ -149,7 +121,7 @@ FileStamp stampOf(const fs::path& file) {
 
 InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
   Descriptor descriptor(file, readingFlags);
-  plainFileSize(descriptor.number(), file);
+  requireFile(statusOf(descriptor.number(), file), file);
   handle_ = descriptor.release();
 }
 
@@ -157,17 +129,16 @@ InputFile::~InputFile() {
   if (handle_ >= 0) ::close(static_cast<int>(handle_));
 }
 
-InputFile::InputFile(InputFile&& other) noexcept
-    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
-
-InputFile& InputFile::operator=(InputFile&& other) noexcept {
-  std::swap(file_, other.file_);
-  std::swap(handle_, other.handle_);
-  return *this;
+std::size_t InputFile::size() const {
+  return static_cast<std::size_t>(statusOf(static_cast<int>(handle_), file_).st_size);
 }
 
 std::size_t InputFile::read(char* to, std::size_t size) {
-  return readSome(static_cast<int>(handle_), to, size, file_);
+  for (;;) {
+    const ssize_t step = ::read(static_cast<int>(handle_), to, size);
+    if (step >= 0) return static_cast<std::size_t>(step);
+    if (errno != EINTR) fail(errno, file_);
+  }
 }
 
 void writeDurably(const fs::path& file, std::string_view contents, Access access) {
@@ -242,9 +213,6 @@ FileLock::~FileLock() {
   ::unlink(file_.c_str());
   ::close(static_cast<int>(handle_));
 }
-
-FileLock::FileLock(FileLock&& other) noexcept
-    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
 
 fs::path userDataFolder() {
   if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {

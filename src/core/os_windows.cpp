@@ -104,23 +104,7 @@ class Handle {
   HANDLE handle_;
 };
 
-/// An existing file opened for reading; pipes and devices are refused.
-class ReadHandle : public Handle {
- public:
-  explicit ReadHandle(const fs::path& file) : Handle(file, GENERIC_READ, OPEN_EXISTING) {
-    if (::GetFileType(get()) != FILE_TYPE_DISK) throw notAFile(file);
-  }
-};
-
 constexpr DWORD largestStep = 1U << 30;
-
-/// At least one byte, but at the end of the file.
-std::size_t readSome(HANDLE handle, char* to, std::size_t size, const fs::path& file) {
-  const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size, largestStep));
-  DWORD step = 0;
-  if (::ReadFile(handle, to, wanted, &step, nullptr) == 0) fail(::GetLastError(), file);
-  return step;
-}
 
 std::wstring wide(std::string_view text) {
   return pathOf(text).wstring();
@@ -153,21 +137,6 @@ std::string asHexadecimal(DWORD number) {
 
 }  // namespace
 
-FileBytes readFile(const fs::path& file) {
-  const ReadHandle handle(file);
-  LARGE_INTEGER length;
-  if (::GetFileSizeEx(handle.get(), &length) == 0) fail(::GetLastError(), file);
-  const auto size = static_cast<std::size_t>(length.QuadPart);
-  auto bytes = std::make_unique_for_overwrite<char[]>(size);
-  std::size_t got = 0;
-  while (got < size) {
-    const std::size_t step = readSome(handle.get(), bytes.get() + got, size - got, file);
-    if (step == 0) break;
-    got += step;
-  }
-  return {std::move(bytes), got};
-}
-
 FileStamp stampOf(const fs::path& file) {
   std::error_code error;
   if (!fs::exists(file, error) && !error) return {};
@@ -181,7 +150,8 @@ FileStamp stampOf(const fs::path& file) {
 }
 
 InputFile::InputFile(const fs::path& file) : file_(file), handle_(-1) {
-  ReadHandle handle(file);
+  Handle handle(file, GENERIC_READ, OPEN_EXISTING);
+  if (::GetFileType(handle.get()) != FILE_TYPE_DISK) throw notAFile(file);
   handle_ = reinterpret_cast<std::intptr_t>(handle.release());
 }
 
@@ -189,17 +159,18 @@ InputFile::~InputFile() {
   if (handle_ != -1) ::CloseHandle(reinterpret_cast<HANDLE>(handle_));
 }
 
-InputFile::InputFile(InputFile&& other) noexcept
-    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
-
-InputFile& InputFile::operator=(InputFile&& other) noexcept {
-  std::swap(file_, other.file_);
-  std::swap(handle_, other.handle_);
-  return *this;
+std::size_t InputFile::size() const {
+  LARGE_INTEGER length;
+  if (::GetFileSizeEx(reinterpret_cast<HANDLE>(handle_), &length) == 0) fail(::GetLastError(), file_);
+  return static_cast<std::size_t>(length.QuadPart);
 }
 
 std::size_t InputFile::read(char* to, std::size_t size) {
-  return readSome(reinterpret_cast<HANDLE>(handle_), to, size, file_);
+  const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size, largestStep));
+  DWORD step = 0;
+  if (::ReadFile(reinterpret_cast<HANDLE>(handle_), to, wanted, &step, nullptr) == 0)
+    fail(::GetLastError(), file_);
+  return step;
 }
 
 // The folders of a user are closed to others here, so that both kinds of access are the usual one.
@@ -292,9 +263,6 @@ FileLock::~FileLock() {
   // Fails, as it should, where another one has the file open and waits for it.
   ::DeleteFileW(file_.c_str());
 }
-
-FileLock::FileLock(FileLock&& other) noexcept
-    : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
 
 fs::path userDataFolder() {
   const wchar_t* data = ::_wgetenv(L"LOCALAPPDATA");
