@@ -35,7 +35,7 @@ void write(const DataFolder& folder, const std::string& written, std::string_vie
 
 void makeFolder(const DataFolder& folder, std::size_t draws, bench::Shape shape) {
   const std::string history = bench::drawHistory(draws, shape);
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     for (std::string_view file : {drawsFile, searchDrawsFile}) write(folder, inFolder(*game, file), history);
   }
   write(folder, inFolder(powerBall, doublePlayFile), bench::drawHistory(draws, bench::Shape::doublePlay));

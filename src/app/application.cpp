@@ -44,7 +44,7 @@ void Application::showMainWindow() {
 
 /// Where it cannot be finished now, the next action on the folder tries again and reports it.
 void Application::recover() const {
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     try {
       recoverFolder(surroundings_.folder.resolve(game->folder));
     } catch (const std::exception&) {

@@ -76,7 +76,7 @@ std::string doublePlayNote(const DataFolder& folder) {
 
 std::vector<os::FileStamp> stampsOfDraws(const DataFolder& folder) {
   std::vector<std::string> files = {inFolder(powerBall, doublePlayFile)};
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     for (const std::string_view name : {drawsFile, searchDrawsFile}) files.push_back(inFolder(*game, name));
   }
   try {

@@ -98,7 +98,7 @@ std::string placeOf(const RuntimeError& error) {
   const FileKind* const kind = kindOf(path);
   if (kind == nullptr) return text;
   std::string_view game;
-  for (const GameInfo* each : {&powerBall, &megaMillions}) {
+  for (const GameInfo* each : allGames) {
     if (path.find(lowered(join("qzr6", each->code))) != std::string::npos) game = each->name;
   }
   return join(text, "This is the ", game, game.empty() ? "" : " ", "file of ", kind->contents, ".\n\n");

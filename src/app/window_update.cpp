@@ -22,7 +22,7 @@ void Application::updateInWindow(Control& control) {
     click(control);
     return;
   }
-  std::vector<const GameInfo*> games = {&powerBall, &megaMillions};
+  std::vector<const GameInfo*> games(allGames.begin(), allGames.end());
   if (&control == &main_->menu.mnuPowerBall2) games = {&powerBall};
   if (&control == &main_->menu.mnuMegaMillions2) games = {&megaMillions};
   fetchThenUpdate(games, [&control] { click(control); });
@@ -31,7 +31,7 @@ void Application::updateInWindow(Control& control) {
 void Application::updateAgain() {
   const auto update = [this] { main_->update.Command2.onClick(); };
   if (!fetchesFirst() || updatesAreClosed(surroundings_.clock)) return update();
-  fetchThenUpdate({&powerBall, &megaMillions}, update);
+  fetchThenUpdate({allGames.begin(), allGames.end()}, update);
 }
 
 bool Application::fetchesFirst() const {
@@ -131,7 +131,7 @@ const GameInfo& Application::gameShown() const {
 }
 
 std::vector<const GameInfo*> Application::madeUpGames() const {
-  std::vector<const GameInfo*> games = {&powerBall, &megaMillions};
+  std::vector<const GameInfo*> games(allGames.begin(), allGames.end());
   std::erase_if(
       games, [this](const GameInfo* game) { return !exports::isMadeUp(surroundings_.folder, game->game); });
   return games;

@@ -46,7 +46,7 @@ std::string dated(const Clock& clock) {
 std::vector<os::FileLock> lockGames(const fs::path& folder) {
   std::vector<os::FileLock> locks;
   try {
-    for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    for (const GameInfo* game : allGames) {
       const fs::path plays = DataFolder(folder).resolve(game->folder);
       if (fs::is_directory(plays)) locks.push_back(lockFolder(plays));
     }

@@ -3,6 +3,7 @@
 // turns them into real files.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -47,6 +48,9 @@ inline constexpr GameInfo megaMillions = {.game = Game::megaMillions,
                                           .lastNumber = 79,
                                           .serverFolder = "/D:/QZR/Z2-Meg/Qzr6",
                                           .serverFolderOfMenus = "/D:/QZR/Z2-MEG/QZR6"};
+
+/// In the order in which they are shown and worked on.
+inline constexpr std::array allGames = {&powerBall, &megaMillions};
 
 constexpr const GameInfo& infoOf(Game game) {
   return game == Game::powerBall ? powerBall : megaMillions;

@@ -33,11 +33,11 @@ std::string notesOf(const DataFolder& folder) {
 void turnClaimsIntoMarks(const DataFolder& folder) {
   std::string notes = notesOf(folder);
   bool found = false;
-  for (const Game game : {Game::powerBall, Game::megaMillions}) {
-    const std::size_t claim = notes.find(claimOf(game));
+  for (const GameInfo* game : allGames) {
+    const std::size_t claim = notes.find(claimOf(game->game));
     if (claim == std::string::npos) continue;
     found = true;
-    const fs::path mark = folder.resolve(inFolder(infoOf(game), madeUpMark));
+    const fs::path mark = folder.resolve(inFolder(*game, madeUpMark));
     if (!fs::exists(mark) && fs::exists(mark.parent_path())) replaceFile(mark, "");
     const std::size_t text = notes.find(madeUpClaim, claim);
     notes.replace(text, madeUpClaim.size(), join("made up as long as its folder has a ", madeUpMark));

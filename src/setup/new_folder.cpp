@@ -210,10 +210,9 @@ bool isRecordFile(std::string_view name, const GameInfo& game) {
 
 FolderContents sampleContents(Day last, std::uint64_t seed) {
   FolderContents contents{};
-  constexpr std::array games = {Game::powerBall, Game::megaMillions};
-  for (std::size_t i = 0; i < games.size(); ++i) {
+  for (std::size_t i = 0; i < allGames.size(); ++i) {
     FolderContents::Part& part = contents.games[i];
-    part.game = games[i];
+    part.game = allGames[i]->game;
     part.book.draws = sampleDraws(part.game, last, seed);
     part.book.amounts = sampleAmounts(part.game, part.book.draws, seed);
   }
@@ -221,7 +220,7 @@ FolderContents sampleContents(Day last, std::uint64_t seed) {
 }
 
 bool containsRecords(const fs::path& folder) {
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     std::error_code ignored;
     const fs::path files = DataFolder(folder).resolve(game->folder);
     for (const fs::directory_entry& entry : fs::directory_iterator(files, ignored)) {
@@ -235,7 +234,7 @@ void requireGameFolders(const fs::path& root) {
   if (isThere(root) && !fs::is_directory(root)) {
     throw std::runtime_error(textOf(root) + " is in the way: it is not a folder. Nothing was changed");
   }
-  for (const GameInfo* game : {&powerBall, &megaMillions}) requireRoomFor(root, game->folder);
+  for (const GameInfo* game : allGames) requireRoomFor(root, game->folder);
 }
 
 void writeFolder(const fs::path& folder, const FolderContents& contents, const Settings& settings) {

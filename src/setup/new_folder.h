@@ -24,7 +24,7 @@ struct FolderContents {
     /// Whether the draws are samples; their folder is marked so.
     bool madeUp = true;
   };
-  std::array<Part, 2> games;
+  std::array<Part, allGames.size()> games;
 };
 
 /// Sample draws, amounts and plays of both games up to `last`.

@@ -23,7 +23,7 @@ struct ExportFiles {
 
 struct Options {
   std::filesystem::path folder;
-  std::array<ExportFiles, 2> exports;
+  std::array<ExportFiles, allGames.size()> exports;
   bool forceDraws = false;
   /// The date and the time to go by.
   FixedClock clock = FixedClock(SystemClock());

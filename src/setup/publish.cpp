@@ -156,7 +156,7 @@ void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files
 void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
   const DataFolder folder(from);
   std::vector<PublishedGame> games;
-  for (const GameInfo* game : {&powerBall, &megaMillions}) games.push_back(readGame(folder, *game));
+  for (const GameInfo* game : allGames) games.push_back(readGame(folder, *game));
   fs::create_directories(tree);
   const os::FileLock lock(tree / lockName, os::FileLock::Wait::yes);
   std::vector<std::vector<fs::path>> targets;

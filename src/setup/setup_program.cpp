@@ -20,7 +20,6 @@
 #include "update/public_exports.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -72,10 +71,9 @@ struct ExportedGame {
 
 std::vector<ExportedGame> readExports(const Options& options, Day today) {
   std::vector<ExportedGame> exported;
-  constexpr std::array games = {Game::powerBall, Game::megaMillions};
-  for (std::size_t i = 0; i < games.size(); ++i) {
+  for (std::size_t i = 0; i < allGames.size(); ++i) {
     const ExportFiles& files = options.exports[i];
-    if (!files.draws.empty()) exported.emplace_back(games[i], files, today);
+    if (!files.draws.empty()) exported.emplace_back(allGames[i]->game, files, today);
   }
   return exported;
 }

@@ -102,7 +102,7 @@ void CommittedPlays::putInOrder() const {
 
 void sortFolder(const fs::path& folder) {
   bool found = false;
-  for (const GameInfo* game : {&powerBall, &megaMillions}) sortGame(folder, *game, found);
+  for (const GameInfo* game : allGames) sortGame(folder, *game, found);
   if (found) return;
   throw RuntimeError(ErrorNumber::fileNotFound,
                      join(textOf(folder), " contains neither ", playFileName(powerBall, PlaySlot::committed),

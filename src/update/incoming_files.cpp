@@ -54,7 +54,7 @@ namespace {
 void stageMarkRemoval(const std::set<std::string>& names, const DataFolder& book, FileCommit& change) {
   const bool broughtDraws = names.contains(lowered(drawsFile)) || names.contains(lowered(searchDrawsFile));
   if (!broughtDraws || names.contains(lowered(exports::madeUpMark))) return;
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     const bool isItsFolder = book.resolve(game->folder) == change.folder();
     if (isItsFolder) exports::stageMarkRemoval(book, game->game, change);
   }

@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 namespace {
 
 std::optional<Game> gameOf(std::string_view serverFolder) {
-  for (const GameInfo* game : {&powerBall, &megaMillions}) {
+  for (const GameInfo* game : allGames) {
     if (equalIgnoringCase(closedWith('/', game->serverFolder), closedWith('/', serverFolder)))
       return game->game;
   }

@@ -118,7 +118,7 @@ Day DrawsDialog::today() const {
 }
 
 QBoxLayout* DrawsDialog::gameRow() {
-  for (const GameInfo* each : {&powerBall, &megaMillions}) games_->addItem(toQString(each->name));
+  for (const GameInfo* each : allGames) games_->addItem(toQString(each->name));
   auto* name = new QLabel(u"&Game:"_s);
   name->setBuddy(games_);
   auto* line = row();

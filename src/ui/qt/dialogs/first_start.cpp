@@ -151,7 +151,7 @@ class StartChoices : public QDialog {
     fields->setSpacing(theme::halfGap);
     fields->setContentsMargins(theme::pageMargin, 0, 0, 0);
     const Settings settings = settingsIn(folder);
-    for (const GameInfo* game : {&powerBall, &megaMillions}) {
+    for (const GameInfo* game : allGames) {
       fields->addWidget(addressField(u"Address of the %1 draws"_s.arg(toQString(game->name)),
                                      exportAddress(settings, game->game)));
     }
