@@ -2,11 +2,11 @@
 // Times start-up and every action on a data folder without windows: `tallywick_model_actions FOLDER
 // [ROUNDS]`.
 #include "actions.h"
+#include "reported_main.h"
 #include "support/fake_platform.h"
 
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 
 namespace tallywick {
 namespace {
@@ -31,10 +31,5 @@ int run(int count, char** arguments) {
 }  // namespace tallywick
 
 int main(int count, char** arguments) {
-  try {
-    return tallywick::run(count, arguments);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return 1;
-  }
+  return tallywick::bench::reported(tallywick::run, count, arguments);
 }

@@ -3,13 +3,13 @@
 // be taken from outside; and the folder.
 #include "core/data_folder.h"
 #include "draw_history.h"
+#include "reported_main.h"
 #include "search/marks.h"
 #include "search/search_pages.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -150,10 +150,5 @@ int run(int count, char** arguments) {
 }  // namespace tallywick
 
 int main(int count, char** arguments) {
-  try {
-    return tallywick::run(count, arguments);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return 1;
-  }
+  return tallywick::bench::reported(tallywick::run, count, arguments);
 }

@@ -5,6 +5,7 @@
 #include "core/random.h"
 #include "painted_window.h"
 #include "plays/judged_plays.h"
+#include "reported_main.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
 #include "ui/qt/program/qt_platform.h"
@@ -13,7 +14,6 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 
 namespace tallywick {
 namespace {
@@ -60,10 +60,5 @@ int run(int count, char** arguments) {
 }  // namespace tallywick
 
 int main(int count, char** arguments) {
-  try {
-    return tallywick::run(count, arguments);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return 1;
-  }
+  return tallywick::bench::reported(tallywick::run, count, arguments);
 }
