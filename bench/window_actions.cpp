@@ -33,11 +33,11 @@ int run(int count, char** arguments) {
   QtPlatform platform(folder);
   platform.answerAlone();
   Application application({folder, settingsAtStart(folder, platform), clock, random, platform, {}});
-  platform.clock = &clock;
-  platform.onClose = [&](Form& form) { application.close(form); };
-  platform.onUpdateNote = [&] { return application.noteOfUpdate(); };
-  platform.onShowsMadeUpDraws = [&] { return application.showsMadeUpDraws(); };
-  platform.onAskIfSet = [&](const Control& control) { return isSet(application, control); };
+  platform.desk.clock = &clock;
+  platform.desk.close = [&](Form& form) { application.close(form); };
+  platform.desk.updateNote = [&] { return application.noteOfUpdate(); };
+  platform.desk.showsMadeUpDraws = [&] { return application.showsMadeUpDraws(); };
+  platform.desk.isSet = [&](const Control& control) { return isSet(application, control); };
   bench::paint([&] { platform.run([&] { application.showMainWindow(); }); });
   if (count < 3) return 0;
   platform.windowOf(*application.find("Form1"))->finish();

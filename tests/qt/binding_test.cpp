@@ -48,7 +48,7 @@ TEST_F(Bindings, NamesAControlThatNoWidgetShows) {
   SplashForm form;
   const Label forgotten(form, "lblForgotten");
   PlayJudge judge(scratch.folder());
-  Desk desk = {platform, scratch.folder(), judge, {}, {}, {}, {}};
+  Desk desk = {.runner = platform, .folder = scratch.folder(), .judge = judge};
   try {
     makeWindow(form, desk);
     FAIL() << "a control without a widget went unnoticed";

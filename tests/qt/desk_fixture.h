@@ -23,9 +23,9 @@ class Desktop : public testing::Test {
 
   explicit Desktop(Transfers transfers = Transfers::fake) : transfers_(transfers) {
     scratch.write("QZRNUM22.DTE", calendar());
-    platform.onClose = [this](Form& form) { application.close(form); };
-    platform.onEditSettings = [] {};
-    platform.onHelp = [this](const QString& page) { helpPage = page; };
+    platform.desk.close = [this](Form& form) { application.close(form); };
+    platform.desk.editSettings = [] {};
+    platform.desk.help = [this](const QString& page) { helpPage = page; };
   }
 
   FormWindow& open(std::string_view name) {

@@ -24,7 +24,7 @@ class Keyboard : public Desktop {
 };
 
 TEST_F(Keyboard, EntriesWithoutAnAddressAreGrey) {
-  platform.onAskIfSet = [](const Control& control) { return control.name() != "mnuGameInfo"; };
+  platform.desk.isSet = [](const Control& control) { return control.name() != "mnuGameInfo"; };
   FormWindow& main = open("Form1");
   EXPECT_FALSE(main.findChild<QAction*>(QStringLiteral("mnuGameInfo"))->isEnabled());
   EXPECT_TRUE(main.findChild<QAction*>(QStringLiteral("mnuQZRHelp"))->isEnabled());

@@ -94,10 +94,10 @@ class Portal : public Desktop {
         "web_server.py", std::vector<std::string>{certificate, (web.root() / "log").string()});
     for (const char* file : {"PWF.TXT", "PWF2.TXT"}) scratch.write(file, "word");
     put(newest);
-    platform.onPress = [this](Control& control) { press(application, platform, control); };
-    platform.onUpdateNote = [this] { return application.noteOfUpdate(); };
-    platform.onShowsMadeUpDraws = [this] { return application.showsMadeUpDraws(); };
-    platform.onUpdateAgain = [this] { application.updateAgain(); };
+    platform.desk.press = [this](Control& control) { press(application, platform, control); };
+    platform.desk.updateNote = [this] { return application.noteOfUpdate(); };
+    platform.desk.showsMadeUpDraws = [this] { return application.showsMadeUpDraws(); };
+    platform.desk.updateAgain = [this] { application.updateAgain(); };
     use("file/pwr.csv", "file/meg.csv");
     open("Form1").show();
     answering.callOnTimeout([this] {

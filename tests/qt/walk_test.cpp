@@ -166,9 +166,9 @@ void Walk::lookAtBoxes() {
 
 TEST_P(Walk, ThroughEveryWindow) {
   bool isAllShown = false;
-  platform.clock = &clock;
-  platform.onShowsMadeUpDraws = [&] { return isAllShown; };
-  platform.onUpdateNote = [&] { return isAllShown ? "The newest draws are not there yet." : ""; };
+  platform.desk.clock = &clock;
+  platform.desk.showsMadeUpDraws = [&] { return isAllShown; };
+  platform.desk.updateNote = [&] { return isAllShown ? "The newest draws are not there yet." : ""; };
   FormWindow& main = open("Form1");
   if (GetParam().isUsed) usePages(main);
   lookAtTabs(main, *main.findChild<QTabWidget*>(QStringLiteral("SSTab1")));

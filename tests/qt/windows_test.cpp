@@ -58,7 +58,7 @@ TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
   writeRecordBook(scratch);
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR2.Ply",
                 records({"12-28-2026,01,02,03,50,51,01,3000020", "12-27-2026,50,51,52,53,54,20,0000050"}));
-  platform.onShowsMadeUpDraws = [] { return true; };
+  platform.desk.showsMadeUpDraws = [] { return true; };
   FormWindow& main = open("Form1");
   auto& wins = widget<LineList>("Form1", "List2");
   const LineHighlights found = wins.lineModel()->highlightsOf(" 12-28-2026    01 02 03 50 51   01");
@@ -107,8 +107,8 @@ TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {
 }
 
 TEST_F(Windows, WhatTheyAddToTheModelMayFailWithoutEndingTheProgram) {
-  platform.onHelp = [](const QString&) { throw std::bad_alloc(); };
-  platform.onEditSettings = [] { throw RuntimeError(ErrorNumber::permissionDenied, "tallywick.ini"); };
+  platform.desk.help = [](const QString&) { throw std::bad_alloc(); };
+  platform.desk.editSettings = [] { throw RuntimeError(ErrorNumber::permissionDenied, "tallywick.ini"); };
   QApplication::setActiveWindow(&open("Form1"));
   answerNextBox(QMessageBox::Ok);
   QTest::keyClick(&window("Form1"), Qt::Key_F1);
@@ -188,7 +188,7 @@ TEST_F(Windows, SettingsThatCannotBeUnderstoodAreNotOverwritten) {
 }
 
 TEST_F(Windows, AnUpdateWithoutAServerIsNotStarted) {
-  platform.onPress = [this](Control& control) { press(application, platform, control); };
+  platform.desk.press = [this](Control& control) { press(application, platform, control); };
   Settings settings = application.settings();
   settings.source = Settings::Source::server;
   application.setSettings(settings);
@@ -364,7 +364,7 @@ TEST_F(Windows, ASelectionTakesANextPlayAwayAndBringsItBack) {
   writeRecordBook(scratch);
   const std::string committed = "QzrNumbers/QZR6PWR/QZR6PWR1.Ply";
   const std::string waiting = scratch.read(committed);
-  platform.onPlaysSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
+  platform.desk.playsSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
   open("Form1");
   FormWindow& selection = open("Form3");
   const auto& next = static_cast<SelectionForm&>(selection.form()).Combo8.items();
@@ -391,7 +391,7 @@ TEST_F(Windows, ASelectionTakesANextPlayAwayAndBringsItBack) {
 
 TEST_F(Windows, DoublePlayIsAskedForOnceAndThenHasAButton) {
   writeRecordBook(scratch);
-  platform.onShowDoublePlay = [this](bool isShown) {
+  platform.desk.showDoublePlay = [this](bool isShown) {
     platform.answerDoublePlay(isShown ? MessageBox::Answer::yes : MessageBox::Answer::no);
     click(*application.find("Form1")->find("Command7"));
   };
@@ -408,7 +408,7 @@ TEST_F(Windows, DoublePlayIsAskedForOnceAndThenHasAButton) {
     EXPECT_EQ(frames.Frame6.visible(), QLatin1String(text) == u"Show Double Play");
   }
   widget<QPushButton>("Form1", "Command4").click();
-  platform.onShowDoublePlay(true);
+  platform.desk.showDoublePlay(true);
   const auto& selection = widget<QPushButton>("Form1", "Command48");
   EXPECT_EQ(selection.text().remove(u'&'), QStringLiteral("Mega Millions Play Selection"));
   EXPECT_EQ(selection.toolTip(), QStringLiteral("Opens the play selection of PowerBall, the game on show"));
@@ -440,7 +440,7 @@ TEST_F(Windows, SayWhereChartAndPicturesAreOlderThanTheDraws) {
 
 TEST_F(Windows, ShowTheGameAtAGlanceAndLeadToItsPages) {
   writeRecordBook(scratch);
-  platform.clock = &clock;
+  platform.desk.clock = &clock;
   FormWindow& main = open("Form1");
   const auto press = [this](const char* name) {
     QTest::keyClick(&named<QAbstractButton>("Form1", QString::fromLatin1(name)), Qt::Key_Return);
@@ -467,7 +467,7 @@ TEST_F(Windows, ShowTheGameAtAGlanceAndLeadToItsPages) {
 }
 
 TEST_F(Windows, SelectedPlaysAreNotDroppedWithoutAQuestion) {
-  platform.onPlaysSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
+  platform.desk.playsSaved = [this](const GameInfo& game) { showSavedPlays(application, game); };
   scratch.write("QzrNumbers/QZR6PWR/QZR6PWR9.Sel", "\"01  03  34  53  63  11\"\r\n");
   open("Form1");
   FormWindow& slip = open("Form3");

@@ -82,37 +82,36 @@ void startRealBook(Application& application, QtPlatform& platform, std::optional
 
 /// `next` becomes the folder to go on with.
 void connectDesk(Application& application, QtPlatform& platform, std::optional<fs::path>& next) {
-  platform.onClose = [&application](Form& form) { application.close(form); };
-  platform.onEditSettings = [&application, &platform] { editSettings(application, platform); };
-  platform.onHelp = [&application](const QString& page) {
-    openHelp(application.surroundings().folder, page);
-  };
-  platform.onPress = [&application, &platform](Control& control) { press(application, platform, control); };
+  Desk& desk = platform.desk;
+  desk.close = [&application](Form& form) { application.close(form); };
+  desk.editSettings = [&application, &platform] { editSettings(application, platform); };
+  desk.help = [&application](const QString& page) { openHelp(application.surroundings().folder, page); };
+  desk.press = [&application, &platform](Control& control) { press(application, platform, control); };
   application.onFetchFailed = [&application, &platform](const GameInfo& game, const std::string& why) {
     return askAfterFailedFetch(application, platform, game, why);
   };
-  platform.onUpdateNote = [&application] { return application.noteOfUpdate(); };
-  platform.onUpdateAgain = [&application] { application.updateAgain(); };
-  platform.onPriceOfPlay = [&application](Game game) {
+  desk.updateNote = [&application] { return application.noteOfUpdate(); };
+  desk.updateAgain = [&application] { application.updateAgain(); };
+  desk.priceOf = [&application](Game game) {
     const Settings& settings = application.settings();
     return game == Game::powerBall ? settings.powerBallPrice : settings.megaMillionsPrice;
   };
-  platform.onPlaysSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
-  platform.onAskIfSet = [&application](const Control& control) { return isSet(application, control); };
-  platform.onDoublePlayNote = [&application, note = Remembered<std::string>()]() mutable {
+  desk.playsSaved = [&application](const GameInfo& game) { showSavedPlays(application, game); };
+  desk.isSet = [&application](const Control& control) { return isSet(application, control); };
+  desk.doublePlayNote = [&application, note = Remembered<std::string>()]() mutable {
     const DataFolder& folder = application.surroundings().folder;
     return note.of(stampsOf(folder, std::array{inFolder(powerBall, doublePlayFile)}),
                    [&] { return doublePlayNote(folder); });
   };
-  platform.onDrawsAge = [&application] { return application.drawsAge(); };
-  platform.onShowDoublePlay = [&application, &platform](bool isShown) {
+  desk.drawsAge = [&application] { return application.drawsAge(); };
+  desk.showDoublePlay = [&application, &platform](bool isShown) {
     platform.answerDoublePlay(isShown ? MessageBox::Answer::yes : MessageBox::Answer::no);
     click(*application.find("Form1")->find("Command7"));
   };
-  platform.clock = &application.surroundings().clock;
-  platform.onEditDraws = [&application, &platform] { editDraws(application, platform); };
-  platform.onShowsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
-  platform.onStartRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };
+  desk.clock = &application.surroundings().clock;
+  desk.editDraws = [&application, &platform] { editDraws(application, platform); };
+  desk.showsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
+  desk.startRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };
 }
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {
@@ -154,7 +153,7 @@ int runOn(const DataFolder& folder, const Options& options, GuardedApplication& 
   Application application(
       {folder, settingsAtStart(folder, platform), clock, random, platform, {}, &transferWindow});
   connectDesk(application, platform, next);
-  platform.onBackUp = [&] { restoreFrom = showBackups(application, platform); };
+  platform.desk.backUp = [&] { restoreFrom = showBackups(application, platform); };
   return takesPicture(options)
              ? takeScreenshot(application, platform, options)
              : runWindows(application, platform, !options.noSplash && options.steps.empty());

@@ -66,7 +66,8 @@ class Flag {
 
 }  // namespace
 
-QtPlatform::QtPlatform(const DataFolder& folder) : folder_(folder), judge_(folder) {}
+QtPlatform::QtPlatform(const DataFolder& folder)
+    : desk{.runner = *this, .folder = folder, .judge = judge_}, folder_(folder), judge_(folder) {}
 
 QtPlatform::~QtPlatform() {
   for (FormWindow* window : windows_) {
@@ -114,7 +115,7 @@ MessageBox::Answer QtPlatform::show(const MessageBox& box) {
   const bool isQuestion = box.buttons == MessageBox::Buttons::yesNo;
   const bool isDoublePlay = box.text == doublePlayQuestion;
   if (isDoublePlay && doublePlayAnswer_) return *std::exchange(doublePlayAnswer_, MessageBox::Answer::no);
-  if (isDoublePlay && onShowDoublePlay) doublePlayAnswer_ = MessageBox::Answer::no;
+  if (isDoublePlay && desk.showDoublePlay) doublePlayAnswer_ = MessageBox::Answer::no;
   if (alone_) return isQuestion ? MessageBox::Answer::no : MessageBox::Answer::ok;
   QMessageBox shown(iconOf(box.icon), toQString(box.title), toQString(box.text).remove(u'\r'),
                     QMessageBox::NoButton, QApplication::activeWindow());
@@ -171,26 +172,6 @@ void QtPlatform::start(std::string_view program, std::string_view workingFolder)
 }
 
 void QtPlatform::openWindow(const std::shared_ptr<Form>& form) {
-  const Desk desk = {*this,
-                     folder_,
-                     judge_,
-                     onClose,
-                     onEditSettings,
-                     onHelp,
-                     onPress,
-                     onUpdateNote,
-                     onUpdateAgain,
-                     onBackUp,
-                     onPriceOfPlay,
-                     onPlaysSaved,
-                     onAskIfSet,
-                     onShowsMadeUpDraws,
-                     onStartRealBook,
-                     onEditDraws,
-                     onDoublePlayNote,
-                     onDrawsAge,
-                     onShowDoublePlay,
-                     clock};
   FormWindow* window = makeWindow(*form, desk).release();
   // Released with the last of the window, which may be later than the program's part in it.
   QObject::connect(window, &QObject::destroyed, [form] {});

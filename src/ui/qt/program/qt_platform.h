@@ -23,25 +23,8 @@ class QtPlatform : public Platform, public HandlerRunner {
   explicit QtPlatform(const DataFolder& folder);
   ~QtPlatform() override;
 
-  /// What the windows ask of the program; set before the first one opens.
-  std::function<void(Form&)> onClose;
-  std::function<void()> onEditSettings;
-  std::function<void(const QString& page)> onHelp;
-  std::function<void(Control& control)> onPress;
-  std::function<std::string()> onUpdateNote;
-  std::function<void()> onUpdateAgain;
-  std::function<void()> onBackUp;
-  std::function<std::optional<std::int64_t>(Game)> onPriceOfPlay;
-  std::function<void(const GameInfo& game)> onPlaysSaved;
-  std::function<bool(const Control& control)> onAskIfSet;
-  std::function<bool()> onShowsMadeUpDraws;
-  std::function<void()> onStartRealBook;
-  std::function<void()> onEditDraws;
-  std::function<std::string()> onDoublePlayNote;
-  std::function<std::string()> onDrawsAge;
-  std::function<void(bool isShown)> onShowDoublePlay;
-  /// For what the windows say of today; null where the time plays no part.
-  const Clock* clock = nullptr;
+  /// What the windows ask of the program; each takes it over as it is when the window opens.
+  Desk desk;
 
   void run(const std::function<void()>& handler) override;
   void attempt(const std::function<void()>& action) override;

@@ -21,11 +21,11 @@ struct Desk {
   const DataFolder& folder;
   PlayJudge& judge;
   /// What closing a window by its frame does.
-  std::function<void(Form&)> close;
+  std::function<void(Form&)> close = {};
   /// Lets the user edit the settings.
-  std::function<void()> editSettings;
+  std::function<void()> editSettings = {};
   /// Opens the help at a page of the manual.
-  std::function<void(const QString& page)> help;
+  std::function<void(const QString& page)> help = {};
   /// Runs what a press of this control leads to; empty for its click alone.
   std::function<void(Control&)> press = {};
   /// What is known about the draws after an update; empty where the update button is in its place.
