@@ -8,6 +8,7 @@
 #include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
+#include "ui/qt/windows/make_window.h"
 
 #include <QAction>
 #include <QCompleter>

@@ -6,9 +6,9 @@
 #include "core/clock.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/wording.h"
-#include "ui/qt/windows/form_window.h"
 
 namespace tallywick {
 

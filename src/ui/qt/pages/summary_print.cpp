@@ -2,11 +2,11 @@
 #include "ui/qt/pages/summary_print.h"
 
 #include "app/main_form.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/pages/summary_view.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
-#include "ui/qt/windows/form_window.h"
 
 #include <QDate>
 #include <QFont>

@@ -3,12 +3,12 @@
 
 #include "app/main_form.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_header.h"
 #include "ui/qt/parts/line_list.h"
-#include "ui/qt/windows/form_window.h"
 
 #include <QFrame>
 #include <QGridLayout>

@@ -11,6 +11,7 @@
 #include "display/judging.h"
 #include "plays/check_explained.h"
 #include "ui/qt/binding/binding.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/pages/my_plays_view.h"
 #include "ui/qt/pages/ticket_view.h"
 #include "ui/qt/parts/flow.h"
@@ -18,7 +19,6 @@
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/picker.h"
-#include "ui/qt/windows/form_window.h"
 
 #include <QAccessible>
 #include <QLineEdit>

@@ -8,6 +8,7 @@
 #include "core/os.h"
 #include "core/runtime_error.h"
 #include "ui/qt/parts/theme.h"
+#include "ui/qt/windows/make_window.h"
 #include "ui/qt/windows/transfer_panel.h"
 
 #include <QApplication>

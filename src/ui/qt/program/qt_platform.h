@@ -5,8 +5,8 @@
 #include "app/platform.h"
 #include "core/data_folder.h"
 #include "plays/judged_plays.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/parts/handler_runner.h"
-#include "ui/qt/windows/form_window.h"
 #include "ui/qt/windows/transfer_input.h"
 
 #include <QPointer>

@@ -2,7 +2,7 @@
 // The about box.
 #pragma once
 
-#include "ui/qt/windows/form_window.h"
+#include "ui/qt/binding/form_window.h"
 
 namespace tallywick {
 

@@ -2,10 +2,10 @@
 #include "ui/qt/windows/glance_strip.h"
 
 #include "app/main_form.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/wording.h"
-#include "ui/qt/windows/form_window.h"
 
 #include <QKeyEvent>
 #include <QPainter>

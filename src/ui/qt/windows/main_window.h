@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/os.h"
-#include "ui/qt/windows/form_window.h"
+#include "ui/qt/binding/form_window.h"
 
 #include <string>
 #include <tuple>

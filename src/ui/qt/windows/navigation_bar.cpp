@@ -2,10 +2,10 @@
 #include "ui/qt/windows/navigation_bar.h"
 
 #include "app/main_form.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
-#include "ui/qt/windows/form_window.h"
 #include "ui/qt/windows/transfer_panel.h"
 
 #include <QLabel>

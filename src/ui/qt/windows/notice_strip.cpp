@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/notice_strip.h"
 
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/layouts.h"
-#include "ui/qt/windows/form_window.h"
 
 #include <QPainter>
 #include <QPushButton>

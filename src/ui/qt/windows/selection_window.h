@@ -4,7 +4,7 @@
 #pragma once
 
 #include "selection/hints.h"
-#include "ui/qt/windows/form_window.h"
+#include "ui/qt/binding/form_window.h"
 #include "ui/qt/windows/play_removal.h"
 
 class QBoxLayout;

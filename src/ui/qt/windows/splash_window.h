@@ -2,7 +2,7 @@
 // The splash: the program's name and version, on the screen until its timer fires.
 #pragma once
 
-#include "ui/qt/windows/form_window.h"
+#include "ui/qt/binding/form_window.h"
 
 namespace tallywick {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/windows/transfer_input.h"
 
-#include "ui/qt/windows/form_window.h"
+#include "ui/qt/binding/form_window.h"
 
 #include <QCoreApplication>
 #include <QEvent>

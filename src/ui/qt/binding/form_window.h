@@ -7,7 +7,6 @@
 
 #include <QMainWindow>
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace tallywick {
@@ -87,8 +86,5 @@ class FormWindow : public QMainWindow {
   Desk desk_;
   Binding binding_;
 };
-
-/// The window for a form of the model. Every control of the form has its widget.
-std::unique_ptr<FormWindow> makeWindow(Form& form, const Desk& desk);
 
 }  // namespace tallywick
