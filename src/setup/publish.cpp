@@ -156,6 +156,7 @@ void publishInto(const fs::path& folder, const std::vector<PublishedFile>& files
 void publish(const fs::path& tree, const fs::path& from, std::ostream& out) {
   const DataFolder folder(from);
   std::vector<PublishedGame> games;
+  games.reserve(allGames.size());
   for (const GameInfo* game : allGames) games.push_back(readGame(folder, *game));
   fs::create_directories(tree);
   const os::FileLock lock(tree / lockName, os::FileLock::Wait::yes);
