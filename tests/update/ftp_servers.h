@@ -169,7 +169,7 @@ inline std::string textOf(const std::filesystem::path& file) {
 inline std::filesystem::path served(const std::filesystem::path& tree) {
   if (hasPosixFiles) return tree;
   // The tree itself, as the server follows no link that leads out of its root.
-  const std::filesystem::path root = tree.parent_path() / "served";
+  std::filesystem::path root = tree.parent_path() / "served";
   const std::string drive = root.string() + "/D:";
   shell("if [ ! -L " + tree.string() + " ]; then mkdir " + root.string() + " && mv " + tree.string() + " " +
         drive + " && ln -s " + drive + " " + tree.string() + "; fi");
