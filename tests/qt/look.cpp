@@ -112,7 +112,8 @@ void expectOnScreen(const QWidget& window) {
 /// Pages may be higher than the window, and never wider.
 void expectNoSidewaysScrolling(const QWidget& window) {
   for (const auto* area : window.findChildren<QScrollArea*>()) {
-    EXPECT_TRUE(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0) << "wider than the window by " << area->horizontalScrollBar()->maximum();
+    EXPECT_TRUE(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0)
+        << "wider than the window by " << area->horizontalScrollBar()->maximum();
   }
 }
 

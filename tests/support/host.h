@@ -25,7 +25,8 @@ inline std::filesystem::path driveOf(const std::filesystem::path& tree) {
 
 /// Gives `file` a time that no write gives it now, and returns it.
 inline std::filesystem::file_time_type makeOld(const std::filesystem::path& file) {
-  std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - std::chrono::hours(24));
+  std::filesystem::last_write_time(file,
+                                   std::filesystem::file_time_type::clock::now() - std::chrono::hours(24));
   return std::filesystem::last_write_time(file);
 }
 
