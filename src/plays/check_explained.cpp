@@ -9,6 +9,7 @@
 #include "plays/play_table.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace tallywick {
@@ -20,6 +21,8 @@ struct Counts {
   std::size_t drawn = 0;
   std::size_t won = 0;
   std::size_t doublePlayWon = 0;
+  /// Some of these: their own draw did not let them win.
+  std::size_t doublePlayAlone = 0;
   /// Whether the first played play is one of these.
   bool firstWonDoublePlay = false;
   std::int64_t dollars = 0;
@@ -40,15 +43,18 @@ std::string itemOf(const JudgedPlay& play) {
 }
 
 Counts countsOf(const std::vector<std::string>& listed, const Judgement& judgement) {
+  // There may be a million of both.
+  const std::unordered_set<std::string_view> isAmong(listed.begin(), listed.end());
   Counts counts;
   for (const JudgedPlay& play : judgement.plays) {
     const bool isWon = play.match.wins();
     const bool isCommitted = play.file == PlaySlot::committed;
-    const bool isListed = !isCommitted && std::ranges::find(listed, itemOf(play)) != listed.end();
+    const bool isListed = !isCommitted && isAmong.contains(itemOf(play));
     if (play.state == DrawState::drawn) ++counts.drawn;
     if (isWon) ++counts.won;
     if (winsDoublePlay(play)) {
       ++counts.doublePlayWon;
+      if (!isWon) ++counts.doublePlayAlone;
       if (!isCommitted && play.record == 1) counts.firstWonDoublePlay = true;
     }
     counts.dollars += play.prize.value_or(0);
@@ -68,6 +74,16 @@ std::string judgedSentence(const GameInfo& game, const Counts& counts) {
       counts.dollars > 0 ? join(": ", moneyText(counts.dollars * 100), " in all before any multiplier") : "";
   return join(std::to_string(counts.won), " of ", drawn, " won in the draw of ",
               counts.won == 1 ? "its" : "their", " own date", dollars, ".");
+}
+
+/// In the words of the strip over the pages.
+std::string wonByDoublePlay(const Counts& counts) {
+  const std::size_t both = counts.doublePlayWon - counts.doublePlayAlone;
+  std::string text = join(counts.won == 0 ? "None" : std::to_string(counts.won), " won");
+  if (both > 0) text += join(", ", std::to_string(both), " of them by Double Play too");
+  if (counts.doublePlayAlone > 0)
+    text += join(" (", std::to_string(counts.doublePlayAlone), " more by Double Play)");
+  return text;
 }
 
 /// Of the check by date.
@@ -127,7 +143,7 @@ CheckExplained checkExplained(const WinningsPage& page, const GameInfo& game, co
   say("Won, and still among the next plays", counts.wonButCommitted, "The check does not look there.");
   const bool isFirstListed = !isByDate && page.List10.items().size() > 0;
   if (isFirstListed != counts.firstWonDoublePlay || counts.doublePlayWon > (isFirstListed ? 1U : 0U)) {
-    sentences.push_back(join("Won with Double Play: ", inFigures(counts.doublePlayWon, "play"), ". ",
+    sentences.push_back(join(wonByDoublePlay(counts), ". ",
                              isByDate
                                  ? "The check by date does not look at Double Play."
                                  : "The check sets the first play against the newest Double Play draw."));

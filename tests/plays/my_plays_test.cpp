@@ -276,13 +276,14 @@ TEST_F(MyPlays, TheCheckSaysWhereTheJudgingDiffers) {
                 "their own date.\n"
                 "Won, and not listed: 1 play. The check looks at the newest draw alone.\n" +
                 left +
-                "Won with Double Play: 1 play. The check sets the first play "
+                "3 won, 1 of them by Double Play too. The check sets the first play "
                 "against the newest Double Play draw.\n");
   EXPECT_EQ(explained(page.Option2),
             sum +
                 "The check wrote this for a losing play, and did not take it back for the 2 plays after it "
                 "that won.\n" +
-                left + "Won with Double Play: 1 play. The check by date does not look at Double Play.\n");
+                left +
+                "3 won, 1 of them by Double Play too. The check by date does not look at Double Play.\n");
   // Two histories have the draw of a play that the main one does not have yet.
   scratch.write(game("QZRNUM62.Dat"), records({"01,07,2026,11,12,13,14,15,16,2"}));
   scratch.write(game("QZRNUM72.Dat"), records({"01,07,2026,91,92,93,94,95,96,2,DP,11,12,13,14,15,16,1"}));

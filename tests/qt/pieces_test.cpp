@@ -113,6 +113,9 @@ TEST(Lists, AreSavedAsTextAndInColumns) {
   verdicts.reload();
   EXPECT_TRUE(verdicts.header()->isHidden());
   EXPECT_EQ(asCommaSeparated(verdicts), "11-18-2026   Winning Ticket...\r\n");
+  texts.add(lines[0]);
+  verdicts.reload();
+  EXPECT_FALSE(verdicts.header()->isHidden());
   const QString table = asTable(list, 1);
   EXPECT_TRUE(table.contains(QStringLiteral("<td align=\"left\">06&nbsp;08&nbsp;30&nbsp;51&nbsp;55</td>")))
       << table.toStdString();

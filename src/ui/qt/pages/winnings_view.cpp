@@ -99,12 +99,9 @@ void showPlaysInColumns(const WinningsView& view, const MainForm& form, PlayJudg
 }
 
 /// The plays that a check found to have won.
-void showEmphasisedLines(LineList& lines, const ListBox& list) {
+void showEmphasisedLines(LineList& lines) {
   lines.lineModel()->setStandOut(
-      [&list](std::size_t, std::string_view line) {
-        return std::ranges::find(list.emphasis(), line) != list.emphasis().end();
-      },
-      winningMeaning);
+      [&lines](std::size_t, std::string_view line) { return lines.emphasises(line); }, winningMeaning);
 }
 
 }  // namespace
@@ -147,8 +144,7 @@ QWidget* WinningsView::plays(MainForm& form, Binding& binding) {
   auto* page = new QWidget;
   auto* lists = new Sides(u"plays"_s);
   showEmphasisedLines(*titledList(*lists, u"Plays Already Dr&awn"_s, form.winnings.List14,
-                                  u"No play's draw has taken place yet."_s, binding),
-                      form.winnings.List14);
+                                  u"No play's draw has taken place yet."_s, binding));
   titledList(*lists, u"Plays &to Be Drawn"_s, form.winnings.List17, u"No play waits for its draw."_s,
              binding);
   auto* movePowerBall = new QPushButton(page);

@@ -64,16 +64,14 @@ bool hasBalls(LineField field) {
 
 /// The balls of a cell; an extra ball's kind is the same for every game.
 std::vector<LineBall> ballsOf(LineField field, std::span<const std::string> cells,
-                              const LineHighlights& highlights, const std::vector<std::string>& found) {
-  const auto contains = [](const std::vector<std::string>& texts, const std::string& number) {
-    return std::ranges::find(texts, number) != texts.end();
-  };
+                              const LineHighlights& highlights, const LineList& list) {
   const bool isExtra = field == LineField::extra;
   std::vector<LineBall> balls;
   for (const std::string& number : cells) {
-    const bool isMatched = isExtra ? highlights.extra : contains(highlights.whites, number);
+    const bool isMatched =
+        isExtra ? highlights.extra : std::ranges::find(highlights.whites, number) != highlights.whites.end();
     balls.push_back({toQString(number), isExtra ? LineBallKind::roundRed : LineBallKind::white,
-                     isMatched || contains(found, number)});
+                     isMatched || list.emphasises(number)});
   }
   return balls;
 }
@@ -132,7 +130,7 @@ void LineDelegate::paintCells(QPainter& painter, const QStyleOptionViewItem& opt
     const auto own = left.first(cellsIn(field));
     left = left.subspan(own.size());
     if (hasBalls(field))
-      paintBalls(painter, area, option, ballsOf(field, own, highlights, list_.emphasis()), ground);
+      paintBalls(painter, area, option, ballsOf(field, own, highlights, list_), ground);
     else
       painter.drawText(area, static_cast<int>(alignmentOf(field)), cellText(field, own));
   }

@@ -154,9 +154,8 @@ void LineList::fitHeader() {
   const std::size_t count = std::min(lines->lines().size(), looked);
   std::size_t first = 0;
   while (first < count && !cellsOf(columns(), lines->lines()[first])) ++first;
-  isAllText_ = count > 0 && first == count;
-  const bool begins = first > 0;
-  if (std::exchange(beginsWithText_, begins) == begins) return;
+  const bool fits = count == 0 || first < count;
+  if (std::exchange(headerFits_, fits) == fits) return;
   header_->setVisible(showsHeader());
   updateGeometry();
   updateGeometries();
@@ -164,7 +163,9 @@ void LineList::fitHeader() {
 
 void LineList::setEmphasis(std::vector<std::string> texts) {
   if (emphasis_ == texts) return;
+  emphasised_.clear();
   emphasis_ = std::move(texts);
+  emphasised_.insert(emphasis_.begin(), emphasis_.end());
   viewport()->update();
 }
 
@@ -216,7 +217,7 @@ QSize LineList::lineSize() const {
   };
   int height = static_cast<int>(metrics.height()) + theme::halfGap;
   if (std::ranges::any_of(columns(), hasBalls)) height = std::max(height, lineBallSide(metrics) + 2);
-  const bool hasColumns = header_ != nullptr && !isAllText_;
+  const bool hasColumns = header_ != nullptr && headerFits_;
   return {hasColumns ? std::max(text, header_->neededWidth()) : text, height};
 }
 

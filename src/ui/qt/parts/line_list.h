@@ -14,6 +14,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace tallywick {
@@ -106,6 +107,8 @@ class LineList : public QListView {
   /// Texts shown in bold where they are a field of a line.
   void setEmphasis(std::vector<std::string> texts);
   const std::vector<std::string>& emphasis() const { return emphasis_; }
+  /// Quick, whatever their count is.
+  bool emphasises(std::string_view text) const { return emphasised_.contains(text); }
   /// For how many lines there is always room.
   void setLeastRows(int rows) { leastRows_ = rows; }
   /// What an empty list says.
@@ -128,18 +131,19 @@ class LineList : public QListView {
  private:
   QSize sizeOf(int width, int rows) const;
   int textWidth(int characters) const;
-  bool showsHeader() const { return header_ != nullptr && !headerHidden_ && !beginsWithText_; }
-  /// No header is over lines of text, and where all are text they have no columns' width.
+  bool showsHeader() const { return header_ != nullptr && !headerHidden_ && headerFits_; }
+  /// Where all lines are text they have no header and no columns' width.
   void fitHeader();
 
   LineHeader* header_ = nullptr;
   bool headerHidden_ = false;
-  bool beginsWithText_ = false;
-  bool isAllText_ = false;
+  bool headerFits_ = true;
   int leastRows_ = 3;
   bool extraBalls_ = false;
   Game game_ = Game::powerBall;
   std::vector<std::string> emphasis_;
+  /// Views of them.
+  std::unordered_set<std::string_view> emphasised_;
   QString placeholder_;
   QString typed_;
   QElapsedTimer sinceTyped_;
