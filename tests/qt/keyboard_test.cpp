@@ -7,8 +7,10 @@
 #include "ui/qt/windows/text_size.h"
 
 #include <QComboBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
+#include <algorithm>
 #include <utility>
 
 namespace tallywick::test {
@@ -42,6 +44,21 @@ TEST_F(Keyboard, SavesThePagesListWhereverTheFocusIs) {
     });
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(std::exchange(title, {}), QStringLiteral("Save the Lines")) << name;
+  }
+}
+
+TEST_F(Keyboard, SavesTheTopmostListOfAPage) {
+  FormWindow& main = open("Form1");
+  QMenu& file = *main.findChild<QAction*>(QStringLiteral("mnuFile"))->menu();
+  auto& winnings = widget<QTabWidget>("Form1", "SSTab3");
+  widget<QTabWidget>("Form1", "SSTab1").setCurrentIndex(2);
+  int page = 0;
+  for (const char* list : {"Plays Already Drawn", "Winning Tickets", "My plays"}) {
+    winnings.setCurrentIndex(page++);
+    Q_EMIT file.aboutToShow();
+    const auto isSave = [](const QAction* each) { return each->text().contains(QStringLiteral("Ctrl+S")); };
+    const QList<QAction*> entries = file.actions();
+    EXPECT_EQ((*std::ranges::find_if(entries, isSave))->toolTip(), QString::fromLatin1(list));
   }
 }
 

@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTabWidget>
+#include <algorithm>
+#include <utility>
 
 namespace tallywick {
 
@@ -38,9 +40,14 @@ QAction* ListInUse::printEntry(const QMenu& menu) {
 // The lists' own actions and answers() have the keys.
 QAction* ListInUse::entry(const QMenu& menu, const QString& text, const QString& actionText) {
   auto* made = new QAction(text, this);
-  made->setToolTip(u"The list in use, else the first one of the page"_s);
   connect(made, &QAction::triggered, this, [this, actionText] { act(actionText); });
-  connect(&menu, &QMenu::aboutToShow, made, [this, made] { made->setEnabled(list() != nullptr); });
+  connect(&menu, &QMenu::aboutToShow, made, [this, made] {
+    const QAbstractItemView* const used = list();
+    made->setEnabled(used != nullptr);
+    const QString which = used != nullptr ? used->accessibleName() : QString();
+    made->setToolTip(which);
+    made->setStatusTip(which.isEmpty() ? which : u"The list: %1"_s.arg(which));
+  });
   return made;
 }
 
@@ -61,11 +68,17 @@ void ListInUse::act(const QString& actionText) const {
 
 QAbstractItemView* ListInUse::list() const {
   if (last_ && last_->isVisible()) return last_;
-  for (auto* each : pages_.currentWidget()->findChildren<QAbstractItemView*>()) {
+  QList<QAbstractItemView*> lists = pages_.currentWidget()->findChildren<QAbstractItemView*>();
+  lists.removeIf([](const QAbstractItemView* each) {
     const bool isOfPicker = qobject_cast<QComboBox*>(each->parentWidget()) != nullptr;
-    if (each->isVisible() && !each->actions().isEmpty() && !isOfPicker) return each;
-  }
-  return nullptr;
+    return !each->isVisible() || each->actions().isEmpty() || isOfPicker;
+  });
+  const auto place = [this](const QAbstractItemView* each) {
+    const QPoint corner = each->mapTo(&pages_, QPoint());
+    return std::pair(corner.y(), corner.x());
+  };
+  const auto first = std::ranges::min_element(lists, {}, place);
+  return first == lists.end() ? nullptr : *first;
 }
 
 }  // namespace tallywick

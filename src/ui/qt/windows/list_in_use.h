@@ -28,7 +28,7 @@ class ListInUse : public QObject {
   QAction* entry(const QMenu& menu, const QString& text, const QString& actionText);
   /// Triggers the list's action of that text.
   void act(const QString& actionText) const;
-  /// The list that was in front last, else the first one of the page.
+  /// The list that was in front last, else the topmost of the page, of several the leftmost.
   QAbstractItemView* list() const;
 
   QTabWidget& pages_;
