@@ -1,5 +1,6 @@
-; The installer for one user: no administrator is asked for. STAGE is the folder with all files, REMOVALS the list of what the
-; uninstaller removes, which is what was installed and nothing else: record books stay wherever they are.
+; The installer for one user: no administrator is asked for. STAGE is the folder with all files, FILES the list of them, programs
+; first. The uninstaller removes what was installed and nothing else: record books stay wherever they are. Both change nothing
+; while a program or library of theirs is in use, and end with 2 where they did not do all.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -33,30 +34,77 @@ VIAddVersionKey "LegalCopyright" "GPL-3.0-or-later"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
-; A program that runs keeps its file from being replaced.
-!macro RefuseWhileRunning
-  ${If} ${FileExists} "$INSTDIR\tallywick.exe"
+; Without a button that passes over a file which cannot be written.
+AllowSkipFiles off
+
+; What FILES has, in two uses: "PackedProgram FILE", "PackedFile FILE" and "PackedFolder FOLDER".
+!macro CheckProgram name
+  StrCpy $0 "${name}"
+  Call ${SIDE}RefuseWhileInUse
+!macroend
+!macro CheckFile name
+!macroend
+!macro CheckFolder name
+!macroend
+!macro RemoveProgram name
+  Delete "$INSTDIR\${name}"
+!macroend
+!macro RemoveFile name
+  Delete "$INSTDIR\${name}"
+!macroend
+!macro RemoveFolder name
+  RMDir "$INSTDIR\${name}"
+!macroend
+!macro CheckThatNoneIsInUse prefix
+  !define SIDE "${prefix}"
+  !define USE Check
+  !include "${FILES}"
+  !undef USE
+  !undef SIDE
+!macroend
+
+!macro Stop text
+  MessageBox MB_OK|MB_ICONEXCLAMATION "${text}" /SD IDOK
+  SetErrorLevel 2
+  Quit
+!macroend
+
+; Ends this where the file $0 is there and cannot be written: that of a program that runs cannot be.
+!macro RefuseWhileInUse prefix
+Function ${prefix}RefuseWhileInUse
+  ${If} ${FileExists} "$INSTDIR\$0"
+    again:
     ClearErrors
-    FileOpen $0 "$INSTDIR\tallywick.exe" a
+    FileOpen $1 "$INSTDIR\$0" a
     ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONEXCLAMATION "Tallywick is running. Close it and start this again." /SD IDOK
+      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$0 is in use. Close Tallywick and press Retry." /SD IDCANCEL IDRETRY again
       SetErrorLevel 2
       Quit
     ${EndIf}
-    FileClose $0
+    FileClose $1
   ${EndIf}
+FunctionEnd
 !macroend
+!insertmacro RefuseWhileInUse ""
+!insertmacro RefuseWhileInUse "un."
 
 Section
-  !insertmacro RefuseWhileRunning
+  !insertmacro CheckThatNoneIsInUse ""
   ; An earlier version takes its own files away.
   ${If} ${FileExists} "$INSTDIR\uninstall.exe"
-    ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR'
+    ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR' $0
+    ${If} $0 <> 0
+      !insertmacro Stop "The earlier version cannot be removed. Close Tallywick and start this again."
+    ${EndIf}
   ${EndIf}
   SetOutPath "$INSTDIR"
+  ClearErrors
   File /r "${STAGE}/*"
-  CreateShortcut "$SMPROGRAMS\Tallywick.lnk" "$INSTDIR\tallywick.exe"
   WriteUninstaller "$INSTDIR\uninstall.exe"
+  ${If} ${Errors}
+    !insertmacro Stop "Not all files could be written. Make room on the disk and start this again."
+  ${EndIf}
+  CreateShortcut "$SMPROGRAMS\Tallywick.lnk" "$INSTDIR\tallywick.exe"
   WriteRegStr HKCU "${UNINSTALL}" "DisplayName" "Tallywick"
   WriteRegStr HKCU "${UNINSTALL}" "DisplayVersion" "${VERSION}"
   WriteRegStr HKCU "${UNINSTALL}" "DisplayIcon" "$INSTDIR\tallywick.exe"
@@ -70,11 +118,17 @@ Section
 SectionEnd
 
 Section Uninstall
-  !insertmacro RefuseWhileRunning
-  !include "${REMOVALS}"
+  !insertmacro CheckThatNoneIsInUse "un."
+  SetOutPath "$TEMP"
+  ClearErrors
+  !define USE Remove
+  !include "${FILES}"
+  !undef USE
+  ${If} ${Errors}
+    !insertmacro Stop "Some files in $INSTDIR are in use. Close them and start this again."
+  ${EndIf}
   Delete "$SMPROGRAMS\Tallywick.lnk"
   Delete "$INSTDIR\uninstall.exe"
-  SetOutPath "$TEMP"
   RMDir "$INSTDIR"
   DeleteRegKey HKCU "${UNINSTALL}"
 SectionEnd
