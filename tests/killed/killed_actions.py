@@ -6,7 +6,7 @@ Whatever happens, the next start of the program must find the data folder wholly
 undisturbed action leaves it. Usage: killed_actions.py PROGRAM KIND, where PROGRAM is killed_action. Exit code
 77: this system has no strace, or does not let it trace.
 
-killed_actions.py PROGRAM KIND COUNT takes no strace and ends each action COUNT times at random moments. With TALLYWICK_EMULATOR
+killed_actions.py PROGRAM KIND COUNT takes no strace and ends each action COUNT times or more at random moments. With TALLYWICK_EMULATOR
 in the environment that command runs PROGRAM.
 """
 
@@ -18,13 +18,15 @@ import pathlib
 import random
 import re
 import shutil
+import statistics
 import subprocess
 import sys
 import tempfile
 import time
 import zipfile
 
-PROGRAM = [*os.environ.get("TALLYWICK_EMULATOR", "").split(), sys.argv[1]]
+EMULATOR = os.environ.get("TALLYWICK_EMULATOR", "").split()
+PROGRAM = [*EMULATOR, sys.argv[1]]
 ACTIONS = {"selection": ["done-10", "done-1", "select", "open"], "files": ["maintain", "receive", "publish"],
            "by-hand": ["by-hand-" + change for change in ("remove", "move", "keep", "bring-back", "undo")],
            "draws": ["fetch", "add-draw", "remove-draw"], "restore": ["restore"], "backup": ["backup"]}[sys.argv[2]]
@@ -88,7 +90,8 @@ def state():
         if name.suffix == ".zip":  # its bytes depend on the time
             archive = zipfile.ZipFile(folder / name)
             text = together(*(entry.encode() + archive.read(entry) for entry in archive.namelist()))
-            check((folder / name).stat().st_mode & 0o77 == 0, f"{name} can be read by all")
+            # On Windows it is the folder that others cannot read.
+            check(EMULATOR or (folder / name).stat().st_mode & 0o77 == 0, f"{name} can be read by all")
         found[pathlib.Path(re.sub(r"\d{4}-\d\d-\d\d \d{6}", "DATE", str(name)))].append(text)
     return {name: together(*texts) for name, texts in found.items()}
 
@@ -182,26 +185,61 @@ def fail_everywhere(action, start, outcomes):
     return failures
 
 
+def times():
+    """What a look at the folder tells of changes, without opening a file."""
+    found = {}
+    for place, _, names in os.walk(folder):
+        for name in names:
+            try:
+                found[place, name] = os.stat(os.path.join(place, name)).st_mtime_ns
+            except FileNotFoundError:
+                pass
+    return found
+
+
+def span_of_changes(action, start):
+    """When the undisturbed action begins and ends to change files, in seconds after its announcement."""
+    lay_out(start)
+    before = last = times()
+    first = end = None
+    with subprocess.Popen([*PROGRAM, str(folder), action, "announced"], stdout=subprocess.PIPE) as process:
+        process.stdout.readline()
+        began = time.monotonic()
+        while process.poll() is None:
+            now = times()
+            if now != last:
+                end = time.monotonic() - began
+                first = end if first is None else first
+            last = now
+    return (first, end) if first is not None else (0, time.monotonic() - began)
+
+
 def end_at_random(action, count, start, outcomes):
-    """Ends the action at `count` random moments between its first step and its last, starts the program again, and compares."""
-    longest, left = 0, collections.Counter()
-    for number in range(-5, count):
+    """Ends the action at `count` random moments while it changes files, and at up to four times as many until every fourth
+    found it half made; starts the program again, and compares."""
+    spans = [span_of_changes(action, start) for _ in range(7)]
+    first, last = (statistics.median(ends) for ends in zip(*spans))
+    found = collections.Counter()
+    while found.total() < count or (found["between"] * 4 < count and found.total() < 4 * count):
         lay_out(start)
+        moment = random.uniform(first, last)
         with subprocess.Popen([*PROGRAM, str(folder), action, "announced"], stdout=subprocess.PIPE) as process:
             process.stdout.readline()
-            began = time.monotonic()
-            if number < 0:
-                process.stdout.read()
-                longest = max(longest, time.monotonic() - began)
-            else:
-                time.sleep(random.uniform(0, longest))
-                process.kill()
+            time.sleep(moment)
+            process.kill()
         files = state()
-        left["before" if files == outcomes[0] else "after" if files == outcomes[-1] else "between"] += number >= 0
-        what = f"{action}, ended at random, number {number}"
+        where = "before" if files == outcomes[0] else "after" if files == outcomes[-1] else "between"
+        found[where] += 1
+        # Nobody looks at the folder now, and the computer is not as busy as it was: the span follows what is found.
+        if where == "after":
+            first, last = first * 0.95, (3 * last + moment) / 4
+        elif where == "before":
+            first, last = (3 * first + moment) / 4, last * 1.05
+        what = f"{action}, ended at random, number {found.total()}"
         check(run(MENDING[action]).returncode == 0, what + ": no recovery")
         check(state() in outcomes, what)
-    print(f"{action}: {count} ends within {longest * 1000:.0f} ms, nothing lost; found {dict(left)}", flush=True)
+    print(f"{action}: {found.total()} ends, at last from {first * 1000:.1f} to {last * 1000:.1f} ms; found {dict(found)}, nothing lost",
+          flush=True)
 
 
 def prepare(action):
