@@ -152,7 +152,7 @@ SearchHint searchHint(const TwoThreePage& page) {
                                              : "among all six balls of a draw.");
   if (combination.positions == Positions{2, 3, 6}) {
     hint.surprises = true;
-    hint.text += " Double Play lists such draws, but counts 0.";
+    hint.text += " The count of Double Play stays 0; the true one is below it.";
   }
   return hint;
 }
@@ -199,13 +199,16 @@ Searched searchedNow(const HavePlayedPlaysPage& page, const GameFrames& frames) 
   return searchOf(countedGame(frames, false), firstMarkedNumber(page.numbers));
 }
 
-void SearchMemory::watch(Button& search, const std::function<Searched()>& now) {
-  search.onClick = [this, now, act = search.onClick] {
+void SearchMemory::watch(Button& search, const std::function<Searched()>& now,
+                         const std::function<bool(TextLines&)>& listTrue) {
+  search.onClick = [this, now, listTrue, act = search.onClick] {
     const Searched searched = now();
     const std::size_t listedBefore = listed_ != nullptr ? listed_->revision() : 0;
     act();
     searched_ = searched;
     isOld_ = false;
+    true_.clear();
+    isMixed_ = listTrue && listTrue(true_);
     foundRevision_ = found_.revision();
     // A press that searches nothing leaves the list alone.
     if (listed_ != nullptr && listed_->revision() != listedBefore) listedRevision_ = listed_->revision();
@@ -226,6 +229,7 @@ std::string SearchMemory::hint(const Searched& now) const {
 
 std::string SearchMemory::foundText() const {
   if (!isOurs()) return {};
+  if (isMixed_) return mixedText();
   const std::size_t count = found_.size();
   const std::string with = join(" with ", searched_.numbers, count == 1 ? " was" : " were", " found");
   if (count == 0) return join("No ", searched_.game, " draw with ", searched_.numbers, " was found.");
@@ -233,8 +237,20 @@ std::string SearchMemory::foundText() const {
               count == 1 ? "; the list below has it." : "; the list below has them all.");
 }
 
+std::string SearchMemory::mixedText() const {
+  const std::size_t count = true_.size();
+  const std::string draw = join(searched_.game, " draw");
+  const std::string truly =
+      count == 0 ? join("No ", draw, " has ", searched_.numbers, ".")
+                 : join(inFigures(count, draw), count == 1 ? " has " : " have ", searched_.numbers,
+                        count == 1 ? ": see the list on the left." : ": the list on the left has them all.");
+  return join(truly,
+              " The count above, the line Draws found and the last list are what old record books expect: "
+              "they mix in other draws.");
+}
+
 bool SearchMemory::isFoundElsewhere() const {
-  return listed_ == nullptr && isOurs() && !found_.empty();
+  return isOurs() && (isMixed_ || listed_ == nullptr) && !foundElsewhere().empty();
 }
 
 bool SearchMemory::isListed() const {

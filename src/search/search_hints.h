@@ -58,7 +58,11 @@ class SearchMemory {
   SearchMemory(const TextLines& found, const TextLines* listed) : found_(found), listed_(listed) {}
 
   /// Lets each press of `search` be remembered. The memory outlives the button's presses.
-  void watch(Button& search, const std::function<Searched()>& now);
+  void watch(Button& search, const std::function<Searched()>& now) { watch(search, now, {}); }
+  /// The same for a search that mixes in draws without the numbers: `listTrue` lists those that have them,
+  /// and is false where it cannot.
+  void watch(Button& search, const std::function<Searched()>& now,
+             const std::function<bool(TextLines&)>& listTrue);
 
   /// The record book has other draws now than when it searched.
   void drawsChanged() { isOld_ = true; }
@@ -67,22 +71,30 @@ class SearchMemory {
   /// are not of it; empty without a result. `now` without numbers says nothing against it.
   std::string hint(const Searched& now) const;
   /// How many draws were found, and with what: "9 PowerBall draws with 07 and 17 were found."; empty without
-  /// a result.
+  /// a result. After a search that mixes in other draws how many truly have the numbers.
   std::string foundText() const;
   /// Whether the list shows the draws found.
   bool isListed() const;
   /// Whether draws were found that the list does not show.
   bool isFoundElsewhere() const;
+  /// Those draws.
+  const TextLines& foundElsewhere() const { return listed_ == nullptr ? found_ : true_; }
+  /// Whether the search was one that mixes in other draws.
+  bool isMixed() const { return isMixed_ && isOurs(); }
   /// What was searched last.
   const Searched& searched() const { return searched_; }
 
  private:
+  std::string mixedText() const;
   bool isOurs() const { return !searched_.numbers.empty() && found_.revision() == foundRevision_; }
 
   const TextLines& found_;
   const TextLines* listed_;
   Searched searched_;
   bool isOld_ = false;
+  bool isMixed_ = false;
+  /// What truly has the numbers, after a search that mixes in other draws.
+  TextLines true_;
   std::size_t foundRevision_ = 0;
   std::size_t listedRevision_ = 0;
 };

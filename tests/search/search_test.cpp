@@ -3,6 +3,7 @@
 // leftover state game, files that end inside a record, and what a window emphasises and says.
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "search/double_play_draws.h"
 #include "search/marks.h"
 #include "search/search_hints.h"
 #include "support/fakes.h"
@@ -296,6 +297,45 @@ TEST_F(SearchHints, SayWhoseResultIsShown) {
   EXPECT_FALSE(memory.isListed());
   page.Combo7.clear();
   EXPECT_EQ(memory.hint(searchedNow(page, {})), "");
+}
+
+// The records have 07 and 17 in main draws, in parts of two records and in Double Play draws.
+TEST_F(SearchHints, DoublePlayDrawsAreCountedTruly) {
+  std::string records;
+  std::vector<std::string> expected;
+  for (int i = 0; i < 300; ++i) {
+    const std::string date = join("03,", twoDigits(1 + i % 28), ",", std::to_string(2300 - i));
+    std::array<std::string, 6> balls = {"01", "02", "03", "04", "05", "06"};
+    if (i % 5 == 0) balls[static_cast<std::size_t>(i / 5 % 6)] = "07";
+    if (i % 7 == 0) balls[static_cast<std::size_t>(i / 7 % 6)] = "17";
+    const bool isBlank = i % 11 == 0;
+    std::string record = join(date, i % 3 == 0 ? ",07,17,20,41,55,09,X,Y" : ",01,02,03,04,05,07,17,Y");
+    for (const std::string& ball : balls) record += join(",", isBlank ? " " : ball);
+    records += record + ",Z\r\n";
+    const auto has = [&](const char* number) { return !isBlank && std::ranges::count(balls, number) > 0; };
+    if (has("07") && has("17")) expected.push_back(join("-", std::to_string(2300 - i), " "));
+  }
+  ASSERT_GT(expected.size(), 3U);
+  files.write(doublePlayDraws, records + "03,07,2000,07,17");
+  page.Command26.onClick = [this] { Command26_Click(page, files.folder(), boxes); };
+  memory.watch(
+      page.Command26, [this] { return searchedNow(page, "Double Play"); },
+      [this](TextLines& lines) { return listDoublePlayDraws(page.numbers, files.folder(), lines); });
+  page.Combo4.setText("7 17");
+  click(page.Command37);
+  click(page.Command26);
+  const TextLines& found = memory.foundElsewhere();
+  ASSERT_EQ(found.size(), expected.size());
+  for (std::size_t i = 0; i < found.size(); ++i)
+    EXPECT_THAT(std::string(found[i]), testing::HasSubstr(expected[i]));
+  EXPECT_NE(page.List8.items().size(), found.size());
+  EXPECT_EQ(
+      memory.foundText(),
+      join(std::to_string(expected.size()),
+           " Double Play draws have 07 and 17: the list on the left has them all. The count above, the "
+           "line Draws found and the last list are what old record books expect: they mix in other draws."));
+  click(page.Command38);
+  EXPECT_FALSE(memory.isMixed() || memory.isFoundElsewhere());
 }
 
 }  // namespace

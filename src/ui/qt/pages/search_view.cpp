@@ -2,6 +2,7 @@
 #include "ui/qt/pages/search_view.h"
 
 #include "app/main_form.h"
+#include "search/double_play_draws.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/pages/drawn_lists.h"
 #include "ui/qt/parts/flow.h"
@@ -23,6 +24,8 @@ namespace {
 
 /// The window's own list beside a model's.
 const QString foundName = u"Draws that were found"_s;
+/// The same beside the model's list of the Double Play search, which mixes in other draws.
+const QString doublePlayName = u"Double Play draws found"_s;
 
 /// What a press will search, in two lines, and whose result is shown.
 constexpr int hintLines = 3;
@@ -52,12 +55,16 @@ void addSearch(Flow& row, const SearchPanel::Search& search, Binding& binding, Q
 }
 
 /// The two/three-number search has a button for each game.
-SearchPanel twoThreePanel(TwoThreePage& page) {
+SearchPanel twoThreePanel(TwoThreePage& page, const DataFolder& folder) {
   auto memory = std::make_shared<SearchMemory>(page.Combo7.items(), &page.List8.items());
-  const std::pair<Button*, const char*> searches[] = {
-      {&page.Command38, "PowerBall"}, {&page.Command25, "Mega Millions"}, {&page.Command26, "Double Play"}};
-  for (const auto& search : searches)
-    memory->watch(*search.first, [&page, game = search.second] { return searchedNow(page, game); });
+  const auto searchOf = [&page](const char* game) {
+    return [&page, game] { return searchedNow(page, game); };
+  };
+  memory->watch(page.Command38, searchOf("PowerBall"));
+  memory->watch(page.Command25, searchOf("Mega Millions"));
+  memory->watch(page.Command26, searchOf("Double Play"), [&page, &folder](TextLines& lines) {
+    return listDoublePlayDraws(page.numbers, folder, lines);
+  });
   return {u"Ta&ke the numbers of:"_s,
           page.Combo4,
           {&page.Command37},
@@ -110,6 +117,8 @@ void showDrawsInColumns(const SearchView& view, MainForm& form) {
     showInColumns(view, name, shownGame);
   for (auto* list : view.findChildren<LineList*>()) {
     if (list->accessibleName() == foundName) showInColumns(*list, drawFieldsShown, shownGame);
+    if (list->accessibleName() == doublePlayName)
+      showInColumns(*list, drawFieldsShown, [] { return Game::powerBall; });
   }
   const GameOfLines found = gameOfTwoThree(form.search.twoThree, shownGame);
   for (const char* name : {"Combo7", "List8"}) showInColumns(view, name, found);
@@ -234,8 +243,11 @@ QWidget* SearchPanelView::lists(const SearchPanel& panel, Binding& binding) {
     line->addWidget(box, 1);
   };
   foundLines_ = new QWidget;
-  auto* found = new LineList(panel.results.items(), foundLines_);
-  add(foundLines_, heading(foundLines_, u"Draws found"_s), found, foundName);
+  const TextLines& foundElsewhere = panel.memory->foundElsewhere();
+  const bool isOfResults = &foundElsewhere == &panel.results.items();
+  auto* found = new LineList(foundElsewhere, foundLines_);
+  add(foundLines_, heading(foundLines_, isOfResults ? u"Draws found"_s : doublePlayName), found,
+      isOfResults ? foundName : doublePlayName);
   addLineActions(*found, binding.runner());
   foundLines_->hide();
   listed_ = new QWidget;
@@ -257,7 +269,8 @@ void SearchPanelView::showHints() {
                     : hint.ready   ? HintPanel::Kind::ready
                                    : HintPanel::Kind::advice;
   hint_->show(kind, {}, shown.isEmpty() ? toQString(hint.text) : toQString(hint.text) + u'\n' + shown);
-  listTitle_->setText(panel_.memory->isListed() ? u"Draws found"_s : panel_.listTitle);
+  const QString listed = panel_.memory->isMixed() ? u"What old record books expect"_s : u"Draws found"_s;
+  listTitle_->setText(panel_.memory->isListed() ? listed : panel_.listTitle);
   showFound();
 }
 
@@ -270,16 +283,17 @@ void SearchPanelView::showFound() {
   // A count empties some of the model's lists.
   listed_->setVisible(!isElsewhere || !panel_.list.items().empty());
   auto& lines = *foundLines_->findChild<LineList*>();
-  lines.setEmphasis({panel_.memory->searched().numbers});
-  const std::size_t revision = panel_.results.items().revision();
+  lines.setEmphasis(panel_.memory->isMixed() ? panel_.list.emphasis()
+                                             : std::vector<std::string>{panel_.memory->searched().numbers});
+  const std::size_t revision = panel_.memory->foundElsewhere().revision();
   if (std::exchange(foundRevision_, revision) != revision) lines.reload();
 }
 
-SearchView::SearchView(MainForm& form, Binding& binding) {
+SearchView::SearchView(MainForm& form, const DataFolder& folder, Binding& binding) {
   SearchPages& pages = form.search;
   const GameOfLines shownGame = gameOnShowOf(form.frames);
   setDocumentMode(true);
-  add(twoThreePanel(pages.twoThree), u"&Two or Three Numbers"_s, shownGame, binding);
+  add(twoThreePanel(pages.twoThree, folder), u"&Two or Three Numbers"_s, shownGame, binding);
   add(havePlayedPanel(pages.havePlayed, form.frames), u"One Number of &a Draw"_s, shownGame, binding);
   add(playedPanel(pages.played, form.frames), u"Mult&iplier or Any Number"_s, shownGame, binding);
   add(havePlayedPlaysPanel(pages.havePlayedPlays, form.frames), u"One Number of a P&lay"_s, shownGame,

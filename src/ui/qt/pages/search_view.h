@@ -17,6 +17,7 @@ namespace tallywick {
 class Binding;
 class Button;
 class ComboBox;
+class DataFolder;
 class HintPanel;
 class Label;
 class LineList;
@@ -81,7 +82,7 @@ class SearchPanelView : public QWidget {
 
 class SearchView : public QTabWidget {
  public:
-  SearchView(MainForm& form, Binding& binding);
+  SearchView(MainForm& form, const DataFolder& folder, Binding& binding);
 
   void showHints();
   /// The record book has other draws than before: what was found may lack some.

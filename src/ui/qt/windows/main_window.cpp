@@ -97,7 +97,8 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
 
 void MainWindow::addPages() {
   pages_->addTab(new SummaryView(main_, *this), u"Summa&ry"_s);
-  addLaterPage(u"Sear&ches"_s, [this] { return searches_ = new SearchView(main_, binding()); });
+  addLaterPage(u"Sear&ches"_s,
+               [this] { return searches_ = new SearchView(main_, desk().folder, binding()); });
   addLaterPage(u"&Winnings"_s, [this] { return winnings_ = new WinningsView(main_, *this); });
   addLaterPage(u"&Draws"_s, [this] { return draws_ = new DrawsView(main_, binding()); });
   pages_->setCornerWidget(gameShown());
