@@ -80,7 +80,8 @@ void startRealBook(Application& application, QtPlatform& platform, std::optional
   platform.run([&application] { application.exit(); });
 }
 
-/// `next` becomes the folder to go on with.
+}  // namespace
+
 void connectDesk(Application& application, QtPlatform& platform, std::optional<fs::path>& next) {
   Desk& desk = platform.desk;
   desk.close = [&application](Form& form) { application.close(form); };
@@ -113,6 +114,8 @@ void connectDesk(Application& application, QtPlatform& platform, std::optional<f
   desk.showsMadeUpDraws = [&application] { return application.showsMadeUpDraws(); };
   desk.startRealBook = [&application, &platform, &next] { startRealBook(application, platform, next); };
 }
+
+namespace {
 
 int runWindows(Application& application, QtPlatform& platform, bool splash) {
   QTimer timer;

@@ -132,6 +132,20 @@ void savePicture(const QString& file) {
 
 }  // namespace
 
+void takeStep(const QString& line) {
+  const QString verb = line.section(u' ', 0, 0);
+  const QString rest = line.section(u' ', 1).trimmed();
+  const QString name = rest.section(u": "_s, 0, 0);
+  const QString text = rest.section(u": "_s, 1);
+  if (verb == u"press"_s) return press(rest);
+  if (verb == u"type"_s) return type(name, text);
+  if (verb == u"choose"_s) return choose(name, text.toInt());
+  if (verb == u"size"_s) return resizeTo(rest);
+  if (verb == u"picture"_s) return savePicture(rest);
+  if (verb != u"close"_s) fail(u"\"%1\" is no step"_s.arg(verb));
+  front().close();
+}
+
 Steps::Steps(const std::string& file) {
   std::ifstream lines(pathOf(file));
   if (!lines) throw std::runtime_error(join(file, " cannot be read"));
@@ -149,25 +163,11 @@ void Steps::takeNext() {
   // A dialog that this step opens has a loop of its own, in which the next step comes.
   start();
   try {
-    take(lines_[number - 1]);
+    takeStep(lines_[number - 1]);
   } catch (const std::exception& error) {
     std::cerr << "tallywick: step " << number << ": " << error.what() << '\n';
     failed_ = true;
   }
-}
-
-void Steps::take(const QString& line) {
-  const QString verb = line.section(u' ', 0, 0);
-  const QString rest = line.section(u' ', 1).trimmed();
-  const QString name = rest.section(u": "_s, 0, 0);
-  const QString text = rest.section(u": "_s, 1);
-  if (verb == u"press"_s) return press(rest);
-  if (verb == u"type"_s) return type(name, text);
-  if (verb == u"choose"_s) return choose(name, text.toInt());
-  if (verb == u"size"_s) return resizeTo(rest);
-  if (verb == u"picture"_s) return savePicture(rest);
-  if (verb != u"close"_s) fail(u"\"%1\" is no step"_s.arg(verb));
-  front().close();
 }
 
 }  // namespace tallywick

@@ -10,8 +10,7 @@ class QWidget;
 
 namespace tallywick {
 
-/// The lines of a file, each done in the window in front once the one before has shown its effect; then the
-/// program ends. Empty lines and those that begin with # are passed over.
+/// Does one step in the window in front; raises std::runtime_error where it is not possible.
 ///
 ///     press NAME         a button, a tab or a menu entry
 ///     type NAME: TEXT    into a field, a date or a drop-down
@@ -21,6 +20,10 @@ namespace tallywick {
 ///     close              closes the window
 ///
 /// A NAME is a designer name, a text without its mnemonic, or what a screen reader says.
+void takeStep(const QString& line);
+
+/// The lines of a file, each a step taken once the one before has shown its effect; then the program ends.
+/// Empty lines and those that begin with # are passed over.
 class Steps {
  public:
   /// Throws where the file cannot be read.
@@ -31,7 +34,6 @@ class Steps {
 
  private:
   void takeNext();
-  void take(const QString& line);
 
   std::vector<QString> lines_;
   std::size_t next_ = 0;
