@@ -50,6 +50,7 @@ const std::vector<Action>& actions() {
       {"chart of the last 100 draws", {"SSTab1=3"}, "Command52"},
       {"chart of the last 100 Double Play draws", {}, "Command27"},
       {"pictures of the newest draws", {}, "Command3"},
+      {"open the Mega Millions selection window", {"Command4"}, "Command48"},
       {"open the selection window", {"Command7"}, "Command48"},
       {"mark a number of the slip", {}, "Form3.07"},
       {"clear", {}, "Form3.Command84"},
@@ -78,21 +79,27 @@ void perform(const Application& application, std::string_view step) {
   }
 }
 
+void Times::add(std::clock_t time, int round) {
+  if (round == 0) first = time;
+  best = round <= 1 ? time : std::min(best, time);
+}
+
+void printTimes(std::string_view name, const Times& times) {
+  const double microseconds = 1e6 / CLOCKS_PER_SEC;
+  std::printf("%s\t%.0f\t%.0f\n", std::string(name).c_str(), static_cast<double>(times.first) * microseconds,
+              static_cast<double>(times.best) * microseconds);
+}
+
 void measureActions(const std::function<void(std::string_view step)>& run, int rounds) {
   for (const Action& action : actions()) {
-    std::clock_t first = 0;
-    std::clock_t best = 0;
+    Times times;
     for (int round = 0; round < rounds; ++round) {
       for (std::string_view step : action.before) run(step);
       const std::clock_t began = std::clock();
       run(action.press);
-      const std::clock_t took = std::clock() - began;
-      if (round == 0) first = took;
-      best = round <= 1 ? took : std::min(best, took);
+      times.add(std::clock() - began, round);
     }
-    const double microseconds = 1e6 / CLOCKS_PER_SEC;
-    std::printf("%s\t%.0f\t%.0f\n", std::string(action.name).c_str(),
-                static_cast<double>(first) * microseconds, static_cast<double>(best) * microseconds);
+    printTimes(action.name, times);
   }
 }
 

@@ -25,9 +25,18 @@ const std::vector<Action>& actions();
 /// Raises std::invalid_argument where there is no such control.
 void perform(const Application& application, std::string_view step);
 
-/// Runs every action `rounds` times and prints a line for each: its name, and the processor times of the
-/// first press and of the shortest one after it in microseconds, tabs between them. `run` runs a step and
-/// what follows from it.
+/// The first time of an action, and the shortest one after it.
+struct Times {
+  void add(std::clock_t time, int round);
+  std::clock_t first = 0;
+  std::clock_t best = 0;
+};
+
+/// A line: the name, and both times in microseconds, tabs between them.
+void printTimes(std::string_view name, const Times& times);
+
+/// Runs every action `rounds` times and prints the processor times of each. `run` runs a step and what
+/// follows from it.
 void measureActions(const std::function<void(std::string_view step)>& run, int rounds);
 
 }  // namespace tallywick::bench

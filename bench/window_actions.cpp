@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opens the main window on a data folder and ends when it is painted: `tallywick_window_actions FOLDER`. With
-// ROUNDS behind it every action is timed as well, until everything that has changed is painted.
+// ROUNDS behind it every action is timed as well, until everything that has changed is painted; with "walk"
+// behind that, what is done in the windows alone instead.
 #include "actions.h"
 #include "core/random.h"
 #include "painted_window.h"
 #include "plays/judged_plays.h"
 #include "reported_main.h"
+#include "ui/qt/parts/wording.h"
 #include "ui/qt/program/desk_actions.h"
 #include "ui/qt/program/guarded_application.h"
+#include "ui/qt/program/program.h"
 #include "ui/qt/program/qt_platform.h"
 #include "ui/qt/windows/text_size.h"
+#include "window_steps.h"
 
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace tallywick {
 namespace {
@@ -23,7 +28,7 @@ int run(int count, char** arguments) {
   QCoreApplication::setApplicationName(QStringLiteral("tallywick-bench"));
   GuardedApplication qt(count, arguments);
   if (count < 2) {
-    std::fprintf(stderr, "usage: %s FOLDER [ROUNDS]\n", arguments[0]);
+    std::fprintf(stderr, "usage: %s FOLDER [ROUNDS [walk]]\n", arguments[0]);
     return 2;
   }
   const TextSize textSize;
@@ -33,14 +38,17 @@ int run(int count, char** arguments) {
   QtPlatform platform(folder);
   platform.answerAlone();
   Application application({folder, settingsAtStart(folder, platform), clock, random, platform, {}});
-  platform.desk.clock = &clock;
-  platform.desk.close = [&](Form& form) { application.close(form); };
-  platform.desk.updateNote = [&] { return application.noteOfUpdate(); };
-  platform.desk.showsMadeUpDraws = [&] { return application.showsMadeUpDraws(); };
-  platform.desk.isSet = [&](const Control& control) { return isSet(application, control); };
+  std::optional<std::filesystem::path> next;
+  connectDesk(application, platform, next);
+  platform.desk.backUp = [&] { showBackups(application, platform); };
   bench::paint([&] { platform.run([&] { application.showMainWindow(); }); });
   if (count < 3) return 0;
   platform.windowOf(*application.find("Form1"))->finish();
+  const int rounds = std::atoi(arguments[2]);
+  if (count > 3) {
+    bench::measureWindowSteps(toQString(arguments[1]), rounds);
+    return 0;
+  }
   // Nobody is there to answer: what a window asks by itself is closed.
   QTimer answers;
   QObject::connect(&answers, &QTimer::timeout, &answers, [] {
@@ -52,7 +60,7 @@ int run(int count, char** arguments) {
         platform.run([&] { bench::perform(application, step); });
         QCoreApplication::processEvents();
       },
-      std::atoi(arguments[2]));
+      rounds);
   return 0;
 }
 
