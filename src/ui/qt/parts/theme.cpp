@@ -42,6 +42,14 @@ QString listFamily() {
 
 }  // namespace
 
+void nameOtherFaces() {
+#ifdef Q_OS_WIN
+  QFont::insertSubstitutions(QApplication::font().family(),
+                             {QStringLiteral("Segoe UI"), QStringLiteral("Tahoma"), QStringLiteral("Arial"),
+                              QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
+#endif
+}
+
 QFont headingFont(const QFont& base) {
   QFont font = base;
   font.setBold(true);

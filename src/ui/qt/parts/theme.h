@@ -29,6 +29,10 @@ inline constexpr double changeContrast = 1.5;
 /// What was won, found or matched.
 inline const QColor winning(22, 128, 72);
 
+/// On Windows names faces for texts to take where the one that the system names is not installed: the toolkit
+/// would take the first of all. Elsewhere the system does so.
+void nameOtherFaces();
+
 QFont headingFont(const QFont& base);
 /// A face whose digits and blanks have one width, in the size of `base`.
 QFont listFont(const QFont& base);

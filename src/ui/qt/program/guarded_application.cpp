@@ -12,6 +12,7 @@ namespace tallywick {
 
 GuardedApplication::GuardedApplication(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
+  theme::nameOtherFaces();
   setStyle(new OutlineStyle);
   theme::makeReadable();
 }
