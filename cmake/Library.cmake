@@ -20,6 +20,7 @@ function(tallywick_test name)
   target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES} tallywick_warnings GTest::gtest GTest::gmock
                                              GTest::gtest_main)
   tallywick_use_headers(${name}_test ${arg_HEADERS})
+  tallywick_windows_resources(${name}_test "Tests of Tallywick")
   # Through an emulator each program is one test: it takes longer to start than most cases take.
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name}_test)
