@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pieces that the windows are made of, each by itself.
+#include "qt/look.h"
 #include "ui/qt/dialogs/settings_dialog.h"
 #include "ui/qt/parts/ball_picture.h"
 #include "ui/qt/parts/chart_view.h"
@@ -177,6 +178,20 @@ TEST(BallPictures, ShowThePictureOrDrawTheBall) {
   EXPECT_NE(middle(), empty);
   EXPECT_EQ(shown.accessibleName(), QStringLiteral("extra ball 07"));
   EXPECT_EQ(middle(), fillOf(extraBallOf(Game::megaMillions), shown.palette()));
+}
+
+TEST(DimmedLabels, AreReadableOnADesktopThatTurnsDark) {
+  const QPalette before = QApplication::palette();
+  QWidget window;
+  DimmedLabel label(&window);
+  window.show();
+  for (const QPalette& colors : {darkPalette(), highContrastPalette(), lightPalette()}) {
+    QApplication::setPalette(colors);
+    QApplication::processEvents();
+    EXPECT_GE(theme::contrast(label.palette().color(QPalette::WindowText), colors.color(QPalette::Window)),
+              theme::textContrast);
+  }
+  QApplication::setPalette(before);
 }
 
 TEST(SettingsDialogs, GiveBackWhatTheyWereGiven) {

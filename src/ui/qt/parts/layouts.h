@@ -44,12 +44,13 @@ class DimmedLabel : public QLabel {
  protected:
   void changeEvent(QEvent* event) override {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange) dim();
+    if (event->type() == QEvent::PaletteChange) dim();
   }
 
  private:
   void dim() {
-    QPalette colors = QGuiApplication::palette();
+    // The other colours stay the application's, so that this hears of a change of theirs.
+    QPalette colors;
     const QColor ground = colors.color(QPalette::Window);
     const QColor ink = theme::mixed(colors.color(QPalette::WindowText), ground, 0.4);
     colors.setColor(QPalette::WindowText, theme::standingOutFrom(ground, ink, theme::textContrast));

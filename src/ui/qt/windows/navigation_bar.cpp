@@ -137,10 +137,19 @@ QWidget* NavigationBarView::updateNote() {
   return box;
 }
 
-void NavigationBarView::showGame() {
+void NavigationBarView::showSwitch() {
   const GameInfo* const game = gameOnShow(form_.frames);
   showSide(*powerBall_, game == &powerBall);
   showSide(*megaMillions_, game == &megaMillions);
+}
+
+void NavigationBarView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) showSwitch();
+}
+
+void NavigationBarView::showGame() {
+  showSwitch();
   sayWhatOpens();
   const QString note = window_.desk().updateNote ? toQString(window_.desk().updateNote()) : QString();
   note_->setText(note);

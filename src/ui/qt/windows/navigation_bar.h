@@ -21,7 +21,12 @@ class NavigationBarView : public QWidget {
   void showGame();
   TransferPanel* transferPanel() const { return transfer_; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  /// Presses in the side of the game on show.
+  void showSwitch();
   QWidget* updateNote();
   /// The caption of the selection button may still name the game before; a press opens the game on show.
   void sayWhatOpens();
