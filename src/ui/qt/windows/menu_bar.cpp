@@ -43,6 +43,14 @@ Wording wordingOf(const MenuEntry& entry) {
                                : withMnemonic(key->mnemonic);
 }
 
+/// The desktop's, and Ctrl+Q where it has none or others. The same key twice would do nothing.
+QList<QKeySequence> exitKeys() {
+  const QKeySequence usual(Qt::CTRL | Qt::Key_Q);
+  QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Quit);
+  if (!keys.contains(usual)) keys += usual;
+  return keys;
+}
+
 QMenu* newMenu(QMenuBar& bar, QMenu* parent) {
   auto* menu = parent != nullptr ? parent->addMenu(QString()) : bar.addMenu(QString());
   // A separator is shown where the model has one, at the top too.
@@ -69,7 +77,7 @@ void fillMenuBar(QMenuBar& bar, Form& form, Binding& binding) {
     } else {
       QAction* action = entry->isSeparator() ? parent->addSeparator() : parent->addAction(QString());
       action->setMenuRole(QAction::NoRole);
-      if (entry->name() == "mnuExit") action->setShortcut(QKeySequence::Quit);
+      if (entry->name() == "mnuExit") action->setShortcuts(exitKeys());
       binding.bind(*entry, *action, wordingOf(*entry));
     }
   }
