@@ -72,6 +72,7 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   plot_->setMinimumHeight(22 * theme::gap);
   plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  plot_->setFocusPolicy(Qt::NoFocus);
   plot_->plotLayout()->insertRow(0);
   plot_->plotLayout()->addElement(0, 0, heading_);
   // It is wrapped by hand.

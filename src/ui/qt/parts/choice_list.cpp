@@ -35,6 +35,11 @@ ChoiceList::ChoiceList(const TextLines& lines, QWidget* parent)
           });
 }
 
+void ChoiceList::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  text_->setAccessibleName(QStringLiteral("%1, chosen").arg(list_->accessibleName()));
+}
+
 void ChoiceList::showText(const QString& text) {
   text_->setText(text);
   text_->setCursorPosition(0);

@@ -22,6 +22,9 @@ class ChoiceList : public QWidget {
   /// An item was chosen with the mouse or by keyboard.
   std::function<void(const QString& item)> onChosen;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   QLineEdit* text_;
   LineList* list_;
