@@ -46,6 +46,7 @@ void add(YearSums& sums, const YearSums& other) {
   sums.plays += other.plays;
   sums.waiting += other.waiting;
   sums.wins += other.wins;
+  sums.jackpots += other.jackpots;
   sums.winsWithoutPrize += other.winsWithoutPrize;
   sums.doublePlayWins += other.doublePlayWins;
   sums.dollars += other.dollars;
@@ -57,7 +58,8 @@ YearSums sumsOf(const JudgedPlay& play, std::optional<std::int64_t> centsAPlay) 
   sums.plays = 1;
   sums.waiting = play.state == DrawState::waiting ? 1 : 0;
   sums.wins = play.match.wins() ? 1 : 0;
-  sums.winsWithoutPrize = play.match.wins() && !play.prize ? 1 : 0;
+  sums.jackpots = play.jackpot ? 1 : 0;
+  sums.winsWithoutPrize = play.match.wins() && !play.jackpot && !play.prize ? 1 : 0;
   sums.doublePlayWins = winsDoublePlay(play) ? 1 : 0;
   sums.dollars = play.prize.value_or(0);
   sums.costInCents = centsAPlay;

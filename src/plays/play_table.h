@@ -70,7 +70,8 @@ struct YearSums {
   std::size_t waiting = 0;
   /// In the main draw.
   std::size_t wins = 0;
-  /// Wins whose dollars are not known: jackpots, and wins that no published table covers.
+  /// Wins whose dollars are not in the sum: jackpots, and wins that no published table covers.
+  std::size_t jackpots = 0;
   std::size_t winsWithoutPrize = 0;
   std::size_t doublePlayWins = 0;
   /// Whole dollars before any multiplier.

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plays/ticket.h"
 
+#include "core/data_folder.h"
+#include "core/draws.h"
 #include "core/eras.h"
 #include "core/plays.h"
+#include "core/runtime_error.h"
 #include "core/text.h"
 #include "plays/play_table.h"
 
@@ -57,8 +60,30 @@ std::string describe(const GameInfo& game, const JudgedPlay& ticket) {
 
 }  // namespace
 
+std::optional<Day> typedDay(std::string_view text) {
+  const std::string_view typed = trimmed(text);
+  const bool isDigits = typed.find_first_not_of("0123456789") == std::string_view::npos;
+  if (isDigits && typed.size() == 8) return parseDay(typed.substr(0, 2), typed.substr(2, 2), typed.substr(4));
+  const std::size_t month = typed.find('-');
+  if (month == 4) {
+    const std::size_t day = std::min(typed.find('-', month + 1), typed.size());
+    return parseDay(typed.substr(month + 1, day - month - 1), typed.substr(std::min(day + 1, typed.size())),
+                    typed.substr(0, month));
+  }
+  return parseDay(typed);
+}
+
+std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder) {
+  try {
+    SequentialReader reader(folder, inFolder(game, drawsFile), SequentialReader::Reading::inPieces);
+    return reader.atEnd() ? std::nullopt : drawOf(reader.record<drawFields>()).drawnOn();
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
+}
+
 std::string ticketRecord(const GameInfo& game, const TypedTicket& typed) {
-  const std::optional<Day> day = parseDay(trimmed(typed.date));
+  const std::optional<Day> day = typedDay(typed.date);
   if (!day) refuse(join("The date is \"", trimmed(typed.date), "\"; it must be a day as MM-DD-YYYY."));
   const std::optional<Matrix> matrix = matrixOn(game.game, *day);
   if (!matrix) refuse(join(game.name, " was first drawn on ", displayDate(firstDrawDay(game.game)), "."));

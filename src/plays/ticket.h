@@ -2,9 +2,11 @@
 // A ticket that the player types in: judged without being kept, or kept as a play.
 #pragma once
 
+#include "core/day.h"
 #include "core/games.h"
 #include "display/judging.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,9 +20,15 @@ struct TypedTicket {
   /// Five numbers, in any order, with blanks or commas between.
   std::string_view numbers;
   std::string_view extra;
-  /// MM-DD-YYYY.
+  /// As typedDay() takes it.
   std::string_view date;
 };
+
+/// A day as somebody types it: 11-18-2026, 11/18/2026, 11182026 or 2026-11-18. None where it is no day.
+std::optional<Day> typedDay(std::string_view text);
+
+/// The day of the game's newest draw; none where there is none or it cannot be read.
+std::optional<Day> newestDrawDay(const GameInfo& game, const DataFolder& folder);
 
 /// The play record of the ticket. Raises std::invalid_argument that says what is wrong with it.
 std::string ticketRecord(const GameInfo& game, const TypedTicket& typed);

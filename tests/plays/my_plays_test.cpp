@@ -241,6 +241,10 @@ TEST_F(MyPlays, ATypedTicketIsJudgedAndKeptOnlyWhenAsked) {
     return canBeKept(powerBall, judgeTicket(powerBall, scratch.folder(), typed));
   };
   EXPECT_TRUE(canKeepOn("01-02-2026") && canKeepOn("01-07-2026"));
+  for (const char* date : {"11-18-2026", " 11/18/2026", "11182026", "2026-11-18"})
+    EXPECT_EQ(typedDay(date), dayOf(2026, 11, 18)) << date;
+  for (const char* date : {"", "18-11-2026", "2026-11", "111820", "11-18-1820x", "20261118"})
+    EXPECT_FALSE(typedDay(date)) << date;
   EXPECT_FALSE(canKeepOn("01-01-2026") || canKeepOn("01-06-2026"));
 
   const std::string record = ticketRecord(powerBall, {"61 60 30 20 10", "26", "01-02-2026"});

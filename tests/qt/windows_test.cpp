@@ -20,7 +20,6 @@
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
@@ -345,7 +344,12 @@ TEST_F(Windows, MyPlaysAreRemovedUndoneMovedAndKept) {
   winnings.setCurrentIndex(3);
   named<QLineEdit>("Form1", QStringLiteral("Numbers")).setText(QStringLiteral("1 2 3 4 5"));
   named<QLineEdit>("Form1", QStringLiteral("PowerBall")).setText(QStringLiteral("6"));
-  named<QDateEdit>("Form1", QStringLiteral("Date of the draw")).setDate(QDate(2027, 1, 2));
+  auto& date = named<QLineEdit>("Form1", QStringLiteral("Date of the draw"));
+  EXPECT_EQ(date.text(), QStringLiteral("12-28-2026")) << "the newest draw's";
+  date.setText(QStringLiteral("13-02-2027"));
+  press(0, "Judge");
+  EXPECT_TRUE(explains(QStringLiteral("⚠ This is no day")));
+  date.setText(QStringLiteral("01022027"));
   press(0, "Judge");
   EXPECT_EQ(press(0, "Keep It"), waiting + records({"01-02-2027,01,02,03,04,05,06,5000000"}));
   winnings.setCurrentIndex(1);

@@ -3,6 +3,7 @@
 
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/words.h"
 #include "ui/qt/pages/play_actions.h"
 #include "ui/qt/pages/play_table_model.h"
 #include "ui/qt/parts/flow.h"
@@ -58,6 +59,14 @@ std::string commaSeparated(const QSortFilterProxyModel& sorted, const PlayTableM
   return text;
 }
 
+QString prizesText(const YearSums& sums) {
+  QString text = toQString(moneyText(sums.dollars * 100));
+  if (sums.jackpots > 0)
+    text += u"; %1, not in the sum"_s.arg(toQString(inFigures(sums.jackpots, "jackpot")));
+  if (sums.winsWithoutPrize > 0) text += u" and %1 without a published prize"_s.arg(sums.winsWithoutPrize);
+  return text;
+}
+
 QString sumText(const YearSums& sums, int column) {
   const auto count = [](std::size_t number) { return QString::number(number); };
   switch (column) {
@@ -68,9 +77,7 @@ QString sumText(const YearSums& sums, int column) {
     case 3:
       return count(sums.wins);
     case 4:
-      return toQString(moneyText(sums.dollars * 100)) +
-             (sums.winsWithoutPrize > 0 ? u" and %1 without a published prize"_s.arg(sums.winsWithoutPrize)
-                                        : QString());
+      return prizesText(sums);
     case 5:
       return sums.costInCents ? toQString(moneyText(*sums.costInCents)) : u"no price set"_s;
     default:

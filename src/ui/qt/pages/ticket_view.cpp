@@ -9,7 +9,6 @@
 #include "ui/qt/parts/wording.h"
 
 #include <QAccessible>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,7 +22,8 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
       actions_(actions),
       numbers_(new QLineEdit(this)),
       extra_(new QLineEdit(this)),
-      date_(new QDateEdit(QDate::currentDate(), this)),
+      date_(new QLineEdit(this)),
+      dateError_(sentences(this)),
       extraLabel_(new QLabel(this)),
       verdict_(sentences(this)),
       keep_(new QPushButton(u"K&eep It"_s, this)) {
@@ -37,12 +37,13 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
   form->setVerticalSpacing(theme::gap);
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   numbers_->setPlaceholderText(u"as 5 11 23 42 60"_s);
-  date_->setDisplayFormat(u"MM-dd-yyyy"_s);
-  date_->setCalendarPopup(true);
+  date_->setPlaceholderText(u"as 11-18-2026"_s);
   form->addRow(u"Five num&bers:"_s, numbers_);
   extraLabel_->setBuddy(extra_);
   form->addRow(extraLabel_, extra_);
   form->addRow(u"Da&te of the draw:"_s, date_);
+  dateError_->hide();
+  form->addRow(QString(), dateError_);
   column->addLayout(form);
   auto* judgeButton = new QPushButton(u"&Judge"_s, this);
   auto* line = row();
@@ -57,11 +58,12 @@ TicketView::TicketView(PlayActions& actions, QWidget* parent)
   keep_->setToolTip(
       u"Adds the ticket to your played plays, or to the next plays where its draw is to come"_s);
   connect(judgeButton, &QPushButton::clicked, this, &TicketView::judge);
-  for (const QLineEdit* edit : {numbers_, extra_}) {
+  for (const QLineEdit* edit : {numbers_, extra_, date_}) {
     connect(edit, &QLineEdit::returnPressed, this, &TicketView::judge);
     connect(edit, &QLineEdit::textEdited, this, &TicketView::forget);
   }
-  connect(date_, &QDateEdit::dateChanged, this, &TicketView::forget);
+  connect(date_, &QLineEdit::textEdited, dateError_, &QLabel::hide);
+  connect(date_, &QLineEdit::editingFinished, this, &TicketView::checkDate);
   connect(keep_, &QPushButton::clicked, this, &TicketView::keep);
   numbers_->setAccessibleName(u"Numbers"_s);
   date_->setAccessibleName(u"Date of the draw"_s);
@@ -75,15 +77,43 @@ void TicketView::refresh() {
   extraLabel_->setText(label);
   extra_->setAccessibleName(name);
   forget();
+  proposed_ = date_->text();
+  proposeDate();
+}
+
+void TicketView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  proposeDate();
+}
+
+void TicketView::proposeDate() {
+  if (date_->text() != proposed_) return;
+  const std::optional<Day> newest = newestDrawDay(actions_.game(), actions_.folder());
+  const QString date = newest ? toQString(displayDate(*newest)) : QString();
+  if (date == proposed_) return;
+  forget();
+  proposed_ = date;
+  date_->setText(date);
+  dateError_->hide();
+}
+
+bool TicketView::checkDate() {
+  const bool isDay = typedDay(toText(date_->text())).has_value();
+  const QString error = isDay ? QString() : u"⚠ This is no day: type month, day and year, as 11-18-2026."_s;
+  dateError_->setText(error);
+  dateError_->setVisible(!isDay);
+  date_->setAccessibleDescription(error);
+  return isDay;
 }
 
 void TicketView::judge() {
   forget();
+  if (!checkDate()) return date_->setFocus();
   try {
     const GameInfo& game = actions_.game();
     const std::string numbers = toText(numbers_->text());
     const std::string extra = toText(extra_->text());
-    const std::string date = toText(date_->date().toString(u"MM-dd-yyyy"_s));
+    const std::string date = toText(date_->text());
     record_ = ticketRecord(game, {numbers, extra, date});
     const JudgedPlay ticket = judgeTicket(game, actions_.folder(), record_);
     const bool isKept = isAmongPlays(actions_.plays()->judgement, ticket);

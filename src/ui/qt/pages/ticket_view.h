@@ -2,11 +2,10 @@
 // Check a Ticket: numbers and a date that the player types in, judged without being kept unless asked.
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <string>
 
-class QDateEdit;
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -22,8 +21,14 @@ class TicketView : public QWidget {
   /// Names the extra ball of the game on show; a verdict on another game's ticket goes.
   void refresh();
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
-  QLineEdit* addNumbers(QFormLayout& form, const QString& tip);
+  /// Gives the field the date of the newest draw, where the player has not typed another one.
+  void proposeDate();
+  /// Whether the field has a day; says so beside it where it has none.
+  bool checkDate();
   void judge();
   void keep();
   void say(const QString& text);
@@ -32,7 +37,11 @@ class TicketView : public QWidget {
   PlayActions& actions_;
   QLineEdit* numbers_;
   QLineEdit* extra_;
-  QDateEdit* date_;
+  QLineEdit* date_;
+  /// Beside the date, what is wrong with it.
+  QLabel* dateError_;
+  /// The newest draw's date, as the field was given it.
+  QString proposed_;
   QLabel* extraLabel_;
   QLabel* verdict_;
   QPushButton* keep_;

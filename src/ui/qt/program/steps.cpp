@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QTabWidget>
@@ -98,9 +97,7 @@ void enter(QLineEdit& field, const QString& text) {
 }
 
 void type(const QString& name, const QString& text) {
-  if (auto* date = find<QDateEdit>(name)) {
-    date->setDate(QDate::fromString(text, date->displayFormat()));
-  } else if (auto* choice = find<QComboBox>(name)) {
+  if (auto* choice = find<QComboBox>(name)) {
     if (choice->isEditable())
       enter(*choice->lineEdit(), text);
     else
