@@ -18,9 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const LineColumns columns = {{LineField::ball, "Number"},          {LineField::figure, "Last 100 draws"},
+const LineColumns columns = {{LineField::ball, "Number"},          {LineField::figure, "Last 100"},
                              {LineField::figure, "By chance"},     {LineField::figure, "All draws"},
-                             {LineField::figure, "All by chance"}, {LineField::figure, "Draws since"},
+                             {LineField::figure, "All by chance"}, {LineField::figure, "Since"},
                              {LineField::date, "Last drawn"}};
 
 }  // namespace

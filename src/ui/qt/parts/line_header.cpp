@@ -66,15 +66,23 @@ void LineHeader::fitTo(const QFont& face) {
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     const double content = contentWidth(columns_[i].field, lines) + 2 * theme::gap;
     const int title = sectionSizeFromContents(static_cast<int>(i)).width();
-    const int width = std::max(title, static_cast<int>(content) + 1);
+    const int width = std::max(title, static_cast<int>(content) + 1 + gapBefore(static_cast<int>(i)));
     if (i + 1 == columns_.size()) lastWidth_ = width;
     resizeSection(static_cast<int>(i), width);
   }
 }
 
+int LineHeader::gapBefore(int column) const {
+  if (column == 0) return 0;
+  const auto isRight = [this](int each) {
+    return alignmentOf(columns_[static_cast<std::size_t>(each)].field).testFlag(Qt::AlignRight);
+  };
+  return isRight(column - 1) && !isRight(column) ? theme::gap : 0;
+}
+
 QRect LineHeader::cell(int column, const QRect& line) const {
   QRect part = line;
-  part.setLeft(line.left() + sectionPosition(column) + theme::halfGap);
+  part.setLeft(line.left() + sectionPosition(column) + theme::halfGap + gapBefore(column));
   part.setRight(line.left() + sectionPosition(column) + sectionSize(column) - 1 - theme::halfGap);
   return part;
 }

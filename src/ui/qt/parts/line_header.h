@@ -25,6 +25,9 @@ class LineHeader : public QHeaderView {
   int neededWidth() const;
 
  private:
+  /// Before a column that begins where the one before it ends.
+  int gapBefore(int column) const;
+
   LineColumns columns_;
   QStandardItemModel* titles_;
   int lastWidth_ = 0;
