@@ -2,13 +2,13 @@
 #include "ui/qt/pages/summary_print.h"
 
 #include "app/main_form.h"
+#include "core/clock.h"
 #include "ui/qt/binding/form_window.h"
 #include "ui/qt/pages/summary_view.h"
 #include "ui/qt/parts/line_actions.h"
 #include "ui/qt/parts/line_list.h"
 #include "ui/qt/parts/wording.h"
 
-#include <QDate>
 #include <QFont>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -59,10 +59,11 @@ QString summaryPage(const MainForm& form, const FormWindow& window) {
   const SummaryPage& page = form.summary;
   const GameInfo* const game = gameOnShow(form.frames);
   const QString title = game != nullptr ? u"%1 Summary"_s.arg(toQString(game->name)) : u"Summary"_s;
+  const Clock* const clock = window.desk().clock;
   const bool isMadeUp = window.desk().showsMadeUpDraws && window.desk().showsMadeUpDraws();
   return u"<h1>%1</h1>"_s.arg(title) +
          (isMadeUp ? u"<p><b>Sample draws.</b> They never took place.</p>"_s : QString()) +
-         u"<p>Printed on %1</p>"_s.arg(QDate::currentDate().toString(u"MM-dd-yyyy"_s)) +
+         (clock != nullptr ? u"<p>Printed on %1</p>"_s.arg(toQString(clock->date())) : QString()) +
          section(page.Label15, page.List1, window, &newestStar) + section(page.Label16, page.List2, window) +
          u"<h2 style=\"page-break-before: always\">%1, continued</h2>"_s.arg(title) +
          sideBySide(section(page.Label19, page.List4, window),

@@ -16,12 +16,15 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QLocale>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTableView>
 #include <QTextDocument>
 #include <algorithm>
-#include <limits>
+#include <optional>
 #include <stdexcept>
 
 namespace tallywick {
@@ -42,12 +45,34 @@ void save(QAbstractItemView& view, const ViewTexts& texts) {
   }
 }
 
+/// How many of the view's lines to print; asks where they are many. None where nothing is to be printed.
+std::optional<std::size_t> linesToPrint(QAbstractItemView& view) {
+  constexpr int many = 1000;
+  const int lines = view.model()->rowCount();
+  if (lines <= many) return static_cast<std::size_t>(lines);
+  const QLocale english(QLocale::English);
+  QMessageBox box(
+      QMessageBox::Question, u"Print the Lines"_s,
+      u"The list has %1 lines, which take long to print and a lot of paper."_s.arg(english.toString(lines)),
+      QMessageBox::Cancel, &view);
+  QPushButton* const first =
+      box.addButton(u"The &First %1"_s.arg(english.toString(many)), QMessageBox::AcceptRole);
+  const QPushButton* const all = box.addButton(u"&All Lines"_s, QMessageBox::AcceptRole);
+  box.setDefaultButton(first);
+  box.exec();
+  if (box.clickedButton() == first) return many;
+  if (box.clickedButton() == all) return static_cast<std::size_t>(lines);
+  return std::nullopt;
+}
+
 void print(QAbstractItemView& view, const ViewTexts& texts) {
+  const std::optional<std::size_t> lines = linesToPrint(view);
+  if (!lines) return;
   QPrinter printer(QPrinter::HighResolution);
   QPrintDialog dialog(&printer, &view);
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument document;
-  document.setHtml(u"<h3>%1</h3>%2"_s.arg(view.accessibleName().toHtmlEscaped(), texts.table()));
+  document.setHtml(u"<h3>%1</h3>%2"_s.arg(view.accessibleName().toHtmlEscaped(), texts.table(*lines)));
   document.print(&printer);
 }
 
@@ -67,9 +92,10 @@ bool hasColumns(const LineList& list) {
 }
 
 QString tableCell(const QString& tag, Qt::Alignment alignment, const QString& text) {
-  // On paper a date or a play stays in one line.
-  return u"<%1 align=\"%2\">%3</%1>"_s.arg(tag, alignment & Qt::AlignRight ? u"right"_s : u"left"_s,
-                                           text.toHtmlEscaped().replace(u' ', u"&nbsp;"_s));
+  // On paper a date, a play or a title stays in one line.
+  const QString unbroken = tag == u"th"_s ? u" style=\"white-space: nowrap\""_s : QString();
+  return u"<%1 align=\"%2\"%3>%4</%1>"_s.arg(tag, alignment & Qt::AlignRight ? u"right"_s : u"left"_s,
+                                             unbroken, text.toHtmlEscaped().replace(u' ', u"&nbsp;"_s));
 }
 
 QString tableTitles(const LineColumns& columns) {
@@ -126,15 +152,27 @@ std::string commaSeparated(const QAbstractItemModel& rows) {
   return text;
 }
 
-QString htmlOf(const QAbstractItemModel& rows) {
+/// A title stands as the cells under it.
+Qt::Alignment alignmentAt(const QAbstractItemModel& rows, int row, int column) {
+  return static_cast<Qt::Alignment>(rows.index(std::max(0, row), column).data(Qt::TextAlignmentRole).toInt());
+}
+
+QString firstOf(std::size_t shown, std::size_t all) {
+  return shown < all ? u"<p>The first %1 of %2 lines.</p>"_s.arg(shown).arg(all) : QString();
+}
+
+QString htmlOf(const QAbstractItemModel& rows, std::size_t atMost) {
+  const auto all = static_cast<std::size_t>(rows.rowCount());
+  const std::size_t shown = std::min(all, atMost);
   QString text;
-  for (int row = -1; row < rows.rowCount(); ++row) {
-    QString cells;
-    for (const QString& cell : cellsOf(rows, row))
-      cells += tableCell(row < 0 ? u"th"_s : u"td"_s, Qt::AlignLeft, cell);
-    text += u"<tr>%1</tr>"_s.arg(cells);
+  for (int row = -1; row < static_cast<int>(shown); ++row) {
+    QString line;
+    const QStringList cells = cellsOf(rows, row);
+    for (int column = 0; column < cells.size(); ++column)
+      line += tableCell(row < 0 ? u"th"_s : u"td"_s, alignmentAt(rows, row, column), cells[column]);
+    text += u"<tr>%1</tr>"_s.arg(line);
   }
-  return u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(text);
+  return u"<table cellspacing=\"0\" cellpadding=\"2\">%1</table>"_s.arg(text) + firstOf(shown, all);
 }
 
 }  // namespace
@@ -142,7 +180,8 @@ QString htmlOf(const QAbstractItemModel& rows) {
 ViewTexts tableTexts(QTableView& table) {
   return {[&table] { return linesOf(*table.model(), table.selectionModel()); },
           [&table] { return toText(linesOf(*table.model(), nullptr)); },
-          [&table] { return commaSeparated(*table.model()); }, [&table] { return htmlOf(*table.model()); }};
+          [&table] { return commaSeparated(*table.model()); },
+          [&table](std::size_t atMost) { return htmlOf(*table.model(), atMost); }};
 }
 
 void addViewActions(QAbstractItemView& view, HandlerRunner& runner, const ViewTexts& texts) {
@@ -165,7 +204,7 @@ void addLineActions(LineList& list, HandlerRunner& runner) {
   addViewActions(list, runner,
                  {[&list] { return list.selectedText(); }, [&list] { return asText(list); },
                   [&list] { return asCommaSeparated(list); },
-                  [&list] { return asTable(list, std::numeric_limits<std::size_t>::max()); }});
+                  [&list](std::size_t atMost) { return asTable(list, atMost); }});
 }
 
 std::string asText(const LineList& list) {
@@ -206,9 +245,7 @@ QString asTable(const LineList& list, std::size_t atMost) {
   const std::size_t shown = std::min(all, atMost);
   QString rows = hasColumns(list) ? tableTitles(list.columns()) : QString();
   for (std::size_t i = 0; i < shown; ++i) rows += tableRow(list, model->lines()[i]);
-  QString text = u"<table cellspacing=\"0\" cellpadding=\"3\">%1</table>"_s.arg(rows);
-  if (shown < all) text += u"<p>The first %1 of %2 lines.</p>"_s.arg(shown).arg(all);
-  return text;
+  return u"<table cellspacing=\"0\" cellpadding=\"3\">%1</table>"_s.arg(rows) + firstOf(shown, all);
 }
 
 }  // namespace tallywick

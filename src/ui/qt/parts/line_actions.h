@@ -22,8 +22,8 @@ struct ViewTexts {
   std::function<std::string()> text;
   /// The same with commas, behind a line of titles.
   std::function<std::string()> commaSeparated;
-  /// The same as a table of HTML.
-  std::function<QString()> table;
+  /// The first lines as a table of HTML.
+  std::function<QString(std::size_t atMost)> table;
 };
 
 /// What a table shows, with a tab between the cells of a row; of a selection its whole rows. `table` outlives
