@@ -141,7 +141,6 @@ void MyPlaysView::addTable(QBoxLayout& column) {
   makeReadable(*table_);
   table_->setSortingEnabled(true);
   table_->sortByColumn(PlayTableModel::DateColumn, Qt::DescendingOrder);
-  table_->horizontalHeader()->setStretchLastSection(true);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &MyPlaysView::enableActions);
   sums_ = new QTableWidget(this);

@@ -54,7 +54,9 @@ void LineHeader::setColumns(const LineColumns& columns) {
   columns_ = columns;
   titles_->setColumnCount(static_cast<int>(columns.size()));
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    auto* title = new QStandardItem(toQString(columns[i].title));
+    // About as wide as the gap.
+    const QString indent(gapBefore(static_cast<int>(i)) > 0 ? 2 : 0, u' ');
+    auto* title = new QStandardItem(indent + toQString(columns[i].title));
     title->setTextAlignment(alignmentOf(columns[i].field));
     titles_->setHorizontalHeaderItem(static_cast<int>(i), title);
   }
