@@ -280,7 +280,9 @@ void MainWindow::addFileEntries() {
   print->setShortcut(QKeySequence::Print);
   connect(print, &QAction::triggered, this,
           [this] { desk().runner.attempt([this] { printSummary(main_, *this); }); });
-  // The settings' button has the key.
+  // The buttons have the keys.
+  auto* backup = new QAction(u"&Backup…\tCtrl+B"_s, this);
+  connect(backup, &QAction::triggered, this, [this] { desk().runner.attempt([this] { desk().backUp(); }); });
   auto* settings = new QAction(u"S&ettings…\tCtrl+,"_s, this);
   connect(settings, &QAction::triggered, this, [this] {
     desk().runner.attempt([this] { desk().editSettings(); });
@@ -290,7 +292,7 @@ void MainWindow::addFileEntries() {
   file->insertSeparator(exit);
   file->insertActions(exit, {print, listInUse_->printEntry(*file), listInUse_->saveEntry(*file)});
   file->insertSeparator(exit);
-  file->insertActions(exit, {settings});
+  file->insertActions(exit, {backup, settings});
   file->insertSeparator(exit);
 }
 
