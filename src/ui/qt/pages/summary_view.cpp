@@ -2,6 +2,7 @@
 #include "ui/qt/pages/summary_view.h"
 
 #include "app/main_form.h"
+#include "core/text.h"
 #include "ui/qt/binding/binding.h"
 #include "ui/qt/binding/form_window.h"
 #include "ui/qt/pages/drawn_lists.h"
@@ -13,6 +14,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QPainter>
+#include <algorithm>
 
 namespace tallywick {
 
@@ -60,6 +62,28 @@ void explainStar(LineList& list, QBoxLayout& headingLine, const StarMeaning& mea
   list.setAccessibleDescription(text);
 }
 
+/// Whether the list has draws and of none an amount.
+bool lacksAmounts(const TextLines& lines) {
+  bool hasDraws = false;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const ListedLine line = readLine(lines[i]);
+    if (!trimmed(line.amount).empty()) return false;
+    hasDraws |= line.kind == LineKind::draw || line.kind == LineKind::amount;
+  }
+  return hasDraws;
+}
+
+void explainNoAmounts(LineList& list, QBoxLayout& column, QWidget* parent) {
+  auto* note = sentences(parent);
+  note->setText(u"The public exports have no amounts: type them in with Draws…"_s);
+  column.addWidget(note);
+  list.beforeReload = [&list, note, show = list.beforeReload] {
+    show();
+    note->setVisible(lacksAmounts(list.lineModel()->lines()));
+  };
+  list.beforeReload();
+}
+
 LineList* addHeadedList(QBoxLayout& column, const HeadedList& headed, const MainForm& form, Binding& binding,
                         QWidget* parent) {
   auto* label = heading(parent);
@@ -71,6 +95,7 @@ LineList* addHeadedList(QBoxLayout& column, const HeadedList& headed, const Main
   column.addWidget(list, 1);
   showInColumns(*list, headed.fields, gameOnShowOf(form.frames));
   if (headed.star != nullptr) explainStar(*list, *headingLine, *headed.star, parent);
+  if (std::ranges::count(headed.fields, LineField::amount) > 0) explainNoAmounts(*list, column, parent);
   if (headed.columnNames != nullptr) binding.bind(*headed.columnNames, *list);
   binding.bind(headed.list, *list);
   binding.bind(headed.label, *label, asLabelOfControl(headed.mnemonic));
