@@ -5,6 +5,7 @@
 #include "core/draws.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
+#include "core/torn_line.h"
 
 #include <algorithm>
 
@@ -43,13 +44,6 @@ void appendRecord(std::string& text, const Play& play) {
 }
 
 namespace {
-
-/// The length of the first line of `text` with its end, CR LF, LF or CR.
-std::size_t lineLength(std::string_view text) {
-  const std::size_t end = std::min(text.find('\n'), text.find('\r'));
-  if (end == std::string_view::npos) return text.size();
-  return end + (text.substr(end).starts_with("\r\n") ? 2 : 1);
-}
 
 std::size_t lineAt(std::string_view text, std::size_t position) {
   std::size_t line = 1;

@@ -99,7 +99,8 @@ TEST_F(Windows, ARuntimeErrorEndsTheProgramWithItsBox) {
   });
   platform.run([] { throw RuntimeError(ErrorNumber::fileNotFound, "somewhere"); });
   EXPECT_EQ(boxText, QStringLiteral("Run-time error '53':\n\nFile not found"));
-  EXPECT_TRUE(helpPage.startsWith(QStringLiteral("Where: somewhere\n\nNothing was lost")));
+  EXPECT_TRUE(helpPage.startsWith(QStringLiteral("Where: somewhere\n\nNo play was lost")));
+  EXPECT_TRUE(helpPage.contains(QStringLiteral("After OK the program ends.")));
   EXPECT_EQ(QGuiApplication::clipboard()->text(), boxText + QStringLiteral("\n\n") + helpPage);
   EXPECT_TRUE(platform.ended());
   EXPECT_EQ(platform.exitCode(), 1);

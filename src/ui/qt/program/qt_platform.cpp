@@ -7,6 +7,7 @@
 #include "core/file_names.h"
 #include "core/os.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "ui/qt/parts/theme.h"
 #include "ui/qt/windows/make_window.h"
 #include "ui/qt/windows/transfer_panel.h"
@@ -273,7 +274,7 @@ void QtPlatform::showError(const RuntimeError& error) {
   if (TransferPanel* panel = transferPanel()) panel->end();
   if (alone_) return;
   const QString text = toQString(error.boxText());
-  const QString explained = toQString(errorExplained(error));
+  const QString explained = toQString(join(errorExplained(error), "\n\n", endExplained(error)));
   QMessageBox box(QMessageBox::Warning, toQString(programTitle), text, QMessageBox::Ok,
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
