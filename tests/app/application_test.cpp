@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What scripts cannot reach of the program: the splash, the registry, what closes with what, recovery.
 #include "app/error_explained.h"
+#include "app/file_trouble.h"
 #include "app/game_pages.h"
+#include "core/plays.h"
 #include "core/runtime_error.h"
+#include "core/text.h"
 #include "support/fake_platform.h"
+#include "support/scratch_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,6 +39,46 @@ TEST(ErrorExplained, SaysInWholeSentencesWhereAndWhatToDo) {
               testing::AllOf(testing::HasSubstr("the Mega Millions file of your plays that were drawn."),
                              testing::HasSubstr("the newest dated copy"),
                              testing::Not(testing::HasSubstr("press Update"))));
+}
+
+TEST(FileTrouble, NamesTheTornLineAndTheWholeCopies) {
+  const test::ScratchFolder scratch;
+  const auto path = [](std::string_view name) { return inFolder(powerBall, name); };
+  const std::string play = "\"11-18-2026\",\"01\",\"02\",\"03\",\"04\",\"05\",\"06\",\"5\"\r\n";
+  EXPECT_FALSE(troubleOf(powerBall, scratch.folder())) << "a game without any file";
+  scratch.write(path("QZR6PWR1.Ply"), play);
+  scratch.write(path("QZR6PWR2.Ply"), join(play, "11-18-2026,01,02\r\n", play, play));
+  scratch.write(path("QZR6PWR2 2026-11-20 120000.Ply"), play + play);
+  scratch.write(path("QZR6PWR2 2026-11-21 120000.Ply"), play + "torn");
+  const std::optional<FileTrouble> torn = troubleOf(powerBall, scratch.folder());
+  ASSERT_TRUE(torn);
+  EXPECT_EQ(torn->heading, "The file of your PowerBall plays (QZR6PWR2.Ply) is damaged in line 2:");
+  EXPECT_THAT(torn->mending, testing::AllOf(testing::HasSubstr("11-18-2026,01,02\n"),
+                                            testing::HasSubstr("QZR6PWR2 2026-11-20 120000.Ply (2 plays).")));
+  try {
+    const PlayFile plays(scratch.folder(), path("QZR6PWR2.Ply"));
+    ADD_FAILURE() << "read as whole";
+  } catch (const RuntimeError& error) {
+    EXPECT_THAT(errorExplained(error),
+                testing::HasSubstr("QZR6PWR2.Ply, line 2: it has fewer than 8 fields"));
+  }
+  // What looks odd and is whole: two records in a line, an empty last field at the end of the file.
+  scratch.write(path("QZR6PWR2.Ply"),
+                "11-18-2026,1,2,3,4,5,6,7,11-18-2026,1,2,3,4,5,6,7\r11-18-2026,1,2,3,4,5,6,");
+  EXPECT_FALSE(troubleOf(powerBall, scratch.folder()));
+}
+
+TEST(FileTrouble, NamesTheMissingFilesOfAGameThatHasOthers) {
+  const test::ScratchFolder scratch;
+  for (const std::string_view name : {drawsFile, searchDrawsFile, megaMillions.winningsFile})
+    scratch.write(inFolder(megaMillions, name), "");
+  EXPECT_FALSE(troubleOf(megaMillions, scratch.folder()));
+  std::filesystem::remove(scratch.folder().resolve(inFolder(megaMillions, drawsFile)));
+  EXPECT_EQ(missingDrawFiles(megaMillions, scratch.folder()),
+            "The file of the Mega Millions draws (QZRNUM6.Dat) is missing.");
+  std::filesystem::remove(scratch.folder().resolve(inFolder(megaMillions, searchDrawsFile)));
+  EXPECT_EQ(troubleOf(megaMillions, scratch.folder())->heading,
+            "Files of the Mega Millions draws are missing: QZRNUM6.Dat and QZRNUM62.Dat.");
 }
 
 TEST(StartUp, SurvivesAFolderThatDoesNotStand) {

@@ -2,6 +2,7 @@
 #include "ui/qt/dialogs/draws_dialog.h"
 
 #include "app/draws_note.h"
+#include "app/file_trouble.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/eras.h"
@@ -199,6 +200,8 @@ void DrawsDialog::showGame() {
     address_->setCursorPosition(0);
     history_ = exports::reportOf(folder_, game().game);
     std::string text = summaryOf(game(), history_);
+    if (const std::string missing = missingDrawFiles(game(), folder_); !history_.newest && !missing.empty())
+      text = join(missing, " Fetch brings the draws anew, or restore a backup (Backup…).");
     isMadeUp = exports::isMadeUp(folder_, game().game);
     if (isMadeUp) {
       text +=

@@ -14,6 +14,7 @@
 #include "ui/qt/parts/later_page.h"
 #include "ui/qt/parts/layouts.h"
 #include "ui/qt/parts/line_list.h"
+#include "ui/qt/windows/file_trouble_strip.h"
 #include "ui/qt/windows/glance_strip.h"
 #include "ui/qt/windows/layout_memory.h"
 #include "ui/qt/windows/list_in_use.h"
@@ -59,6 +60,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       bar_(new NavigationBarView(form, *this)),
       madeUp_(madeUpStrip(*this)),
       age_(ageStrip(*this)),
+      trouble_(new FileTroubleStrip(form, *this)),
       glance_(new GlanceStrip(form, *this)),
       doublePlayNote_(sentences(this)),
       pages_(new QTabWidget),
@@ -74,6 +76,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     bar_->showGame();
     followDraws();
     showNotices();
+    trouble_->showFiles();
     followGame();
     glance_->showGame();
     showDoublePlayNote();
@@ -109,6 +112,7 @@ void MainWindow::addPages() {
   auto* column = columnIn(content, theme::gap);
   column->addWidget(madeUp_);
   column->addWidget(age_);
+  column->addWidget(trouble_);
   column->addWidget(bar_);
   column->addWidget(glance_);
   column->addWidget(doublePlayNote_);

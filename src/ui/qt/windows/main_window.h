@@ -15,6 +15,7 @@ class QToolButton;
 
 namespace tallywick {
 
+class FileTroubleStrip;
 class GlanceStrip;
 class NoticeStrip;
 class DrawsView;
@@ -75,6 +76,7 @@ class MainWindow : public FormWindow {
   NavigationBarView* bar_;
   NoticeStrip* madeUp_;
   NoticeStrip* age_;
+  FileTroubleStrip* trouble_;
   GlanceStrip* glance_;
   QLabel* doublePlayNote_;
   QToolButton* doublePlay_ = nullptr;

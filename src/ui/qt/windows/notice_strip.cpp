@@ -14,18 +14,22 @@ using namespace Qt::StringLiterals;
 
 NoticeStrip::NoticeStrip(FormWindow& window, const QString& action, const QString& tip,
                          const std::function<void()>& act)
-    : text_(sentences(this)) {
+    : window_(window), text_(sentences(this)) {
   setFrameShape(QFrame::StyledPanel);
   text_->setTextFormat(Qt::RichText);
-  auto* start = new QPushButton(action);
-  start->setToolTip(tip);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(theme::gap, theme::halfGap, theme::halfGap, theme::halfGap);
   line->setSpacing(theme::gap);
   line->addWidget(text_, 1);
-  line->addWidget(start);
-  connect(start, &QPushButton::clicked, &window, [&window, act] { window.desk().runner.attempt(act); });
+  addButton(action, tip, act);
   hide();
+}
+
+void NoticeStrip::addButton(const QString& action, const QString& tip, const std::function<void()>& act) {
+  auto* button = new QPushButton(action);
+  button->setToolTip(tip);
+  layout()->addWidget(button);
+  connect(button, &QPushButton::clicked, &window_, [this, act] { window_.desk().runner.attempt(act); });
 }
 
 void NoticeStrip::say(const QString& heading, const QString& text) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A strip over the pages that says what the player should know of the draws on show, with a button for what
-// can be done.
+// A strip over the pages that says what the player should know of the files and draws on show, with buttons
+// for what can be done.
 #pragma once
 
 #include <QFrame>
@@ -17,6 +17,8 @@ class NoticeStrip : public QFrame {
   NoticeStrip(FormWindow& window, const QString& action, const QString& tip,
               const std::function<void()>& act);
 
+  void addButton(const QString& action, const QString& tip, const std::function<void()>& act);
+
   /// `heading` is in bold. Without one the strip goes.
   void say(const QString& heading, const QString& text);
 
@@ -24,6 +26,7 @@ class NoticeStrip : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  FormWindow& window_;
   QLabel* text_;
 };
 
