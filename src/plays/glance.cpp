@@ -38,6 +38,18 @@ std::optional<Day> addNewest(Glance& glance, const GameInfo& game, const DataFol
   }
 }
 
+/// The draws of today are not missed yet.
+void addMissing(Glance& glance, const GameInfo& game, Day newest, Day today) {
+  const std::vector<Day> missing = drawDays(game.game, newest + 1, today - 1);
+  if (missing.empty()) return;
+  std::string first = weekdayDate(missing.front());
+  first.erase(first.rfind('-'));
+  const std::size_t more = missing.size() - 1;
+  glance.missing.text =
+      more == 0 ? join(first, " is missing") : join(first, " and ", numberWord(more), " more are missing");
+  glance.missing.tip = join("Draws of ", game.name, " that have taken place and are not in the record book.");
+}
+
 std::optional<Day> addNext(Glance& glance, const GameInfo& game, std::optional<Day> newest,
                            const Clock* clock) {
   const std::optional<Day> today = clock != nullptr ? parseDay(clock->date()) : std::nullopt;
@@ -45,6 +57,7 @@ std::optional<Day> addNext(Glance& glance, const GameInfo& game, std::optional<D
   if (today) {
     const Day drawn = lastDrawnDay(clock->date(), clock->time());
     last = newest ? std::max(*newest, drawn) : drawn;
+    if (newest) addMissing(glance, game, *newest, *today);
     if (newest && drawDayAfter(game.game, *newest) <= drawn) {
       glance.newest.tip += " Newer draws have taken place; Update looks for them.";
     }

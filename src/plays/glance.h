@@ -28,6 +28,9 @@ struct Glance {
 
   /// The date with its weekday, "Wed 11-18-2026".
   Part newest;
+  /// "Sat 12-21 is missing", "Sat 12-21 and two more are missing": draws of days before today that are newer
+  /// than the newest one.
+  Part missing;
   /// None where the newest draw has no text.
   std::optional<Balls> balls;
   /// "Sat 11-21-2026", "today, Sat 11-21-2026".

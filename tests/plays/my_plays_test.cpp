@@ -101,14 +101,20 @@ TEST_F(MyPlays, AreSeenAtAGlance) {
     const char* time;
     std::string nextAndWaiting;
     bool isBehind = false;
+    const char* missing = "";
   };
   for (const Row& row : {Row{"12-20-2025", "12:00:00", "Sat 01-03-2026|no plays (2 in all)"},
                          Row{"01-03-2026", "12:00:00", "today, Sat 01-03-2026|no plays (2 in all)"},
                          Row{"01-03-2026", "23:30:00", "Mon 01-05-2026|no plays (2 in all)", true},
-                         Row{"01-07-2026", "12:00:00", "today, Wed 01-07-2026|1 play (2 in all)", true}}) {
+                         Row{"01-05-2026", "12:00:00", "today, Mon 01-05-2026|no plays (2 in all)", true,
+                             "Sat 01-03 is missing"},
+                         Row{"01-07-2026", "12:00:00", "today, Wed 01-07-2026|1 play (2 in all)", true,
+                             "Sat 01-03 and one more are missing"}}) {
     const FixedClock now(row.date, row.time);
     EXPECT_EQ(texts(&now), join("Fri 01-02-2026|", row.nextAndWaiting, wins)) << row.date << row.time;
-    const std::string tip = glanceAt(powerBall, scratch.folder(), judge, &now).newest.tip;
+    const Glance seen = glanceAt(powerBall, scratch.folder(), judge, &now);
+    EXPECT_EQ(seen.missing.text, row.missing) << row.date << row.time;
+    const std::string& tip = seen.newest.tip;
     EXPECT_EQ(tip.find("Newer draws") != std::string::npos, row.isBehind) << tip;
   }
   EXPECT_EQ(texts(nullptr), "Fri 01-02-2026|Sat 01-03-2026|no plays (2 in all)" + wins);

@@ -139,6 +139,7 @@ GlanceStrip::GlanceStrip(MainForm& form, FormWindow& window)
       form_(form),
       window_(window),
       newest_(new GlancePart(GlancePart::Look::plain, this)),
+      missing_(new GlancePart(GlancePart::Look::link, this)),
       next_(new GlancePart(GlancePart::Look::plain, this)),
       waiting_(new GlancePart(GlancePart::Look::link, this)),
       wins_(new GlancePart(GlancePart::Look::link, this)) {
@@ -146,12 +147,14 @@ GlanceStrip::GlanceStrip(MainForm& form, FormWindow& window)
   auto* parts = new Flow(this);
   parts->setContentsMargins(theme::halfGap, 0, theme::halfGap, 0);
   parts->addWidget(newest_);
+  parts->addWidget(missing_);
   parts->addWidget(line(this));
   parts->addWidget(next_);
   parts->addWidget(waiting_);
   parts->addWidget(line(this));
   parts->addWidget(wins_);
   connect(newest_, &GlancePart::clicked, this, [this] { onNewest(); });
+  connect(missing_, &GlancePart::clicked, this, [this] { onMissing(); });
   connect(next_, &GlancePart::clicked, this, [this] { onWaiting(); });
   connect(waiting_, &GlancePart::clicked, this, [this] { onWaiting(); });
   connect(wins_, &GlancePart::clicked, this, [this] { onWins(); });
@@ -166,6 +169,10 @@ void GlanceStrip::showGame() {
   const QString name = toQString(game->name);
   newest_->showPart(u"Newest %1 draw"_s.arg(name), glance.newest, u"A press shows the summary."_s,
                     ballsOf(glance, game->game));
+  const Desk& desk = window_.desk();
+  const bool isMadeUp = desk.showsMadeUpDraws && desk.showsMadeUpDraws();
+  missing_->setVisible(!glance.missing.text.empty() && !isMadeUp);
+  missing_->showPart(u"Since then"_s, glance.missing, u"A press opens Draws…, which brings them."_s);
   const QString toWaiting = u"A press shows the plays that wait."_s;
   next_->showPart(u"Next draw"_s, glance.next, toWaiting);
   waiting_->showPart(u"Waiting for it"_s, glance.waiting, toWaiting);

@@ -52,6 +52,7 @@ class GlanceStrip : public QFrame {
 
   /// What the presses lead to.
   std::function<void()> onNewest;
+  std::function<void()> onMissing;
   std::function<void()> onWaiting;
   std::function<void()> onWins;
 
@@ -59,6 +60,7 @@ class GlanceStrip : public QFrame {
   MainForm& form_;
   FormWindow& window_;
   GlancePart* newest_;
+  GlancePart* missing_;
   GlancePart* next_;
   GlancePart* waiting_;
   GlancePart* wins_;

@@ -304,6 +304,7 @@ void MainWindow::followGlance() {
   constexpr int summary = 0;
   constexpr int winnings = 2;
   glance_->onNewest = [this] { pages_->setCurrentIndex(summary); };
+  glance_->onMissing = [this] { desk().runner.attempt([this] { desk().editDraws(); }); };
   const auto showPlays = [this](PlayFilter filter) {
     pages_->setCurrentIndex(winnings);
     finish();
