@@ -118,7 +118,7 @@ std::string tornLineOf(const RuntimeError& error) {
     const os::FileBytes bytes = os::readFile(file);
     const std::optional<TornLine> torn = fields ? firstTornLine(bytes.view(), *fields) : std::nullopt;
     if (!torn) return {};
-    return join(textOf(file), ", line ", std::to_string(torn->number), ": it has fewer than ",
+    return join(textOf(file), ", line ", std::to_string(torn->number), ": it does not have ",
                 std::to_string(*fields), " fields");
   } catch (const std::exception&) {
     return {};

@@ -42,7 +42,7 @@ std::optional<FileTrouble> tornPlays(const GameInfo& game, PlaySlot slot, const 
                      .heading = join("The file of your ", game.name, " plays (", playFileName(game, slot),
                                      ") is damaged in line ", line, ":"),
                      .text = "the plays behind it cannot be read. Mend it before you go on.",
-                     .mending = join("The file is ", textOf(file), ".\n\nIts line ", line, " has fewer than ",
+                     .mending = join("The file is ", textOf(file), ".\n\nIts line ", line, " does not have ",
                                      std::to_string(playFields), " fields: ",
                                      shown.empty() ? "it is empty" : shown, "\n\n", mendingOf(file))};
 }

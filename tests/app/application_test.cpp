@@ -60,7 +60,7 @@ TEST(FileTrouble, NamesTheTornLineAndTheWholeCopies) {
     ADD_FAILURE() << "read as whole";
   } catch (const RuntimeError& error) {
     EXPECT_THAT(errorExplained(error),
-                testing::HasSubstr("QZR6PWR2.Ply, line 2: it has fewer than 8 fields"));
+                testing::HasSubstr("QZR6PWR2.Ply, line 2: it does not have 8 fields"));
   }
   // What looks odd and is whole: two records in a line, an empty last field at the end of the file.
   scratch.write(path("QZR6PWR2.Ply"),
