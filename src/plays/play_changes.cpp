@@ -14,6 +14,7 @@
 #include <array>
 #include <map>
 #include <ranges>
+#include <set>
 #include <utility>
 
 namespace tallywick {
@@ -206,6 +207,29 @@ PlayTexts readPlayTexts(const GameInfo& game, const DataFolder& folder) {
           std::string(openPlays(folder, playFilePath(game, PlaySlot::played)).text())};
 }
 
+namespace {
+
+/// For how many other draws the committed play of that record is there.
+std::size_t otherDrawsOf(const std::string& committed, std::size_t record) {
+  const std::vector<Play> plays = wholePlays(committed, {}).plays;
+  const Play& play = plays.at(record - 1);
+  std::set<std::string_view> dates;
+  for (const Play& other : plays) {
+    if (other.isListed() && other.main == play.main && other.extra == play.extra) dates.insert(other.date);
+  }
+  dates.erase(play.date);
+  return dates.size();
+}
+
+std::string removedText(const PlayTexts& before, std::span<const PlayPlace> plays) {
+  const std::string text = join(inFigures(plays.size(), "play"), " removed");
+  if (plays.size() != 1 || plays.front().file != PlaySlot::committed) return text;
+  const std::size_t others = otherDrawsOf(before.committed, plays.front().record);
+  return others == 0 ? text : join(text, "; the same play stays for ", inFigures(others, "other draw"));
+}
+
+}  // namespace
+
 PlayChange PlayChanges::remove(const PlayTexts& shown, std::span<const PlayPlace> plays) const {
   OneChange change(game_, folder_, clock_);
   change.require(shown);
@@ -217,7 +241,7 @@ PlayChange PlayChanges::remove(const PlayTexts& shown, std::span<const PlayPlace
     }
     if (!numbers.empty()) cutOut(textIn(after, slot), std::move(numbers));
   }
-  return change.make(join(inFigures(plays.size(), "play"), " removed"), after);
+  return change.make(removedText(shown, plays), after);
 }
 
 PlayChange PlayChanges::moveToPlayed(const PlayTexts& shown, std::span<const std::size_t> records) const {

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "display/winning_tickets.h"
 #include "plays/check_explained.h"
+#include "plays/drawn_plays.h"
 #include "plays/glance.h"
 #include "plays/judged_plays.h"
 #include "plays/play_changes.h"
@@ -88,6 +89,27 @@ TEST_F(MyPlays, AreInOneTableWithTheirSumsByYear) {
               ElementsAre(testing::HasSubstr("QZR6PWR1.Ply, record 2"),
                           "Drawn, and left among the next plays: 12-30-2025.",
                           "Moved to the played plays before their draw: 01-07-2026."));
+}
+
+TEST_F(MyPlays, StayForTheOtherDrawsWhereOneIsRemoved) {
+  std::string later = waiting;
+  for (const char* date : {"01-14-2026", "01-17-2026", "01-17-2026"})
+    later += date + waiting.substr(waiting.find(','));
+  write(leftBehind + waiting + later, old);
+  const std::vector<PlayPlace> one = {{PlaySlot::committed, 2}};
+  EXPECT_EQ(changes.remove(shown(), one).what, "1 play removed; the same play stays for 2 other draws");
+  EXPECT_EQ(changes.remove(shown(), std::vector<PlayPlace>{{PlaySlot::committed, 1}}).what, "1 play removed");
+}
+
+TEST_F(MyPlays, AreCountedWhenNewDrawsHaveDrawnThem) {
+  DrawnPlays drawn(scratch.folder(), judge);
+  drawn.look();
+  EXPECT_EQ(drawn.note(), "");
+  const std::string draws = scratch.read(game("QZRNUM6.Dat"));
+  scratch.write(game("QZRNUM6.Dat"), records({"01,10,2026,61,62,63,64,65,06,2"}) + draws);
+  drawn.look();
+  drawn.look();
+  EXPECT_EQ(drawn.note(), "1 of your PowerBall plays was drawn: see My Plays, on the page Winnings.");
 }
 
 TEST_F(MyPlays, AreSeenAtAGlance) {

@@ -63,6 +63,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
       trouble_(new FileTroubleStrip(form, *this)),
       glance_(new GlanceStrip(form, *this)),
       doublePlayNote_(sentences(this)),
+      drawnPlays_(desk.folder, desk.judge),
       pages_(new QTabWidget),
       listInUse_(new ListInUse(*pages_)) {
   addPages();
@@ -188,6 +189,8 @@ void MainWindow::followDraws() {
   std::vector<os::FileStamp> files = stampsOfDraws(desk().folder);
   if (files == drawFiles_) return;
   drawFiles_ = std::move(files);
+  drawnPlays_.look();
+  drawnPlaysSeen_ = false;
   finish();
   searches_->drawsChanged();
   draws_->drawsChanged();
@@ -230,6 +233,7 @@ void MainWindow::showDoublePlayNote() {
   const bool isDoublePlay = main_.frames.Frame6.visible();
   const bool isShown = isDoublePlay || page == searches || page == draws;
   QStringList notes;
+  if (const QString drawn = drawnPlaysNote(); !drawn.isEmpty()) notes += drawn;
   // The heading is the last filled summary's.
   if (isDoublePlay && main_.summary.Label19.caption().find(megaMillions.name) != std::string::npos) {
     notes +=
@@ -241,6 +245,14 @@ void MainWindow::showDoublePlayNote() {
     notes += note;
   doublePlayNote_->setText(notes.join(u'\n'));
   doublePlayNote_->setVisible(!notes.isEmpty());
+}
+
+QString MainWindow::drawnPlaysNote() {
+  constexpr int winnings = 2;
+  const bool isThere = main_.bar.SSTab1.tab() == winnings;
+  if (drawnPlaysSeen_ && !isThere) drawnPlays_.forget();
+  drawnPlaysSeen_ = isThere;
+  return toQString(drawnPlays_.note());
 }
 
 void MainWindow::addOptionEntries() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/os.h"
+#include "plays/drawn_plays.h"
 #include "ui/qt/binding/form_window.h"
 
 #include <string>
@@ -52,6 +53,8 @@ class MainWindow : public FormWindow {
   void addMenusAndStatus();
   void addOptionEntries();
   void showDoublePlayNote();
+  /// That new draws have drawn plays, until the player has been where they are.
+  QString drawnPlaysNote();
   /// What the strips over the pages say of the draws on show.
   void showNotices();
   /// Looks whether the record book has other draws than before; what was made of them then says so.
@@ -81,6 +84,9 @@ class MainWindow : public FormWindow {
   QLabel* doublePlayNote_;
   QToolButton* doublePlay_ = nullptr;
   std::vector<os::FileStamp> drawFiles_;
+  DrawnPlays drawnPlays_;
+  /// Whether the page with My Plays was in front since drawnPlays_ had a note.
+  bool drawnPlaysSeen_ = false;
   /// For which files, game and day the age of the draws was asked.
   std::tuple<std::vector<os::FileStamp>, std::string, std::string> ageAsked_;
   QTabWidget* pages_;

@@ -40,11 +40,12 @@ void requireRemovable(const SelectionForm& form, const PlayTexts& texts, std::si
 
 }  // namespace
 
-void PlayRemoval::removeCurrent(std::size_t line) {
+std::string PlayRemoval::removeCurrent(std::size_t line) {
   locked([&] { removed_.emplace_back(removeCurrentPlay(form_, line)); });
+  return "1 play removed";
 }
 
-void PlayRemoval::removeNext(std::size_t line) {
+std::string PlayRemoval::removeNext(std::size_t line) {
   const PlayTexts shown = readPlayTexts(form_.game, form_.surroundings.folder);
   const std::optional<std::size_t> record = recordOfNextPlay(form_, line);
   if (!record) throw PlaysChangedMeanwhile();
@@ -52,6 +53,7 @@ void PlayRemoval::removeNext(std::size_t line) {
   const std::array places = {PlayPlace{PlaySlot::committed, *record}};
   locked([&] { removed_.emplace_back(changesOf(form_).remove(shown, places)); });
   showNextPlays(form_);
+  return std::get<PlayChange>(removed_.back()).what;
 }
 
 bool PlayRemoval::bringBack() {

@@ -16,11 +16,11 @@ class PlayRemoval {
  public:
   explicit PlayRemoval(SelectionForm& form) : form_(form) {}
 
-  /// By the line of the list of current plays. What prevents it is raised as an exception whose text is for
-  /// the player; so do the others.
-  void removeCurrent(std::size_t line);
+  /// By the line of the list of current plays; what was done, as "1 play removed". What prevents it is raised
+  /// as an exception whose text is for the player; so do the others.
+  std::string removeCurrent(std::size_t line);
   /// By the line of the list of next plays, of which a drawn one stays.
-  void removeNext(std::size_t line);
+  std::string removeNext(std::size_t line);
 
   /// Forgets what it brings back, or cannot bring back any more. True where committed plays have changed.
   bool bringBack();

@@ -148,9 +148,9 @@ void SelectionWindow::removeFrom(const LineList& list, Remove act) {
   desk().runner.run([this, chosen, act] {
     if (!chosen.isValid()) return note(u"Choose a play in the list first, then Remove."_s);
     desk().runner.attempt([this, line = static_cast<std::size_t>(chosen.row()), act] {
-      (removedPlays_.*act)(line);
+      const std::string done = (removedPlays_.*act)(line);
       undo_.push_back(Undo::play);
-      note(u"The play was removed; Ctrl+Z brings it back."_s);
+      note(u"%1. Ctrl+Z brings it back."_s.arg(toQString(done)));
       showCommittedElsewhere();
     });
   });

@@ -36,7 +36,7 @@ class SelectionWindow : public FormWindow {
   QWidget* slipSide();
   QWidget* listSide();
   QWidget* headedChoice(Label& label, char mnemonic, ComboBox& combo);
-  using Remove = void (PlayRemoval::*)(std::size_t line);
+  using Remove = std::string (PlayRemoval::*)(std::size_t line);
   /// A list whose plays can be taken away.
   QWidget* removableChoice(Label& label, char mnemonic, ComboBox& combo, QToolButton* button, Remove act);
   QWidget* savedTexts();
