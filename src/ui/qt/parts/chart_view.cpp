@@ -31,8 +31,10 @@ constexpr double barWidth = 0.6;
 constexpr double headroom = 1.15;
 constexpr double leastHeight = 5;
 constexpr int wantedTicks = 5;
-/// The plot beside the table is at least so wide.
+/// The plot beside the table is at least so wide, and so high under its heading; the table below it so high.
 constexpr int plotLetters = 40;
+constexpr int plotLines = 10;
+constexpr int tableLines = 5;
 
 /// The text with line ends where its words pass `width`.
 QString wrapped(const QString& text, const QFont& face, int width) {
@@ -70,7 +72,6 @@ ChartView::ChartView(HandlerRunner& runner, QWidget* parent)
   parts_->addWidget(plot_, 1);
   parts_->addWidget(table_);
   setFocusPolicy(Qt::StrongFocus);
-  plot_->setMinimumHeight(22 * theme::gap);
   plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
   plot_->setFocusPolicy(Qt::NoFocus);
   plot_->plotLayout()->insertRow(0);
@@ -156,6 +157,9 @@ void ChartView::arrange() {
   const int room = isNarrow ? width() : width() - needed;
   const QString text = explanation_.isEmpty() ? title_ : title_ + u'\n' + explanation_;
   heading_->setText(wrapped(text, heading_->font(), room - 4 * theme::gap));
+  const int line = fontMetrics().lineSpacing();
+  plot_->setMinimumHeight((plotLines + static_cast<int>(heading_->text().count(u'\n'))) * line);
+  table_->setMinimumHeight(isNarrow ? tableLines * line : 0);
 }
 
 void ChartView::resizeEvent(QResizeEvent* event) {
