@@ -10,6 +10,7 @@
 #include "ui/qt/pages/summary_view.h"
 #include "ui/qt/pages/winnings_view.h"
 #include "ui/qt/parts/ball.h"
+#include "ui/qt/parts/flow.h"
 #include "ui/qt/parts/handler_runner.h"
 #include "ui/qt/parts/later_page.h"
 #include "ui/qt/parts/layouts.h"
@@ -30,6 +31,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
@@ -83,6 +85,7 @@ MainWindow::MainWindow(MainForm& form, const Desk& desk)
     showDoublePlayNote();
     greyUnset();
     showPages();
+    placeGameShown();
   };
   binding().onPress = [this, press = binding().onPress](Control& control) {
     if (!mayPress(control)) return;
@@ -105,7 +108,8 @@ void MainWindow::addPages() {
                [this] { return searches_ = new SearchView(main_, desk().folder, binding()); });
   addLaterPage(u"&Winnings"_s, [this] { return winnings_ = new WinningsView(main_, *this); });
   addLaterPage(u"&Draws"_s, [this] { return draws_ = new DrawsView(main_, binding()); });
-  pages_->setCornerWidget(gameShown());
+  gameShown_ = gameShown();
+  pages_->setCornerWidget(gameShown_);
   binding().bind(main_.bar.SSTab1, *pages_);
 
   doublePlayNote_->hide();
@@ -162,7 +166,7 @@ void MainWindow::showPages() {
 
 QWidget* MainWindow::gameShown() {
   auto* box = new QWidget;
-  auto* line = new QHBoxLayout(box);
+  auto* line = new Flow(box);
   line->setContentsMargins(theme::gap, 0, theme::gap, theme::gap);
   const std::array<std::pair<Frame*, QString>, 4> games = {
       {{&main_.frames.Frame4, u"PowerBall"_s},
@@ -183,6 +187,35 @@ QWidget* MainWindow::gameShown() {
     desk().runner.run([this, isShown] { desk().showDoublePlay(!isShown); });
   });
   return box;
+}
+
+void MainWindow::placeGameShown() {
+  auto& column = static_cast<QBoxLayout&>(*pages_->parentWidget()->layout());
+  const int needed = pages_->tabBar()->sizeHint().width() + gameShown_->sizeHint().width();
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const bool fits = needed <= width() - bar - 2 * theme::gap;
+  if (fits == (pages_->cornerWidget() != nullptr)) return;
+  if (fits) {
+    column.removeWidget(gameShown_);
+    pages_->setCornerWidget(gameShown_);
+  } else {
+    pages_->setCornerWidget(nullptr);
+    column.insertWidget(column.indexOf(pages_), gameShown_);
+  }
+  gameShown_->show();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  FormWindow::resizeEvent(event);
+  placeGameShown();
+}
+
+bool MainWindow::event(QEvent* event) {
+  const bool isTaken = FormWindow::event(event);
+  // The widgets get it after their window.
+  if (event->type() == QEvent::ApplicationFontChange)
+    QTimer::singleShot(0, this, &MainWindow::placeGameShown);
+  return isTaken;
 }
 
 void MainWindow::followDraws() {

@@ -41,6 +41,8 @@ class MainWindow : public FormWindow {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void addPages();
@@ -69,6 +71,8 @@ class MainWindow : public FormWindow {
   /// Greys what the settings have no address for.
   void greyUnset();
   QWidget* gameShown();
+  /// Beside the tabs, or over them where there is too little room for both.
+  void placeGameShown();
   /// Empty lists get the titles of the game on show; the others keep those of their lines. Balls get its
   /// look.
   void followGame();
@@ -82,6 +86,7 @@ class MainWindow : public FormWindow {
   FileTroubleStrip* trouble_;
   GlanceStrip* glance_;
   QLabel* doublePlayNote_;
+  QWidget* gameShown_ = nullptr;
   QToolButton* doublePlay_ = nullptr;
   std::vector<os::FileStamp> drawFiles_;
   DrawnPlays drawnPlays_;
