@@ -12,7 +12,6 @@
 #include "ui/qt/parts/line_list.h"
 
 #include <QFrame>
-#include <QGridLayout>
 #include <QPainter>
 #include <algorithm>
 
@@ -212,18 +211,18 @@ QWidget* SummaryView::amounts(MainForm& form, Binding& binding) {
       binding, box);
 
   auto* luckyFive = new QWidget(box);
+  // They wrap, and do not widen the page.
+  luckyFive->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* parts = columnIn(luckyFive);
   parts->setSpacing(theme::halfGap);
-  auto* meaning = new QLabel(u"Left over from another game, as the last three prizes above:"_s, luckyFive);
+  auto* meaning = sentences(luckyFive);
+  meaning->setText(u"Left over from another game, as the last three prizes above:"_s);
   parts->addWidget(meaning);
-  auto* headings = new QGridLayout;
-  headings->setSpacing(theme::halfGap);
+  auto* headings = new Flow;
   parts->addLayout(headings);
-  int place = 0;
   for (Label* label : {&page.Label27, &page.Label28, &page.Label29, &page.Label30, &page.Label31}) {
     auto* line = new DimmedLabel(luckyFive);
-    headings->addWidget(line, place / 2, place % 2);
-    ++place;
+    headings->addWidget(line);
     binding.bind(*label, *line, [](std::string_view caption) { return asLabel()(caption).simplified(); });
   }
   column->addWidget(luckyFive);
