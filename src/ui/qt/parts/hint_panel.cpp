@@ -67,6 +67,11 @@ HintPanel::HintPanel(int lines, QWidget* parent)
   color();
 }
 
+void HintPanel::setLines(int lines) {
+  lines_ = lines;
+  updateGeometry();
+}
+
 void HintPanel::show(Kind kind, const QString& heading, const QString& text) {
   if (kind == kind_ && heading == heading_->text() && text == text_->text()) return;
   kind_ = kind;

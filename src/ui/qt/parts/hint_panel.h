@@ -15,6 +15,7 @@ class HintPanel : public QFrame {
 
   /// `lines`: for how many lines of text there is room.
   HintPanel(int lines, QWidget* parent);
+  void setLines(int lines);
 
   /// `heading` is in bold, over the text; empty for none.
   void show(Kind kind, const QString& heading, const QString& text);

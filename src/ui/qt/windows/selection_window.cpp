@@ -39,17 +39,19 @@ HintPanel::Kind kindOf(MarksHint::Kind kind) {
 
 SelectionWindow::SelectionWindow(SelectionForm& form, const Desk& desk)
     : FormWindow(form, desk), selection_(form), removedPlays_(form) {
-  auto* sides = new Sides(u"sides"_s, Sides::Room::least);
-  sides->addWidget(slipSide());
-  sides->addWidget(listSide());
-  sides->setStretchFactor(1, 1);
-  sides->setHandleWidth(theme::pageMargin);
+  sides_ = new Sides(u"sides"_s, Sides::Room::least);
+  sides_->addWidget(slipSide());
+  sides_->addWidget(listSide());
+  sides_->setStretchFactor(1, 1);
+  sides_->setHandleWidth(theme::pageMargin);
   auto* scrolling = new QWidget;
-  columnIn(scrolling, theme::gap)->addWidget(sides);
+  columnIn(scrolling, theme::gap)->addWidget(sides_);
   auto* content = new QWidget;
   auto* column = columnIn(content);
   column->addWidget(scrolled(scrolling), 1);
-  column->addLayout(actions());
+  column->addLayout(hintPlace_ = new QVBoxLayout);
+  hintPlace_->setContentsMargins(theme::gap, 0, theme::gap, 0);
+  column->addLayout(actions_ = actions());
   setCentralWidget(content);
   QWidget* before = slip_->findChildren<QWidget*>().back();
   for (auto* button : content->findChildren<QPushButton*>(Qt::FindDirectChildrenOnly)) {

@@ -8,6 +8,7 @@
 #include "ui/qt/windows/play_removal.h"
 
 class QBoxLayout;
+class QLayout;
 class QPushButton;
 class QToolButton;
 
@@ -15,6 +16,7 @@ namespace tallywick {
 
 class Flow;
 class HintPanel;
+class Sides;
 class LineList;
 class Slip;
 
@@ -31,6 +33,8 @@ class SelectionWindow : public FormWindow {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   QWidget* slipSide();
@@ -42,6 +46,8 @@ class SelectionWindow : public FormWindow {
   QWidget* savedTexts();
   /// Always in sight, however far the rest is scrolled.
   QLayout* actions();
+  /// Beside the slip, or over the actions where the slip scrolls, so that Select never surprises.
+  void placeHint();
   void addDrawCount(QBoxLayout& column, QWidget* parent);
   void addBringBack(Flow& line, QWidget* parent);
   void addStatus();
@@ -63,6 +69,10 @@ class SelectionWindow : public FormWindow {
   SelectionForm& selection_;
   Slip* slip_ = nullptr;
   HintPanel* hint_ = nullptr;
+  Sides* sides_ = nullptr;
+  QBoxLayout* slipColumn_ = nullptr;
+  QBoxLayout* hintPlace_ = nullptr;
+  QLayout* actions_ = nullptr;
   QPushButton* waitingSelect_ = nullptr;
   QPushButton* bringBack_ = nullptr;
   QToolButton* removeCurrent_ = nullptr;

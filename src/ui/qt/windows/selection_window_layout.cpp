@@ -14,7 +14,9 @@
 
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 #include <array>
 
 namespace tallywick {
@@ -27,12 +29,16 @@ namespace {
 constexpr int leastRows = 2;
 /// The marks, what an action did and what Select will do.
 constexpr int hintLines = 4;
+/// Over the actions it is wider.
+constexpr int pinnedLines = 2;
 
-/// A sentence with room for two lines, whatever the toolkit would like for it.
+/// Sentences as wide as their column, with room for two lines at least.
 class TwoLines : public Sentences {
  public:
   using Sentences::Sentences;
-  QSize sizeHint() const override { return {0, 2 * fontMetrics().lineSpacing()}; }
+  QSize sizeHint() const override {
+    return {0, std::max(2 * fontMetrics().lineSpacing(), Sentences::sizeHint().height())};
+  }
   QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
@@ -53,9 +59,41 @@ QWidget* SelectionWindow::slipSide() {
   column->addWidget(slip_, 0, Qt::AlignLeft);
   hint_ = new HintPanel(hintLines, side);
   column->addWidget(hint_);
+  slipColumn_ = column;
   addDrawCount(*column, side);
   column->addStretch();
   return side;
+}
+
+void SelectionWindow::placeHint() {
+  const bool isPinned = hintPlace_->count() > 0;
+  const int own = isPinned ? hintLines * (fontMetrics().lineSpacing() + 1) + 3 * theme::gap : 0;
+  const int slip = slipColumn_->minimumSize().height() + own;
+  const int lists = sides_->widget(1)->minimumSizeHint().height();
+  const bool areBeside = sides_->orientation() == Qt::Horizontal;
+  const int room = centralWidget()->height() - actions_->sizeHint().height() - 2 * theme::gap;
+  const bool scrolls = (areBeside ? std::max(slip, lists) : slip + lists) > room;
+  if (scrolls == isPinned) return;
+  hint_->setLines(scrolls ? pinnedLines : hintLines);
+  if (scrolls) {
+    slipColumn_->removeWidget(hint_);
+    hintPlace_->addWidget(hint_);
+  } else {
+    hintPlace_->removeWidget(hint_);
+    slipColumn_->insertWidget(slipColumn_->indexOf(slip_) + 1, hint_);
+  }
+}
+
+void SelectionWindow::resizeEvent(QResizeEvent* event) {
+  FormWindow::resizeEvent(event);
+  placeHint();
+}
+
+bool SelectionWindow::event(QEvent* event) {
+  const bool isTaken = FormWindow::event(event);
+  // In another text size.
+  if (event->type() == QEvent::ApplicationFontChange) QTimer::singleShot(0, this, [this] { placeHint(); });
+  return isTaken;
 }
 
 QLayout* SelectionWindow::actions() {
