@@ -59,8 +59,7 @@ TEST(FileTrouble, NamesTheTornLineAndTheWholeCopies) {
     const PlayFile plays(scratch.folder(), path("QZR6PWR2.Ply"));
     ADD_FAILURE() << "read as whole";
   } catch (const RuntimeError& error) {
-    EXPECT_THAT(errorExplained(error),
-                testing::HasSubstr("QZR6PWR2.Ply, line 2: it does not have 8 fields"));
+    EXPECT_THAT(errorExplained(error), testing::HasSubstr("QZR6PWR2.Ply, line 2: it does not have 8 fields"));
   }
   // What looks odd and is whole: two records in a line, an empty last field at the end of the file.
   scratch.write(path("QZR6PWR2.Ply"),

@@ -72,6 +72,26 @@ TEST_F(Windows, ShowPlaysWithWhatTheyMatchedOnScreenAndOnPaper) {
   EXPECT_TRUE(page.contains(QStringLiteral("<p><b>Sample draws.</b>")));
 }
 
+TEST_F(Windows, SayWhichFileIsDamagedUntilItIsMended) {
+  writeRecordBook(scratch);
+  FormWindow& main = open("Form1");
+  const auto comeBackTo = [&main](QAbstractButton* button) {
+    QEvent activation(QEvent::WindowActivate);
+    QApplication::sendEvent(&main, &activation);
+    return button->isVisible();
+  };
+  const auto buttons = main.findChildren<QPushButton*>();
+  QPushButton* const help = *std::ranges::find(buttons, QStringLiteral("What to Do…"), &QPushButton::text);
+  EXPECT_FALSE(comeBackTo(help));
+  scratch.write("QzrNumbers/QZR6MEG/QZR6MEG1.Ply", "12-29-2026,01\r\n");
+  EXPECT_TRUE(comeBackTo(help)) << "a game that is not on show";
+  answerNextBox(QMessageBox::Ok);
+  help->click();
+  EXPECT_TRUE(boxText.contains(QStringLiteral("(QZR6MEG1.Ply) is damaged in line 1")));
+  scratch.write("QzrNumbers/QZR6MEG/QZR6MEG1.Ply", "");
+  EXPECT_FALSE(comeBackTo(help));
+}
+
 TEST_F(Windows, SortTheNumberTableByAColumn) {
   writeRecordBook(scratch);
   open("Form1");

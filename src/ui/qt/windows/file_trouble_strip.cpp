@@ -35,7 +35,11 @@ FileTroubleStrip::FileTroubleStrip(MainForm& form, FormWindow& window)
 }
 
 bool FileTroubleStrip::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowActivate && !window_.binding().isReleased()) showFiles();
+  if (event->type() == QEvent::WindowActivate && !window_.binding().isReleased()) {
+    const bool wasShown = shown_.has_value();
+    showFiles();
+    if (wasShown != shown_.has_value() && onChanged) onChanged();
+  }
   return QWidget::eventFilter(watched, event);
 }
 

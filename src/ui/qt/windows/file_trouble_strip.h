@@ -6,6 +6,7 @@
 #include "core/remembered.h"
 
 #include <QWidget>
+#include <functional>
 #include <map>
 
 namespace tallywick {
@@ -19,6 +20,8 @@ class FileTroubleStrip : public QWidget {
   FileTroubleStrip(MainForm& form, FormWindow& window);
   /// Reads the files anew where they have changed. The game on show comes first.
   void showFiles();
+  /// Called where another program has damaged or mended a file.
+  std::function<void()> onChanged;
 
  protected:
   /// A file may have been mended while another program was in front.

@@ -348,6 +348,7 @@ void MainWindow::addFileEntries() {
 void MainWindow::followGlance() {
   constexpr int summary = 0;
   constexpr int winnings = 2;
+  trouble_->onChanged = [this] { glance_->showGame(); };
   glance_->onNewest = [this] { pages_->setCurrentIndex(summary); };
   glance_->onMissing = [this] { desk().runner.attempt([this] { desk().editDraws(); }); };
   const auto showPlays = [this](PlayFilter filter) {
