@@ -21,6 +21,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTextDocument>
 #include <algorithm>
@@ -65,6 +66,25 @@ std::optional<std::size_t> linesToPrint(QAbstractItemView& view) {
   return std::nullopt;
 }
 
+/// The width of a page that a document fills, in the points of its own layout.
+double roomOn(const QPrinter& printer) {
+  constexpr double margins = 4 / 2.54;
+  return (printer.pageRect(QPrinter::Inch).width() - margins) *
+         QGuiApplication::primaryScreen()->logicalDotsPerInchX();
+}
+
+/// A table that is wider than the paper would break inside its words: the page is turned, then the letters
+/// get smaller.
+void fitPaper(QTextDocument& document, QPrinter& printer) {
+  constexpr double smallest = 6;
+  const double needed = document.idealWidth();
+  if (needed > roomOn(printer)) printer.setPageOrientation(QPageLayout::Landscape);
+  if (needed <= roomOn(printer)) return;
+  QFont font = document.defaultFont();
+  font.setPointSizeF(std::max(smallest, 0.95 * font.pointSizeF() * roomOn(printer) / needed));
+  document.setDefaultFont(font);
+}
+
 void print(QAbstractItemView& view, const ViewTexts& texts) {
   const std::optional<std::size_t> lines = linesToPrint(view);
   if (!lines) return;
@@ -73,6 +93,7 @@ void print(QAbstractItemView& view, const ViewTexts& texts) {
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument document;
   document.setHtml(u"<h3>%1</h3>%2"_s.arg(view.accessibleName().toHtmlEscaped(), texts.table(*lines)));
+  fitPaper(document, printer);
   document.print(&printer);
 }
 
