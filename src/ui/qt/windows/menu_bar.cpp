@@ -46,9 +46,9 @@ Wording wordingOf(const MenuEntry& entry) {
 /// The desktop's, and Ctrl+Q where it has none or others. The same key twice would do nothing.
 QList<QKeySequence> exitKeys() {
   const QKeySequence usual(Qt::CTRL | Qt::Key_Q);
-  QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Quit);
-  if (!keys.contains(usual)) keys += usual;
-  return keys;
+  QList<QKeySequence> all = QKeySequence::keyBindings(QKeySequence::Quit);
+  if (!all.contains(usual)) all += usual;
+  return all;
 }
 
 QMenu* newMenu(QMenuBar& bar, QMenu* parent) {
