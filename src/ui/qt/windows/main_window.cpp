@@ -194,25 +194,15 @@ void MainWindow::placeGameShown() {
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const bool fits = needed <= width() - bar - 2 * theme::gap;
   if (fits == (pages_->cornerWidget() != nullptr)) return;
-  if (fits) {
-    column.removeWidget(gameShown_);
-    pages_->setCornerWidget(gameShown_);
-  } else {
-    pages_->setCornerWidget(nullptr);
-    column.insertWidget(column.indexOf(pages_), gameShown_);
-  }
+  pages_->setCornerWidget(fits ? gameShown_ : nullptr);
+  if (!fits) column.insertWidget(column.indexOf(pages_), gameShown_);
   gameShown_->show();
-}
-
-void MainWindow::resizeEvent(QResizeEvent* event) {
-  FormWindow::resizeEvent(event);
-  placeGameShown();
 }
 
 bool MainWindow::event(QEvent* event) {
   const bool isTaken = FormWindow::event(event);
   // The widgets get it after their window.
-  if (event->type() == QEvent::ApplicationFontChange)
+  if (event->type() == QEvent::Resize || event->type() == QEvent::ApplicationFontChange)
     QTimer::singleShot(0, this, &MainWindow::placeGameShown);
   return isTaken;
 }

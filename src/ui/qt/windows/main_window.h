@@ -41,7 +41,6 @@ class MainWindow : public FormWindow {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
