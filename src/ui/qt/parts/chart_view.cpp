@@ -150,11 +150,11 @@ void ChartView::arrange() {
   for (int column = 0; column < table_->columnCount(); ++column)
     needed += std::max(titles.sectionSizeHint(column), table.sizeHintForColumn(column));
   // On a page that was not shown yet it has no width of its own.
-  const bool isNarrow =
-      testAttribute(Qt::WA_Resized) && width() < needed + plotLetters * fontMetrics().averageCharWidth();
+  const int whole = testAttribute(Qt::WA_Resized) ? width() : QWIDGETSIZE_MAX;
+  const bool isNarrow = whole < needed + plotLetters * fontMetrics().averageCharWidth();
   parts_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   table_->setMinimumWidth(isNarrow ? 0 : needed);
-  const int room = isNarrow ? width() : width() - needed;
+  const int room = isNarrow ? whole : whole - needed;
   const QString text = explanation_.isEmpty() ? title_ : title_ + u'\n' + explanation_;
   heading_->setText(wrapped(text, heading_->font(), room - 4 * theme::gap));
   const int line = fontMetrics().lineSpacing();
