@@ -172,6 +172,10 @@ TEST_P(Walk, ThroughEveryWindow) {
   FormWindow& main = open("Form1");
   if (GetParam().isUsed) usePages(main);
   lookAtTabs(main, *main.findChild<QTabWidget*>(QStringLiteral("SSTab1")));
+  if (GetParam().isUsed) {
+    press("Form1", {"Command4"});
+    lookAt(main);
+  }
   isAllShown = true;
   platform.run([] {});
   lookAt(main);

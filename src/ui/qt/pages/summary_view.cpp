@@ -144,7 +144,9 @@ SummaryView::SummaryView(MainForm& form, FormWindow& window) {
   sides->setStretchFactor(1, 1);
   // By their size hints the plays' side would be too narrow for what they matched.
   sides->setSizes({1000, 1000});
-  columnIn(this, theme::gap)->addWidget(sides);
+  auto* column = columnIn(this, theme::gap);
+  column->addWidget(sides, 1);
+  column->addWidget(luckyFive(form, window.binding()));
 }
 
 QWidget* SummaryView::drawsSide(MainForm& form, Binding& binding) {
@@ -209,24 +211,26 @@ QWidget* SummaryView::amounts(MainForm& form, Binding& binding) {
       *column,
       {page.Label17, 'A', page.List3, {LineField::date, LineField::amount}, &page.Label18, &amountStar}, form,
       binding, box);
+  return box;
+}
 
-  auto* luckyFive = new QWidget(box);
-  // They wrap, and do not widen the page.
-  luckyFive->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  auto* parts = columnIn(luckyFive);
+/// Below the lists, whose splitters would not make room for what comes with a game.
+QWidget* SummaryView::luckyFive(MainForm& form, Binding& binding) {
+  SummaryPage& page = form.summary;
+  auto* box = new QWidget(this);
+  auto* parts = columnIn(box);
   parts->setSpacing(theme::halfGap);
-  auto* meaning = sentences(luckyFive);
-  meaning->setText(u"Left over from another game, as the last three prizes above:"_s);
+  auto* meaning = sentences(box);
+  meaning->setText(u"Left over from another game, as the last three prizes among the amounts:"_s);
   parts->addWidget(meaning);
   auto* headings = new Flow;
   parts->addLayout(headings);
   for (Label* label : {&page.Label27, &page.Label28, &page.Label29, &page.Label30, &page.Label31}) {
-    auto* line = new DimmedLabel(luckyFive);
+    auto* line = new DimmedLabel(box);
     headings->addWidget(line);
     binding.bind(*label, *line, [](std::string_view caption) { return asLabel()(caption).simplified(); });
   }
-  column->addWidget(luckyFive);
-  binding.bind(form.frames.Frame12, *luckyFive);
+  binding.bind(form.frames.Frame12, *box);
   return box;
 }
 

@@ -28,6 +28,7 @@ class SummaryView : public QWidget {
   QWidget* playsSide(MainForm& form, FormWindow& window);
   QWidget* frequentNumbers(MainForm& form, Binding& binding);
   QWidget* amounts(MainForm& form, Binding& binding);
+  QWidget* luckyFive(MainForm& form, Binding& binding);
 };
 
 }  // namespace tallywick
