@@ -73,7 +73,7 @@ constexpr WindowStep walk[] = {
     {"press Back to PowerBall", "back to PowerBall"},
     {"press Draws"},
     {"press Number Table", "open Number Table"},
-    {"press Sort by Draws since", "Number Table: sort"},
+    {"press Sort by Since", "Number Table: sort"},
     {"press Sort by Number"},
     {"press Charts and Newest Draws"},
     {"press Draws…"},
