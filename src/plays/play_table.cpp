@@ -143,7 +143,10 @@ std::string prizeText(const JudgedPlay& play) {
 
 std::string doublePlayText(const JudgedPlay& play) {
   if (!play.doublePlay) return "";
-  return join(matchText(*play.doublePlay, Game::powerBall), winsDoublePlay(play) ? ": won" : "");
+  const std::string matched = matchText(*play.doublePlay, Game::powerBall);
+  if (winsDoublePlay(play)) return join(matched, ": won");
+  const bool hasMatch = play.doublePlay->extra || !play.doublePlay->whites.empty();
+  return hasMatch ? join(matched, ": not won") : matched;
 }
 
 std::vector<std::string> playCellTitles(Game game) {
