@@ -177,7 +177,8 @@ QWidget* SummaryView::frequentNumbers(MainForm& form, Binding& binding) {
   QHBoxLayout* balls = ballRow(numbers, gameOnShowOf(form.frames), binding, box);
   balls->addStretch();
   auto* list = new LineList(page.List5.items(), box);
-  list->setPlaceholder(u"No number of the newest draw came up in the five draws before it."_s);
+  list->setPlaceholder(
+      u"Numbers of the newest draw that came up in the five draws before it are listed here. There is none now."_s);
   showInColumns(*list, drawFieldsShown, gameOnShowOf(form.frames));
   highlightFrequentNumbers(*list, page);
   title->setBuddy(list);
